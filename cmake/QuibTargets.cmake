@@ -1,0 +1,56 @@
+# What every target of this project is compiled with.
+add_library(quib_options INTERFACE)
+add_library(Quib::options ALIAS quib_options)
+target_compile_options(quib_options INTERFACE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor
+    -Woverloaded-virtual -Wold-style-cast -Wconversion -Wsign-conversion
+    -Wno-missing-field-initializers # a designated initialiser names what differs from the defaults
+    $<$<BOOL:${QUIB_WERROR}>:-Werror>)
+target_compile_definitions(quib_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
+    QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_STRICT_ITERATORS
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(QUIB_SANITIZE)
+    target_compile_options(quib_options INTERFACE -fsanitize=${QUIB_SANITIZE} -fno-omit-frame-pointer)
+    target_link_options(quib_options INTERFACE -fsanitize=${QUIB_SANITIZE})
+endif()
+
+# quib_library(model SOURCES store.cpp ... LINKS Qt6::Core): one static library per folder.
+# With QML_URI the library is a QML module too.
+function(quib_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "QML_URI" "SOURCES;LINKS;QML_FILES")
+    qt_add_library(quib_${name} STATIC ${arg_SOURCES})
+    add_library(Quib::${name} ALIAS quib_${name})
+    target_include_directories(quib_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(quib_${name} PUBLIC ${arg_LINKS} PRIVATE Quib::options)
+    if(arg_QML_URI)
+        foreach(file IN LISTS arg_QML_FILES)
+            cmake_path(GET file FILENAME alias)
+            set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS ${alias})
+        endforeach()
+        qt_add_qml_module(quib_${name} URI ${arg_QML_URI} VERSION 1.0 RESOURCE_PREFIX /qt/qml
+            DEPENDENCIES QtQuick QML_FILES ${arg_QML_FILES})
+    else()
+        qt_extract_metatypes(quib_${name}) # so that QML tools know the types of this library
+        target_compile_options(quib_${name} PRIVATE -Wshadow) # Qt 6.4's generated QML code shadows
+    endif()
+endfunction()
+
+# quib_test(model/tst_store.cpp LINKS Quib::model): one executable and one CTest entry per file.
+# BUS gives the test a session bus of its own, DISPLAY an X server of its own.
+function(quib_test file)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "BUS;DISPLAY" "" "LINKS")
+    cmake_path(GET file STEM name)
+    qt_add_executable(${name} ${file})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(${name} PRIVATE Qt6::Test Quib::options ${arg_LINKS})
+    set(platform offscreen)
+    if(arg_BUS)
+        set(in_a_bus dbus-run-session --)
+    endif()
+    if(arg_DISPLAY)
+        set(platform xcb)
+        set(on_a_display xvfb-run -a -s "-screen 0 1600x900x24 -nolisten tcp" --)
+    endif()
+    add_test(NAME ${name} COMMAND ${on_a_display} ${in_a_bus} $<TARGET_FILE:${name}>)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 60 ENVIRONMENT
+        "QT_QPA_PLATFORM=${platform};QT_QUICK_BACKEND=software;TZ=UTC;LC_ALL=C.UTF-8")
+endfunction()

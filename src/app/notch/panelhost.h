@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QObject>
+#include <QPainterPath>
+#include <QRectF>
+#include <QRegion>
+
+#include <optional>
+
+class QWindow;
+
+namespace quib {
+
+/// What the shell asks of the window system for its one panel. Implemented once per platform;
+/// everything on the main thread. The window is borrowed and may die first.
+class PanelHost : public QObject {
+    Q_OBJECT
+
+public:
+    /// Called once, before the window is shown.
+    virtual void adopt(QWindow& window) = 0;
+    /// In global points.
+    virtual void place(const QRectF& frame) = 0;
+    /// In points of the window. Clicks outside the region reach what lies beneath.
+    virtual void setInputRegion(const QRegion& region) = 0;
+    /// The outline of what is drawn, in points of the window. Matters where nothing blends the
+    /// window with what lies beneath; elsewhere it costs nothing.
+    virtual void setVisibleShape(const QPainterPath& shape) = 0;
+    virtual void orderFront() = 0;
+    /// Remembers who has the keyboard and takes it; nothing when the panel has it already.
+    virtual void takeKeyboard() = 0;
+    /// To the window that had it, if the panel took it and still has it. `click` is the stamp of
+    /// the click that ended our use, if one did.
+    virtual void giveBackKeyboard(std::optional<quint32> click) = 0;
+};
+
+} // namespace quib

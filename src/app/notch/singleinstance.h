@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QObject>
+
+namespace quib {
+
+/// One running program for each data folder. Implemented once per platform.
+class SingleInstance : public QObject {
+    Q_OBJECT
+
+public:
+    /// True when this process is the only one for the folder, now and until it ends. Otherwise the
+    /// one that runs already has been told to open its panel. Called once.
+    virtual bool claim(const QString& dataFolder) = 0;
+
+Q_SIGNALS:
+    /// Another start asked for the panel.
+    void activated();
+};
+
+} // namespace quib

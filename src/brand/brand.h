@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QColor>
+#include <QObject>
+
+#include <qqmlintegration.h>
+
+namespace quib {
+
+/// The palette, for C++ and for views: the only place with a colour's numbers.
+class Brand : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(QColor purple READ purple CONSTANT)
+    Q_PROPERTY(QColor glow READ glow CONSTANT)
+    Q_PROPERTY(QColor deep READ deep CONSTANT)
+    Q_PROPERTY(QColor live READ live CONSTANT)
+    Q_PROPERTY(QColor muted READ muted CONSTANT)
+    Q_PROPERTY(QColor muted2 READ muted2 CONSTANT)
+    Q_PROPERTY(QColor card READ card CONSTANT)
+    Q_PROPERTY(QColor cardStroke READ cardStroke CONSTANT)
+
+public:
+    static QColor purple() { return {139, 92, 246}; }
+    static QColor glow() { return {167, 139, 250}; }
+    static QColor deep() { return {91, 33, 182}; }
+    static QColor live() { return {16, 185, 129}; }
+    static QColor muted() { return {168, 164, 184}; }
+    static QColor muted2() { return {122, 117, 136}; }
+    static QColor card() { return QColor::fromRgbF(1, 1, 1, 0.055F); }
+    static QColor cardStroke() { return QColor::fromRgbF(1, 1, 1, 0.07F); }
+
+    /// The colour of a client's status, given its raw text; muted2 for any other text.
+    Q_INVOKABLE static QColor color(const QString& status);
+    /// White at an opacity from 0 to 1: the surfaces that lie on the card.
+    Q_INVOKABLE static QColor white(double opacity);
+};
+
+} // namespace quib

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "model/clock.h"
+#include "model/quibdata.h"
+#include "model/scheduler.h"
+#include "model/totals.h"
+#include "model/userlocale.h"
+
+#include <QObject>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace quib {
+
+class DataSaver;
+
+/// The one owner of the workspace, on the main thread. Every operation changes it in one step,
+/// announces what changed, and has it saved 0.4 s after the last change.
+/// Ids may repeat in a file that a hand edited: a look-up or a toggle means the first, a deletion
+/// all of them.
+class Store : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(bool hasRunningEntry READ hasRunningEntry NOTIFY entriesChanged)
+    Q_PROPERTY(QDateTime runningSince READ runningSince NOTIFY entriesChanged)
+    Q_PROPERTY(QString notes READ notes WRITE setNotes NOTIFY notesChanged)
+
+public:
+    /// What the store needs of the world around it. The defaults are the real ones.
+    struct Surroundings {
+        Clock clock = systemClock;
+        Scheduler schedule = scheduleOnMainLoop;
+        /// Full path of the installed application of that unlocalised name, or absent. Asked only
+        /// to build the sample data.
+        std::function<std::optional<QString>(const QString& name)> findApplication;
+        UserLocale locale = UserLocale::fromEnvironment();
+    };
+
+    /// Loads data.json from the data folder, else builds sample data. Never fails.
+    explicit Store(Surroundings surroundings = {}, QObject* parent = nullptr);
+    ~Store() override;
+
+    /// The data folder, made with its parents each time it is asked for; a failure to make it shows
+    /// in the use of it.
+    static QString folder();
+
+    const QuibData& data() const { return m_data; }
+    void setData(const QuibData& data);
+
+    std::optional<Client> client(const std::optional<QUuid>& id) const;
+    QString notes() const { return m_data.notes; }
+    std::optional<TimeEntry> runningEntry() const;
+    bool hasRunningEntry() const { return m_runningRow >= 0; } ///< At no cost: asked 60 times a second.
+    QDateTime runningSince() const; ///< Invalid when no timer runs.
+    QList<TimeEntry> entries(const QDateTime& since) const;
+    QList<ClientTotal> totals(const QDateTime& since) const;
+
+    /// The id of the new client, for the caller to open it for editing.
+    Q_INVOKABLE QUuid addClient();
+    Q_INVOKABLE void deleteClient(const QUuid& id);
+    /// Replaces the first client of that id; unknown ids change nothing.
+    void updateClient(const Client& client);
+    void addTask(const QString& title, const std::optional<QUuid>& client);
+    Q_INVOKABLE void toggleTask(const QUuid& id);
+    Q_INVOKABLE void deleteTask(const QUuid& id);
+    Q_INVOKABLE void clearDoneTasks();
+    /// Addresses that are no files are passed over.
+    Q_INVOKABLE void addToShelf(const QList<QUrl>& urls);
+    Q_INVOKABLE void removeFromShelf(const QUuid& id);
+    void setNotes(const QString& notes);
+    void startTimer(const std::optional<QUuid>& client, const QString& note);
+    Q_INVOKABLE void stopTimer();
+    /// Where the timesheet was written; absent when it could not be.
+    std::optional<QUrl> exportTimesheet() const;
+
+    void scheduleSave();
+    /// Writes at once what is not on disk yet; waits for a write in progress first.
+    void saveNow();
+
+Q_SIGNALS:
+    void clientsChanged();
+    void tasksChanged();
+    void entriesChanged();
+    void shelfChanged();
+    void launchChanged();
+    void notesChanged();
+
+private:
+    Surroundings m_surroundings;
+    QuibData m_data;
+    qsizetype m_runningRow = -1; ///< Of the first entry that runs; -1 without one.
+    std::unique_ptr<DataSaver> m_saver;
+};
+
+} // namespace quib

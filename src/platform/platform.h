@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/notch/desktop.h"
+#include "app/notch/panelhost.h"
+#include "app/notch/pointersource.h"
+#include "app/notch/screensource.h"
+#include "app/notch/singleinstance.h"
+#include "integrations/appcatalog.h"
+
+#include <memory>
+
+namespace quib {
+
+/// The desktop this program runs on: one of each seam.
+struct Platform {
+    std::unique_ptr<ScreenSource> screens;
+    std::unique_ptr<PointerSource> pointer;
+    std::unique_ptr<PanelHost> panelHost;
+    std::unique_ptr<SingleInstance> instance;
+    std::unique_ptr<Desktop> desktop;
+    std::unique_ptr<AppCatalog> applications;
+    /// Ends the event loop in order when the system asks the process to end.
+    std::unique_ptr<QObject> quitSignals;
+};
+
+/// True when there is a desktop to show a panel on. Needs no application object.
+bool hasDisplay();
+
+/// The one door. Defined in exactly one folder below this one; the build picks the folder. Needs a
+/// QGuiApplication on that desktop.
+Platform makePlatform();
+
+/// What remains where nothing is shown: `desktop` and `applications`; the rest is null.
+Platform makePlatformWithoutDisplay();
+
+} // namespace quib

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "model/store.h"
+
+#include <QtQml/qqml.h>
+
+/// Gives QML the types of the core without the core knowing that QML exists.
+namespace quib::qml {
+
+/// `property uuid id`: compares by value and is passed to C++ as it is. The null id stands for none.
+struct UuidType {
+    Q_GADGET
+    QML_FOREIGN(QUuid)
+    QML_VALUE_TYPE(uuid)
+};
+
+} // namespace quib::qml
