@@ -1,0 +1,93 @@
+#include "platform/linux/activationservice.h"
+
+#include "platform/linux/instancename.h"
+
+#include <QDBusMessage>
+#include <QDBusReply>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace quib {
+
+namespace {
+
+constexpr auto ApplicationInterface = "org.freedesktop.Application"_L1;
+constexpr int PatienceMs = 2000;
+
+constexpr uint DoNotQueue = 4;
+constexpr uint PrimaryOwner = 1;
+constexpr uint AlreadyOwner = 4;
+
+/// What lets the running program come to the front without being taken for a thief of the focus.
+QVariantMap platformData()
+{
+    QVariantMap data;
+    const auto add = [&data](const QString& key, const char* variable) {
+        if (qEnvironmentVariableIsSet(variable)) {
+            data.insert(key, qEnvironmentVariable(variable));
+        }
+    };
+    add(u"activation-token"_s, "XDG_ACTIVATION_TOKEN");
+    add(u"desktop-startup-id"_s, "DESKTOP_STARTUP_ID");
+    return data;
+}
+
+QDBusMessage requestName(const QString& name)
+{
+    auto message
+        = QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
+                                         u"org.freedesktop.DBus"_s, u"RequestName"_s);
+    message << name << DoNotQueue;
+    return message;
+}
+
+} // namespace
+
+ActivationService::ActivationService(QDBusConnection bus)
+    : m_bus(std::move(bus))
+{
+}
+
+ActivationService::Answer ActivationService::claim(const QString& busName)
+{
+    if (!m_bus.isConnected()) {
+        return Answer::NoBus;
+    }
+    // The object first: whoever finds the name may call at once.
+    m_bus.registerObject(objectPath(busName), this, QDBusConnection::ExportScriptableSlots);
+    const QDBusReply<uint> reply = m_bus.call(requestName(busName), QDBus::Block, PatienceMs);
+    if (reply.isValid() && (reply == PrimaryOwner || reply == AlreadyOwner)) {
+        return Answer::Ours;
+    }
+    m_bus.unregisterObject(objectPath(busName));
+    return reply.isValid() ? Answer::Taken : Answer::NoBus;
+}
+
+void ActivationService::activateOther(const QString& busName) const
+{
+    auto message = QDBusMessage::createMethodCall(busName, objectPath(busName),
+                                                  ApplicationInterface, u"Activate"_s);
+    message.setAutoStartService(false);
+    message << platformData();
+    m_bus.call(message, QDBus::Block, PatienceMs);
+}
+
+void ActivationService::Activate(const QVariantMap& /*platformData*/)
+{
+    Q_EMIT activated();
+}
+
+void ActivationService::Open(const QStringList& /*uris*/, const QVariantMap& /*platformData*/)
+{
+    Q_EMIT activated();
+}
+
+void ActivationService::ActivateAction(const QString& /*action*/, const QVariantList& /*parameter*/,
+                                       const QVariantMap& /*platformData*/)
+{
+    Q_EMIT activated();
+}
+
+} // namespace quib

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QStringList>
+#include <QVariantMap>
+
+namespace quib {
+
+/// The object by which desktops and later starts reach the running program on the session bus.
+class ActivationService final : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    enum class Answer {
+        Ours, ///< The name is this process's.
+        Taken, ///< Another process has it.
+        NoBus,
+    };
+
+    explicit ActivationService(QDBusConnection bus);
+
+    Answer claim(const QString& busName);
+    /// To the process that has the name. Waits for its answer, but not for ever.
+    void activateOther(const QString& busName) const;
+
+public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): slots are what the bus sees
+    Q_SCRIPTABLE void Activate(
+        const QVariantMap& platformData); // NOLINT(readability-identifier-naming): the bus's name
+    Q_SCRIPTABLE void
+    Open(const QStringList& uris,
+         const QVariantMap& platformData); // NOLINT(readability-identifier-naming): the bus's name
+    Q_SCRIPTABLE void ActivateAction(
+        const QString& action, const QVariantList& parameter,
+        const QVariantMap& platformData); // NOLINT(readability-identifier-naming): the bus's name
+
+Q_SIGNALS:
+    void activated();
+
+private:
+    QDBusConnection m_bus;
+};
+
+} // namespace quib

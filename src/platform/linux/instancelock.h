@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QObject>
+#include <QSocketNotifier>
+
+#include <memory>
+
+namespace quib {
+
+/// A lock in the user's folder for run-time files, and a socket beside it through which a later
+/// start knocks. The kernel gives the lock back when its process ends in any way.
+class InstanceLock final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit InstanceLock(const QString& name);
+    ~InstanceLock() override;
+    InstanceLock(const InstanceLock&) = delete;
+    InstanceLock& operator=(const InstanceLock&) = delete;
+
+    /// True where nobody else has it, also where no folder can hold a lock.
+    bool claim();
+    /// To the process that has the lock; never waits.
+    void knock() const;
+
+Q_SIGNALS:
+    void knocked();
+
+private:
+    void listen();
+    void readKnocks();
+    QByteArray path(const char* suffix) const;
+
+    QByteArray m_folder; ///< Empty where there is none that is safe.
+    QByteArray m_name;
+    int m_lock = -1;
+    int m_socket = -1;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};
+
+} // namespace quib

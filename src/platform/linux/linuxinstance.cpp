@@ -1,0 +1,37 @@
+#include "platform/linux/linuxinstance.h"
+
+#include "platform/linux/instancename.h"
+#include "platform/linux/sessionbus.h"
+
+#include <utility>
+
+namespace quib {
+
+LinuxInstance::LinuxInstance()
+    : LinuxInstance(sessionBus())
+{
+}
+
+LinuxInstance::LinuxInstance(QDBusConnection bus)
+    : m_service(std::move(bus))
+{
+    connect(&m_service, &ActivationService::activated, this, &LinuxInstance::activated);
+}
+
+bool LinuxInstance::claim(const QString& dataFolder)
+{
+    const auto name = instanceName(dataFolder);
+    if (m_service.claim(name) == ActivationService::Answer::Taken) {
+        m_service.activateOther(name);
+        return false;
+    }
+    m_lock = std::make_unique<InstanceLock>(lockName(dataFolder));
+    if (!m_lock->claim()) {
+        m_lock->knock();
+        return false;
+    }
+    connect(m_lock.get(), &InstanceLock::knocked, this, &LinuxInstance::activated);
+    return true;
+}
+
+} // namespace quib

@@ -1,0 +1,36 @@
+#include "platform/platform.h"
+
+#include "platform/linux/gioappcatalog.h"
+#include "platform/linux/linuxinstance.h"
+#include "platform/linux/portaldesktop.h"
+#include "platform/linux/quitsignals.h"
+#include "platform/linux/x11/xcbpanelhost.h"
+#include "platform/linux/x11/xcbpointersource.h"
+#include "platform/linux/x11/xcbscreensource.h"
+#include "platform/linux/x11/xserver.h"
+
+namespace quib {
+
+bool hasDisplay()
+{
+    return isServerReachable();
+}
+
+Platform makePlatform()
+{
+    auto platform = makePlatformWithoutDisplay();
+    platform.screens = std::make_unique<XcbScreenSource>();
+    platform.pointer = std::make_unique<XcbPointerSource>();
+    platform.panelHost = std::make_unique<XcbPanelHost>();
+    platform.instance = std::make_unique<LinuxInstance>();
+    platform.quitSignals = std::make_unique<QuitSignals>();
+    return platform;
+}
+
+Platform makePlatformWithoutDisplay()
+{
+    return {.desktop = std::make_unique<PortalDesktop>(),
+            .applications = std::make_unique<GioAppCatalog>()};
+}
+
+} // namespace quib

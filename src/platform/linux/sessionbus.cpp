@@ -1,0 +1,27 @@
+#include "platform/linux/sessionbus.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace quib {
+
+namespace {
+
+bool hasSessionBus()
+{
+    if (!qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")) {
+        return true;
+    }
+    const auto runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return !runtimeFolder.isEmpty() && QFileInfo::exists(runtimeFolder + u"/bus"_s);
+}
+
+} // namespace
+
+QDBusConnection sessionBus()
+{
+    return hasSessionBus() ? QDBusConnection::sessionBus() : QDBusConnection(u"none"_s);
+}
+
+} // namespace quib

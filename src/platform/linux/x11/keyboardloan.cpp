@@ -1,0 +1,62 @@
+#include "platform/linux/x11/keyboardloan.h"
+
+#include "platform/linux/x11/xserver.h"
+
+namespace quib {
+
+namespace {
+
+xcb_window_t focusedWindow()
+{
+    auto* connection = qtConnection();
+    const XcbOwned<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    return reply ? reply->focus : xcb_window_t(XCB_NONE);
+}
+
+/// False where the window is not there to be focused. Checked, so that Qt does not print the error.
+bool focus(xcb_window_t window, xcb_timestamp_t time)
+{
+    auto* connection = qtConnection();
+    const auto cookie
+        = xcb_set_input_focus_checked(connection, XCB_INPUT_FOCUS_PARENT, window, time);
+    const XcbOwned<xcb_generic_error_t> error(xcb_request_check(connection, cookie));
+    return !error;
+}
+
+} // namespace
+
+void KeyboardLoan::take(xcb_window_t window)
+{
+    const auto lender = focusedWindow();
+    if (lender == window) {
+        return;
+    }
+    m_lender = lender;
+    focus(window, XCB_CURRENT_TIME);
+}
+
+void KeyboardLoan::giveBack(xcb_window_t window, std::optional<quint32> click)
+{
+    if (!m_lender || focusedWindow() != window) {
+        m_lender.reset();
+        return;
+    }
+    // One tick before the click: where the click itself moves the keyboard, that move wins.
+    const auto isTimed = click && *click != XCB_CURRENT_TIME;
+    const auto time = isTimed ? *click - 1 : xcb_timestamp_t(XCB_CURRENT_TIME);
+    const auto hasLender = *m_lender != XCB_NONE && *m_lender != XCB_INPUT_FOCUS_POINTER_ROOT;
+    if (!hasLender || !focus(*m_lender, time)) {
+        focus(XCB_INPUT_FOCUS_POINTER_ROOT, time);
+    }
+    m_lender.reset();
+}
+
+void KeyboardLoan::checkStillOurs(xcb_window_t window)
+{
+    if (m_lender && focusedWindow() != window) {
+        m_lender.reset();
+    }
+}
+
+} // namespace quib

@@ -1,0 +1,152 @@
+#include "platform/linux/x11/xcbpanelhost.h"
+
+#include "platform/linux/x11/xserver.h"
+
+#include <QPlatformSurfaceEvent>
+#include <QTransform>
+
+namespace quib {
+
+namespace {
+
+/// Whole pixels, outwards.
+QRegion toPixels(const QRegion& points, double scale)
+{
+    QRegion pixels;
+    for (const auto& rect : points) {
+        pixels += QRectF(rect.x() * scale, rect.y() * scale, rect.width() * scale,
+                         rect.height() * scale)
+                      .toAlignedRect();
+    }
+    return pixels;
+}
+
+QRegion toPixels(const QPainterPath& points, double scale)
+{
+    QRegion pixels;
+    for (const auto& polygon : points.toFillPolygons(QTransform::fromScale(scale, scale))) {
+        pixels += QRegion(polygon.toPolygon(), points.fillRule());
+    }
+    return pixels;
+}
+
+} // namespace
+
+XcbPanelHost::XcbPanelHost()
+{
+    connect(&m_compositor, &CompositorWatch::isRunningChanged, this,
+            &XcbPanelHost::applyVisibleShape);
+}
+
+void XcbPanelHost::adopt(QWindow& window)
+{
+    m_window = &window;
+    window.setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
+    window.installEventFilter(this);
+    connect(&window, &QWindow::screenChanged, this, &XcbPanelHost::applyShapes);
+    connect(&window, &QWindow::activeChanged, this, [this] {
+        if (nativeWindow() != XCB_NONE) {
+            m_keyboard.checkStillOurs(nativeWindow());
+        }
+    });
+    m_shape.setWindow(nativeWindow());
+    applyShapes();
+}
+
+void XcbPanelHost::place(const QRectF& frame)
+{
+    if (m_window) {
+        m_window->setGeometry(frame.toRect());
+        applyShapes();
+    }
+}
+
+void XcbPanelHost::setInputRegion(const QRegion& region)
+{
+    m_inputRegion = region;
+    applyInputRegion();
+}
+
+void XcbPanelHost::setVisibleShape(const QPainterPath& shape)
+{
+    m_visibleShape = shape;
+    applyVisibleShape();
+}
+
+void XcbPanelHost::orderFront()
+{
+    if (m_window) {
+        m_window->show();
+        m_window->raise();
+    }
+}
+
+void XcbPanelHost::takeKeyboard()
+{
+    if (nativeWindow() == XCB_NONE) {
+        return;
+    }
+    m_keyboard.take(nativeWindow());
+}
+
+void XcbPanelHost::giveBackKeyboard(std::optional<quint32> click)
+{
+    if (nativeWindow() != XCB_NONE) {
+        m_keyboard.giveBack(nativeWindow(), click);
+    }
+}
+
+bool XcbPanelHost::eventFilter(QObject* object, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::PlatformSurface: followSurface(*event); break;
+    case QEvent::Show:
+    case QEvent::Expose:
+    case QEvent::Resize: applyShapes(); break;
+    default: break; // NOLINT: Qt's events are not ours to list
+    }
+    return PanelHost::eventFilter(object, event);
+}
+
+/// Qt may give the window a new native one at any time.
+void XcbPanelHost::followSurface(const QEvent& event)
+{
+    const auto type = static_cast<const QPlatformSurfaceEvent&>(event).surfaceEventType();
+    const auto isThere = type == QPlatformSurfaceEvent::SurfaceCreated;
+    m_shape.setWindow(isThere ? nativeWindow() : XCB_NONE);
+    applyShapes();
+}
+
+void XcbPanelHost::applyInputRegion()
+{
+    if (m_window) {
+        m_shape.setInput(toPixels(m_inputRegion, m_window->devicePixelRatio()));
+    }
+}
+
+void XcbPanelHost::applyVisibleShape()
+{
+    if (!m_window) {
+        return;
+    }
+    if (m_compositor.isRunning() || !m_visibleShape) {
+        m_shape.setBounding(std::nullopt);
+    } else {
+        m_shape.setBounding(toPixels(*m_visibleShape, m_window->devicePixelRatio()));
+    }
+}
+
+void XcbPanelHost::applyShapes()
+{
+    applyInputRegion();
+    applyVisibleShape();
+}
+
+/// Does not make one.
+xcb_window_t XcbPanelHost::nativeWindow() const
+{
+    const auto isThere = m_window && m_window->handle() != nullptr && qtConnection() != nullptr;
+    return isThere ? xcb_window_t(m_window->winId()) : xcb_window_t(XCB_NONE);
+}
+
+} // namespace quib

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "app/notch/panelhost.h"
+#include "platform/linux/x11/compositorwatch.h"
+#include "platform/linux/x11/keyboardloan.h"
+#include "platform/linux/x11/windowshape.h"
+
+#include <QPointer>
+#include <QWindow>
+
+namespace quib {
+
+/// A panel that no window manager touches: above everything, on all desktops, never focused by
+/// itself. Clicks pass where the input region ends; without a compositor the window has the shape
+/// of what is drawn, or it would show as a black box.
+class XcbPanelHost final : public PanelHost {
+    Q_OBJECT
+
+public:
+    XcbPanelHost();
+
+    void adopt(QWindow& window) override;
+    void place(const QRectF& frame) override;
+    void setInputRegion(const QRegion& region) override;
+    void setVisibleShape(const QPainterPath& shape) override;
+    void orderFront() override;
+    void takeKeyboard() override;
+    void giveBackKeyboard(std::optional<quint32> click) override;
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void followSurface(const QEvent& event);
+    void applyInputRegion();
+    void applyVisibleShape();
+    void applyShapes();
+    xcb_window_t nativeWindow() const;
+
+    QPointer<QWindow> m_window;
+    QRegion m_inputRegion;
+    std::optional<QPainterPath> m_visibleShape; ///< Absent until told.
+    CompositorWatch m_compositor;
+    WindowShape m_shape;
+    KeyboardLoan m_keyboard;
+};
+
+} // namespace quib

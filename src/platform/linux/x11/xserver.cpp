@@ -1,0 +1,60 @@
+#include "platform/linux/x11/xserver.h"
+
+#include <QGuiApplication>
+
+#include <optional>
+
+namespace quib {
+
+bool isServerReachable()
+{
+    if (qEnvironmentVariableIsEmpty("DISPLAY")) {
+        return false;
+    }
+    const XcbConnection connection(xcb_connect(nullptr, nullptr));
+    return xcb_connection_has_error(connection.get()) == 0;
+}
+
+xcb_connection_t* qtConnection()
+{
+    const auto* application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return application != nullptr ? application->connection() : nullptr;
+}
+
+int screenNumber()
+{
+    char* host = nullptr;
+    int display = 0;
+    int screen = 0;
+    const auto isParsed = xcb_parse_display(nullptr, &host, &display, &screen) != 0;
+    const XcbOwned<char> freed(host);
+    return isParsed ? screen : 0;
+}
+
+xcb_window_t rootWindow(xcb_connection_t* connection)
+{
+    if (connection == nullptr || xcb_connection_has_error(connection) != 0) {
+        return XCB_NONE;
+    }
+    auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
+    for (auto toSkip = screenNumber(); toSkip > 0 && screens.rem > 1; --toSkip) {
+        xcb_screen_next(&screens);
+    }
+    return screens.data->root;
+}
+
+xcb_atom_t atomNamed(xcb_connection_t* connection, std::string_view name)
+{
+    const auto cookie = xcb_intern_atom(connection, 0, uint16_t(name.size()), name.data());
+    const XcbOwned<xcb_intern_atom_reply_t> reply(
+        xcb_intern_atom_reply(connection, cookie, nullptr));
+    return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
+}
+
+const xcb_generic_event_t* xcbEvent(const QByteArray& eventType, const void* message)
+{
+    const auto isXcb = eventType == "xcb_generic_event_t";
+    return isXcb ? static_cast<const xcb_generic_event_t*>(message) : nullptr;
+}
+
+} // namespace quib
