@@ -12,9 +12,9 @@ namespace quib {
 enum class ClientStatus { Lead, Design, Build, Review, Live, Care };
 
 /// In pipeline order, which is the order of every picker.
-inline constexpr std::array AllClientStatuses{ClientStatus::Lead,   ClientStatus::Design,
-                                              ClientStatus::Build,  ClientStatus::Review,
-                                              ClientStatus::Live,   ClientStatus::Care};
+inline constexpr std::array AllClientStatuses{ClientStatus::Lead,  ClientStatus::Design,
+                                              ClientStatus::Build, ClientStatus::Review,
+                                              ClientStatus::Live,  ClientStatus::Care};
 
 /// The status as files and the palette spell it: "lead", "design" and so on.
 QString rawText(ClientStatus status);

@@ -9,7 +9,8 @@ namespace quib {
 struct LaunchItem {
     QUuid id;
     QString name;
-    QString target; ///< An address, with or without a scheme, or the path of an application or folder.
+    QString
+        target; ///< An address, with or without a scheme, or the path of an application or folder.
 
     bool operator==(const LaunchItem&) const = default;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/clock.h"
+#include "model/datasaver.h"
 #include "model/quibdata.h"
 #include "model/scheduler.h"
 #include "model/totals.h"
@@ -10,12 +11,20 @@
 #include <QUrl>
 
 #include <functional>
-#include <memory>
 #include <optional>
+#include <vector>
 
 namespace quib {
 
-class DataSaver;
+/// What the store needs of the world around it. The defaults are the real ones.
+struct StoreSurroundings {
+    Clock clock = systemClock;
+    Scheduler schedule = scheduleOnMainLoop;
+    /// Full path of the installed application of that unlocalised name, or absent. Asked only to
+    /// build the sample data.
+    std::function<std::optional<QString>(const QString& name)> findApplication;
+    UserLocale locale = UserLocale::fromEnvironment();
+};
 
 /// The one owner of the workspace, on the main thread. Every operation changes it in one step,
 /// announces what changed, and has it saved 0.4 s after the last change.
@@ -28,19 +37,10 @@ class Store : public QObject {
     Q_PROPERTY(QString notes READ notes WRITE setNotes NOTIFY notesChanged)
 
 public:
-    /// What the store needs of the world around it. The defaults are the real ones.
-    struct Surroundings {
-        Clock clock = systemClock;
-        Scheduler schedule = scheduleOnMainLoop;
-        /// Full path of the installed application of that unlocalised name, or absent. Asked only
-        /// to build the sample data.
-        std::function<std::optional<QString>(const QString& name)> findApplication;
-        UserLocale locale = UserLocale::fromEnvironment();
-    };
+    using Surroundings = StoreSurroundings;
 
     /// Loads data.json from the data folder, else builds sample data. Never fails.
     explicit Store(Surroundings surroundings = {}, QObject* parent = nullptr);
-    ~Store() override;
 
     /// The data folder, made with its parents each time it is asked for; a failure to make it shows
     /// in the use of it.
@@ -49,28 +49,38 @@ public:
     const QuibData& data() const { return m_data; }
     void setData(const QuibData& data);
 
+    /// The first client of that id; absent when there is none, or no id.
     std::optional<Client> client(const std::optional<QUuid>& id) const;
     QString notes() const { return m_data.notes; }
     std::optional<TimeEntry> runningEntry() const;
-    bool hasRunningEntry() const { return m_runningRow >= 0; } ///< At no cost: asked 60 times a second.
+    bool hasRunningEntry() const
+    {
+        return m_runningRow >= 0;
+    } ///< At no cost: asked 60 times a second.
     QDateTime runningSince() const; ///< Invalid when no timer runs.
+    /// The entries that had not ended by then, in stored order; a running one ends now.
     QList<TimeEntry> entries(const QDateTime& since) const;
+    /// The time worked per client since then, most first. Cheap to ask again at every tick.
     QList<ClientTotal> totals(const QDateTime& since) const;
 
     /// The id of the new client, for the caller to open it for editing.
     Q_INVOKABLE QUuid addClient();
+    /// Its tasks and entries stay, and show as having no client.
     Q_INVOKABLE void deleteClient(const QUuid& id);
     /// Replaces the first client of that id; unknown ids change nothing.
     void updateClient(const Client& client);
+    /// Blanks around the title are cut off; without anything else there is no task.
     void addTask(const QString& title, const std::optional<QUuid>& client);
     Q_INVOKABLE void toggleTask(const QUuid& id);
     Q_INVOKABLE void deleteTask(const QUuid& id);
     Q_INVOKABLE void clearDoneTasks();
-    /// Addresses that are no files are passed over.
+    /// Each new file goes to the front. Addresses that are no files are passed over.
     Q_INVOKABLE void addToShelf(const QList<QUrl>& urls);
-    Q_INVOKABLE void removeFromShelf(const QUuid& id);
+    Q_INVOKABLE void removeFromShelf(const QUuid& id); ///< The file itself stays.
     void setNotes(const QString& notes);
+    /// Ends the running timer first, with the rule of stopTimer().
     void startTimer(const std::optional<QUuid>& client, const QString& note);
+    /// A timer that ran for less than 30 s leaves no trace.
     Q_INVOKABLE void stopTimer();
     /// Where the timesheet was written; absent when it could not be.
     std::optional<QUrl> exportTimesheet() const;
@@ -88,10 +98,17 @@ Q_SIGNALS:
     void notesChanged();
 
 private:
+    using Signal = void (Store::*)();
+
+    void announce(Signal changed);
+    bool endRunningEntry(); ///< False when no timer runs. Announces nothing.
+    void entriesWereReplaced();
+
     Surroundings m_surroundings;
     QuibData m_data;
     qsizetype m_runningRow = -1; ///< Of the first entry that runs; -1 without one.
-    std::unique_ptr<DataSaver> m_saver;
+    mutable std::vector<Tally> m_tallies; ///< Of the entries as they are, for moments asked about.
+    DataSaver m_saver;
 };
 
 } // namespace quib

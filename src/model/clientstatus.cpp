@@ -1,0 +1,29 @@
+#include "model/clientstatus.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace quib {
+
+QString rawText(ClientStatus status)
+{
+    switch (status) {
+    case ClientStatus::Lead: return u"lead"_s;
+    case ClientStatus::Design: return u"design"_s;
+    case ClientStatus::Build: return u"build"_s;
+    case ClientStatus::Review: return u"review"_s;
+    case ClientStatus::Live: return u"live"_s;
+    case ClientStatus::Care: return u"care"_s;
+    }
+    Q_UNREACHABLE();
+}
+
+std::optional<ClientStatus> clientStatus(QStringView rawText)
+{
+    const auto* found = std::ranges::find_if(
+        AllClientStatuses, [&](ClientStatus status) { return quib::rawText(status) == rawText; });
+    return found == AllClientStatuses.end() ? std::nullopt : std::optional(*found);
+}
+
+} // namespace quib

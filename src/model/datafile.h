@@ -1,0 +1,19 @@
+#pragma once
+
+#include "model/quibdata.h"
+
+#include <QByteArray>
+
+#include <optional>
+
+namespace quib {
+
+/// The bytes of the data file: JSON with sorted keys and a member a line, the same bytes for the
+/// same data. Absent when a rate is not finite or a date is outside the years 0 to 9999.
+std::optional<QByteArray> encodeQuibData(const QuibData& data);
+
+/// The workspace that the bytes of a data file stand for. Strict: one missing member, wrong type,
+/// malformed id, date or status makes the whole file unreadable. Of repeated keys the first counts.
+std::optional<QuibData> decodeQuibData(const QByteArray& bytes);
+
+} // namespace quib

@@ -1,0 +1,64 @@
+#include "model/datasaver.h"
+
+#include "model/atomicfile.h"
+#include "model/datafile.h"
+#include "model/datafolder.h"
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace quib {
+
+namespace {
+
+constexpr auto Debounce = 400ms;
+
+bool write(const QuibData& data)
+{
+    const auto bytes = encodeQuibData(data);
+    return bytes && replaceFile(dataFile(), *bytes);
+}
+
+} // namespace
+
+DataSaver::DataSaver(Scheduler schedule)
+    : m_schedule(std::move(schedule))
+{
+    m_queue.setMaxThreadCount(1);
+    m_queue.setThreadPriority(QThread::LowPriority);
+}
+
+void DataSaver::scheduleSave(const QuibData& data)
+{
+    ++m_wanted;
+    m_pending = m_schedule(Debounce, [this, data] { startWriting(data); });
+}
+
+void DataSaver::saveNow(const QuibData& data)
+{
+    m_pending.reset();
+    finishWriting();
+    if (m_saved != m_wanted && write(data)) {
+        m_saved = m_wanted;
+    }
+}
+
+void DataSaver::startWriting(const QuibData& data)
+{
+    m_queue.clear(); // What still waits is older.
+    m_queue.start([this, data, revision = m_wanted] {
+        if (write(data)) {
+            m_saved = revision;
+        }
+    });
+    m_pending.reset(); // Lets go of the copy, which would make the next change of a list slow.
+}
+
+void DataSaver::finishWriting()
+{
+    m_queue.clear();
+    m_queue.waitForDone();
+}
+
+} // namespace quib

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "model/userlocale.h"
+
+#include <QDateTime>
+#include <QString>
+
+#include <unicode/locid.h>
+#include <unicode/timezone.h>
+
+#include <memory>
+
+/// What our files with ICU inside share: its values for ours. Included by them alone.
+namespace quib::icutext {
+
+inline QString toQString(const icu::UnicodeString& text)
+{
+    return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
+}
+
+inline UDate toDate(const QDateTime& moment)
+{
+    return static_cast<UDate>(moment.toMSecsSinceEpoch());
+}
+
+inline icu::Locale dateLocale(const UserLocale& locale)
+{
+    return icu::Locale(locale.dates.constData());
+}
+
+/// A zone that ICU does not know by its name keeps its present distance from UTC.
+std::unique_ptr<icu::TimeZone> timeZone(const UserLocale& locale);
+
+} // namespace quib::icutext

@@ -1,0 +1,106 @@
+#include "model/atomicfile.h"
+#include "model/store.h"
+#include "model/timesheet.h"
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+using namespace std::chrono_literals;
+
+// The store's operations on time entries.
+
+namespace quib {
+
+namespace {
+
+constexpr std::chrono::milliseconds ShortestKept = 30s;
+constexpr std::size_t MostTallies = 8; // Views ask about few moments: today, this week, this month.
+
+bool isRunning(const TimeEntry& entry)
+{
+    return !entry.end;
+}
+
+} // namespace
+
+std::optional<TimeEntry> Store::runningEntry() const
+{
+    return hasRunningEntry() ? std::optional(m_data.entries.at(m_runningRow)) : std::nullopt;
+}
+
+QDateTime Store::runningSince() const
+{
+    return hasRunningEntry() ? m_data.entries.at(m_runningRow).start : QDateTime();
+}
+
+QList<TimeEntry> Store::entries(const QDateTime& since) const
+{
+    return entriesSince(m_data.entries, since, m_surroundings.clock());
+}
+
+QList<ClientTotal> Store::totals(const QDateTime& since) const
+{
+    auto found = std::ranges::find(m_tallies, since, &Tally::since);
+    if (found == m_tallies.end()) {
+        if (m_tallies.size() == MostTallies) {
+            m_tallies.clear();
+        }
+        found = m_tallies.emplace(m_tallies.end(), m_data.entries, since);
+    }
+    return found->totals(m_data.clients, m_surroundings.clock());
+}
+
+void Store::startTimer(const std::optional<QUuid>& client, const QString& note)
+{
+    endRunningEntry();
+    m_data.entries.prepend({.id = QUuid::createUuid(),
+                            .clientID = client,
+                            .start = m_surroundings.clock(),
+                            .note = note});
+    entriesWereReplaced();
+    announce(&Store::entriesChanged);
+}
+
+void Store::stopTimer()
+{
+    if (endRunningEntry()) {
+        announce(&Store::entriesChanged);
+    }
+}
+
+std::optional<QUrl> Store::exportTimesheet() const
+{
+    const auto now = m_surroundings.clock();
+    const auto folder = downloadsFolder();
+    if (!folder) {
+        return {};
+    }
+    const auto path = *folder + u'/' + timesheetName(now, m_surroundings.locale);
+    return replaceFile(path, timesheetCsv(m_data, now)) ? std::optional(QUrl::fromLocalFile(path))
+                                                        : std::nullopt;
+}
+
+bool Store::endRunningEntry()
+{
+    if (!hasRunningEntry()) {
+        return false;
+    }
+    auto& running = m_data.entries[m_runningRow];
+    running.end = m_surroundings.clock();
+    if (running.start.msecsTo(*running.end) < ShortestKept.count()) {
+        m_data.entries.removeAt(m_runningRow);
+    }
+    entriesWereReplaced();
+    return true;
+}
+
+void Store::entriesWereReplaced()
+{
+    const auto running = std::ranges::find_if(std::as_const(m_data.entries), isRunning);
+    const bool found = running != m_data.entries.cend();
+    m_runningRow = found ? running - m_data.entries.cbegin() : -1;
+    m_tallies.clear();
+}
+
+} // namespace quib

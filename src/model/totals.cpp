@@ -1,0 +1,113 @@
+#include "model/totals.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace quib {
+
+namespace {
+
+constexpr double MillisecondsPerSecond = 1000;
+
+std::optional<Client> clientOf(const std::optional<QUuid>& id, const QList<Client>& clients)
+{
+    const auto found = std::ranges::find(clients, id, &Client::id);
+    return found == clients.end() ? std::nullopt : std::optional(*found);
+}
+
+/// Finds the group of an entry. Runs of entries for one client are the rule, so the last answer is
+/// tried first.
+class GroupIndex {
+public:
+    /// The row of the client's group, or `next` when it has none so far.
+    std::size_t rowOf(const std::optional<QUuid>& clientID, std::size_t next)
+    {
+        if (m_hasLast && clientID == m_lastID) {
+            return m_lastRow;
+        }
+        m_hasLast = true;
+        m_lastID = clientID;
+        m_lastRow = find(clientID, next);
+        return m_lastRow;
+    }
+
+private:
+    std::size_t find(const std::optional<QUuid>& clientID, std::size_t next)
+    {
+        auto& row = clientID ? m_rows[*clientID] : m_unassigned;
+        row = row.value_or(next);
+        return *row;
+    }
+
+    bool m_hasLast = false;
+    std::optional<QUuid> m_lastID;
+    std::size_t m_lastRow = 0;
+    std::optional<std::size_t> m_unassigned;
+    QHash<QUuid, std::optional<std::size_t>> m_rows;
+};
+
+} // namespace
+
+Tally::Tally(const QList<TimeEntry>& entries, const QDateTime& since)
+    : m_since(since)
+{
+    const auto from = since.toMSecsSinceEpoch();
+    GroupIndex index;
+    for (const auto& entry : entries) {
+        const auto end = entry.end ? entry.end->toMSecsSinceEpoch() : from;
+        if (end < from) {
+            continue;
+        }
+        const auto row = index.rowOf(entry.clientID, m_groups.size());
+        if (row == m_groups.size()) {
+            m_groups.push_back({.clientID = entry.clientID});
+        }
+        auto& group = m_groups[row];
+        const auto start = std::max(entry.start.toMSecsSinceEpoch(), from);
+        if (entry.end) {
+            group.finished += end - start;
+            group.hasFinished = true;
+        } else {
+            group.running.push_back(start);
+        }
+    }
+}
+
+QList<ClientTotal> Tally::totals(const QList<Client>& clients, const QDateTime& now) const
+{
+    const auto moment = now.toMSecsSinceEpoch();
+    const bool runningCounts = now >= m_since;
+    QList<ClientTotal> totals;
+    for (const auto& group : m_groups) {
+        const bool hasRunning = runningCounts && !group.running.empty();
+        if (!group.hasFinished && !hasRunning) {
+            continue;
+        }
+        auto sum = group.finished;
+        for (const auto start : group.running) {
+            sum += hasRunning ? moment - start : 0;
+        }
+        totals.append({.client = clientOf(group.clientID, clients),
+                       .seconds = static_cast<double>(sum) / MillisecondsPerSecond});
+    }
+    std::ranges::stable_sort(totals, std::ranges::greater(), &ClientTotal::seconds);
+    return totals;
+}
+
+QList<TimeEntry> entriesSince(const QList<TimeEntry>& entries, const QDateTime& since,
+                              const QDateTime& now)
+{
+    QList<TimeEntry> found;
+    std::ranges::copy_if(entries, std::back_inserter(found),
+                         [&](const TimeEntry& entry) { return entry.end.value_or(now) >= since; });
+    return found;
+}
+
+QList<ClientTotal> totals(const QList<TimeEntry>& entries, const QList<Client>& clients,
+                          const QDateTime& since, const QDateTime& now)
+{
+    return Tally(entries, since).totals(clients, now);
+}
+
+} // namespace quib

@@ -1,0 +1,92 @@
+#include "model/uuidtext.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace quib {
+
+namespace {
+
+constexpr std::string_view Form = "00000000-0000-0000-0000-000000000000";
+constexpr std::string_view Digits = "0123456789ABCDEF";
+constexpr quint8 NoDigit = 0xFF;
+
+/// The value of each character as a hexadecimal digit.
+constexpr auto DigitValues = [] {
+    std::array<quint8, 256> values{};
+    values.fill(NoDigit);
+    for (std::size_t value = 0; value < Digits.size(); ++value) {
+        const auto upper = static_cast<unsigned char>(Digits[value]);
+        values[upper] = static_cast<quint8>(value);
+        values[upper | 0x20U] = static_cast<quint8>(value); // The digits have that bit already.
+    }
+    return values;
+}();
+
+/// Where in the text the two digits of each of the 16 bytes stand.
+constexpr auto BytePlaces = [] {
+    std::array<std::size_t, 16> places{};
+    std::size_t at = 0;
+    for (auto& place : places) {
+        at += Form[at] == '-' ? 1U : 0U;
+        place = at;
+        at += 2;
+    }
+    return places;
+}();
+
+using Bytes = std::array<uchar, BytePlaces.size()>;
+
+Bytes bytesOf(const QUuid& id)
+{
+    Bytes bytes{};
+    qToBigEndian<quint32>(id.data1, &bytes[0]);
+    qToBigEndian<quint16>(id.data2, &bytes[4]);
+    qToBigEndian<quint16>(id.data3, &bytes[6]);
+    std::ranges::copy(id.data4, &bytes[8]);
+    return bytes;
+}
+
+quint8 digitAt(std::string_view text, std::size_t at)
+{
+    return DigitValues[static_cast<unsigned char>(text[at])];
+}
+
+bool hasHyphens(std::string_view text)
+{
+    return text[8] == '-' && text[13] == '-' && text[18] == '-' && text[23] == '-';
+}
+
+} // namespace
+
+UuidText uuidText(const QUuid& id)
+{
+    const auto bytes = bytesOf(id);
+    UuidText out{};
+    Form.copy(out.data(), out.size());
+    for (std::size_t byte = 0; byte < BytePlaces.size(); ++byte) {
+        const auto value = bytes[byte];
+        out[BytePlaces[byte]] = Digits[value / 16];
+        out[BytePlaces[byte] + 1] = Digits[value % 16];
+    }
+    return out;
+}
+
+std::optional<QUuid> parseUuid(std::string_view text)
+{
+    if (text.size() != Form.size() || !hasHyphens(text)) {
+        return {};
+    }
+    Bytes bytes{};
+    bool valid = true;
+    for (std::size_t byte = 0; byte < BytePlaces.size(); ++byte) {
+        const auto high = digitAt(text, BytePlaces[byte]);
+        const auto low = digitAt(text, BytePlaces[byte] + 1);
+        valid = valid && high != NoDigit && low != NoDigit;
+        bytes[byte] = static_cast<uchar>(high * 16 + low);
+    }
+    return valid ? std::optional(QUuid::fromRfc4122(QByteArrayView(bytes))) : std::nullopt;
+}
+
+} // namespace quib
