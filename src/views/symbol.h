@@ -1,32 +1,51 @@
 #pragma once
 
+#include "views/rasteritem.h"
+#include "views/symbolimage.h"
+
 #include <QColor>
-#include <QQuickItem>
 
 #include <qqmlintegration.h>
 
 namespace quib {
 
-/// A symbol by name, drawn as a path: sharp at every scale, in any size and colour.
-class Symbol : public QQuickItem {
+/// A symbol by name, in any size, weight and colour. Decoration: what it means is said by whoever
+/// holds it. An unknown name shows nothing.
+class Symbol : public quib::RasterItem { // Spelt out for the tools of QML.
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QString name MEMBER m_name NOTIFY changed)
-    Q_PROPERTY(double size MEMBER m_size NOTIFY changed)
-    Q_PROPERTY(int weight MEMBER m_weight NOTIFY changed)
-    Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
+    Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)
+    Q_PROPERTY(double size READ size WRITE setSize NOTIFY sizeChanged)
+    Q_PROPERTY(int weight READ weight WRITE setWeight NOTIFY weightChanged)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
 
 public:
-    using QQuickItem::QQuickItem;
+    explicit Symbol(QQuickItem* parent = nullptr);
+
+    QString name() const { return m_look.name; }
+    double size() const { return m_look.size; }
+    int weight() const { return m_look.weight; }
+    QColor color() const { return m_look.color; }
+
+    void setName(const QString& name);
+    void setSize(double points);
+    void setWeight(int weight);
+    void setColor(const QColor& color);
+
+    /// Whether a name means a symbol to us; callers choose what stands in for one that does not.
+    Q_INVOKABLE static bool isKnown(const QString& name);
 
 Q_SIGNALS:
-    void changed();
+    void nameChanged();
+    void sizeChanged();
+    void weightChanged();
+    void colorChanged();
+
+protected:
+    QImage picture(double pixelsPerPoint) const override;
 
 private:
-    QString m_name;
-    double m_size = 12;
-    int m_weight = 400; ///< As of a font: 400 is regular, 700 bold.
-    QColor m_color = Qt::white;
+    SymbolLook m_look;
 };
 
 } // namespace quib

@@ -1,0 +1,72 @@
+#include "views/continuousrectangle.h"
+
+#include "views/continuouspath.h"
+
+#include <QPainter>
+#include <QPen>
+
+#include <cmath>
+
+namespace quib {
+
+void ContinuousRectangle::setRadius(double points)
+{
+    if (m_radius != points) {
+        m_radius = points;
+        Q_EMIT radiusChanged();
+        redraw();
+    }
+}
+
+void ContinuousRectangle::setColor(const QColor& color)
+{
+    if (m_color != color) {
+        m_color = color;
+        Q_EMIT colorChanged();
+        redraw();
+    }
+}
+
+void ContinuousRectangle::setStrokeColor(const QColor& color)
+{
+    if (m_strokeColor != color) {
+        m_strokeColor = color;
+        Q_EMIT strokeColorChanged();
+        redraw();
+    }
+}
+
+void ContinuousRectangle::setStrokeWidth(double points)
+{
+    if (m_strokeWidth != points) {
+        m_strokeWidth = points;
+        Q_EMIT strokeWidthChanged();
+        redraw();
+    }
+}
+
+QImage ContinuousRectangle::picture(double pixelsPerPoint) const
+{
+    const bool isStroked = m_strokeColor.alpha() > 0 && m_strokeWidth > 0;
+    if (size().isEmpty() || (m_color.alpha() == 0 && !isStroked)) {
+        return {};
+    }
+    const QSizeF pixels = size() * pixelsPerPoint;
+    QImage image(static_cast<int>(std::ceil(pixels.width())),
+                 static_cast<int>(std::ceil(pixels.height())), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(pixelsPerPoint, pixelsPerPoint);
+    const QRectF shape(QPointF(), size());
+    painter.fillPath(continuousPath(shape, m_radius), m_color);
+    if (isStroked) {
+        const double inset = m_strokeWidth / 2;
+        painter.strokePath(
+            continuousPath(shape.adjusted(inset, inset, -inset, -inset), m_radius - inset),
+            QPen(m_strokeColor, m_strokeWidth));
+    }
+    return image;
+}
+
+} // namespace quib

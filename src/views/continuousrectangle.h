@@ -1,0 +1,50 @@
+#pragma once
+
+#include "views/rasteritem.h"
+
+#include <QColor>
+
+#include <qqmlintegration.h>
+
+namespace quib {
+
+/// A rectangle with continuous corners, filled, and edged by a line inside its shape if that has a
+/// colour. With a radius of half its height or more it is a capsule.
+class ContinuousRectangle : public quib::RasterItem { // Spelt out for the tools of QML.
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY radiusChanged)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+    Q_PROPERTY(QColor strokeColor READ strokeColor WRITE setStrokeColor NOTIFY strokeColorChanged)
+    Q_PROPERTY(double strokeWidth READ strokeWidth WRITE setStrokeWidth NOTIFY strokeWidthChanged)
+
+public:
+    using RasterItem::RasterItem;
+
+    double radius() const { return m_radius; }
+    QColor color() const { return m_color; }
+    QColor strokeColor() const { return m_strokeColor; }
+    double strokeWidth() const { return m_strokeWidth; }
+
+    void setRadius(double points);
+    void setColor(const QColor& color);
+    void setStrokeColor(const QColor& color);
+    void setStrokeWidth(double points);
+
+Q_SIGNALS:
+    void radiusChanged();
+    void colorChanged();
+    void strokeColorChanged();
+    void strokeWidthChanged();
+
+protected:
+    QImage picture(double pixelsPerPoint) const override;
+
+private:
+    double m_radius = 0;
+    QColor m_color = Qt::transparent;
+    QColor m_strokeColor = Qt::transparent;
+    double m_strokeWidth = 1;
+};
+
+} // namespace quib

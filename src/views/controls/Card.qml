@@ -1,0 +1,38 @@
+import QtQuick
+import QtQuick.Layouts
+
+import Quib.Brand
+import Quib.Views
+
+/*!
+    A surface for one content, which keeps its own size in the top left corner unless it asks for
+    more. As wide as there is room: what holds cards is a layout, or says their width.
+*/
+Item {
+    id: root
+
+    property real padding: 12
+    default property Item content
+
+    implicitWidth: (root.content?.implicitWidth ?? 0) + 2 * root.padding
+    implicitHeight: (root.content?.implicitHeight ?? 0) + 2 * root.padding
+    Layout.fillWidth: true
+
+    onContentChanged: root.content.parent = inside
+
+    ContinuousRectangle {
+        objectName: "surface"
+        anchors.fill: parent
+        radius: 14
+        color: Brand.card
+        strokeColor: Brand.cardStroke
+    }
+
+    Item {
+        id: inside
+
+        objectName: "inside"
+        anchors.fill: parent
+        anchors.margins: root.padding
+    }
+}

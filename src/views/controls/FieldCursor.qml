@@ -1,0 +1,35 @@
+import QtQuick
+
+/*!
+    The cursor of a text that is laid out at twice its size: one point wide when drawn. Stays lit while
+    it moves.
+*/
+Rectangle {
+    id: root
+
+    required property bool isShown
+
+    property bool isLit: true
+
+    width: 2
+    color: "white"
+    visible: root.isShown && root.isLit
+
+    onXChanged: root.light()
+    onYChanged: root.light()
+
+    function light() {
+        root.isLit = true;
+        blink.restart();
+    }
+
+    Timer {
+        id: blink
+
+        interval: Application.styleHints.cursorFlashTime / 2
+        repeat: true
+        running: root.isShown && interval > 0
+
+        onTriggered: root.isLit = !root.isLit
+    }
+}

@@ -1,0 +1,15 @@
+import QtQuick
+
+import Quib.Brand
+import Quib.Views
+
+/*!
+    Shows around a control that the keyboard has come to.
+*/
+ContinuousRectangle {
+    anchors.fill: parent
+    anchors.margins: -2
+    radius: height / 2
+    strokeColor: Brand.glow
+    strokeWidth: 1.5
+}

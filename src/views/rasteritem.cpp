@@ -1,0 +1,72 @@
+#include "views/rasteritem.h"
+
+#include <QQuickWindow>
+#include <QSGImageNode>
+
+#include <cmath>
+#include <memory>
+
+namespace quib {
+
+namespace {
+
+/// Where a picture begins in a longer or shorter line, on a whole pixel.
+double start(double length, int pixels, double pixelsPerPoint)
+{
+    return std::floor((length * pixelsPerPoint - pixels) / 2 + 0.5) / pixelsPerPoint;
+}
+
+} // namespace
+
+RasterItem::RasterItem(QQuickItem* parent)
+    : QQuickItem(parent)
+{
+    setFlag(ItemHasContents);
+}
+
+void RasterItem::redraw()
+{
+    m_isStale = true;
+    update();
+}
+
+void RasterItem::geometryChange(const QRectF& now, const QRectF& before)
+{
+    QQuickItem::geometryChange(now, before);
+    if (now.size() != before.size()) {
+        redraw();
+    }
+}
+
+void RasterItem::itemChange(ItemChange change, const ItemChangeData& value)
+{
+    QQuickItem::itemChange(change, value);
+    if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange) {
+        redraw();
+    }
+}
+
+QSGNode* RasterItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/)
+{
+    if (old && !m_isStale) {
+        return old;
+    }
+    m_isStale = false;
+    std::unique_ptr<QSGNode> outdated(old);
+    const double pixelsPerPoint = window()->effectiveDevicePixelRatio();
+    const QImage image = picture(pixelsPerPoint);
+    if (image.isNull()) {
+        return nullptr;
+    }
+    auto* node
+        = outdated ? static_cast<QSGImageNode*>(outdated.release()) : window()->createImageNode();
+    node->setOwnsTexture(true);
+    node->setTexture(window()->createTextureFromImage(image, QQuickWindow::TextureHasAlphaChannel));
+    node->setFiltering(QSGTexture::Nearest); // Between two pixels it goes to one, whole.
+    node->setRect(QRectF(QPointF(start(width(), image.width(), pixelsPerPoint),
+                                 start(height(), image.height(), pixelsPerPoint)),
+                         QSizeF(image.size()) / pixelsPerPoint));
+    return node;
+}
+
+} // namespace quib

@@ -1,0 +1,71 @@
+#include "views/symbolimage.h"
+
+#include "views/symbollibrary.h"
+
+#include <QPainter>
+#include <QPen>
+
+#include <cmath>
+
+namespace quib {
+
+namespace {
+
+constexpr double RegularLine = 1.0 / 16; ///< Of the icons, in a unit square.
+
+/// The pen that makes an outline of the regular weight a heavier one, in a unit square.
+double penFor(int weight)
+{
+    if (weight >= 700) {
+        return 0.05;
+    }
+    if (weight >= 600) {
+        return 0.04;
+    }
+    return weight >= 500 ? 0.02 : 0;
+}
+
+/// The pen grows outwards too: shrunk by its width, the shape keeps its outer size.
+void paintOutline(QPainter& painter, const SymbolShape& shape, const SymbolLook& look, double side)
+{
+    const double pen = shape.isFilled ? 0 : penFor(look.weight);
+    const double scale = shape.scale * (1 - pen);
+    painter.scale(side, side);
+    painter.translate(0.5, 0.5);
+    painter.scale(scale, scale);
+    painter.translate(-0.5, -0.5);
+    if (pen > 0) {
+        painter.setPen(QPen(Qt::white, pen, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    }
+    painter.drawPath(shape.path);
+}
+
+} // namespace
+
+QImage symbolImage(const SymbolLook& look, double pixelsPerPoint)
+{
+    const auto shape = findSymbol(look.name);
+    const double side = look.size * pixelsPerPoint;
+    const int pixels = static_cast<int>(std::ceil(side));
+    if (!shape || pixels <= 0) {
+        return {};
+    }
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::white);
+    if (shape->drawing) {
+        painter.drawPath(shape->drawing(pixels, (RegularLine + penFor(look.weight)) * side));
+    } else {
+        paintOutline(painter, *shape, look, side);
+    }
+    // Tinted last: where fill and pen overlap, a colour that is not opaque would show it.
+    painter.resetTransform();
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), look.color);
+    return image;
+}
+
+} // namespace quib

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "views/symboldrawings.h"
+
+#include <QPainterPath>
+#include <QString>
+
+#include <optional>
+
+namespace quib {
+
+/// How a symbol looks at no size yet.
+struct SymbolShape {
+    QPainterPath path; ///< In a unit square, y downwards.
+    bool isFilled = false; ///< Takes no pen: it would close the cut-outs.
+    double scale = 1; ///< Makes up for a drawing that is small within its square.
+    PixelDrawing drawing = nullptr; ///< Stands in for the path where there is one.
+};
+
+/// The shape of a symbol name such as "person.2.fill": by our table, else an icon of that name with
+/// dashes, else composed of a base and a suffix. Absent for a name that means nothing to us. Each
+/// name is worked out once in the life of the program.
+std::optional<SymbolShape> findSymbol(const QString& name);
+
+} // namespace quib
