@@ -13,7 +13,8 @@ struct Screen {
     QRectF frame;
     QRectF visibleFrame; ///< Without docks and menu bars.
     double topInset = 0; ///< Height of the camera notch; 0 where there is none.
-    std::optional<double> leftStrip; ///< Width of the usable strip left of a notch; absent where unknown.
+    std::optional<double>
+        leftStrip; ///< Width of the usable strip left of a notch; absent where unknown.
     std::optional<double> rightStrip;
     bool isMain = false;
 
