@@ -1,13 +1,23 @@
 #pragma once
 
 #include "model/store.h"
+#include "views/storeforviews.h"
 
 #include <QtQml/qqml.h>
 
 /// Gives QML the types of the core without the core knowing that QML exists.
 namespace quib::qml {
 
-/// `property uuid id`: compares by value and is passed to C++ as it is. The null id stands for none.
+struct StoreType {
+    Q_GADGET
+    QML_FOREIGN(quib::Store)
+    QML_EXTENDED(quib::StoreForViews)
+    QML_NAMED_ELEMENT(Store)
+    QML_UNCREATABLE("Created by the application delegate")
+};
+
+/// `property uuid id`: compares by value and is passed to C++ as it is. The null id stands for
+/// none.
 struct UuidType {
     Q_GADGET
     QML_FOREIGN(QUuid)

@@ -1,0 +1,44 @@
+#include "views/chosenclient.h"
+
+#include "views/storelink.h"
+
+namespace quib {
+
+QString ChosenClient::name() const
+{
+    return m_client ? m_client->name : QString();
+}
+
+QString ChosenClient::status() const
+{
+    return m_client ? rawText(m_client->status) : QString();
+}
+
+void ChosenClient::setStore(Store* store)
+{
+    if (followStore(m_store, store, this, &ChosenClient::follow, &Store::clientsChanged)) {
+        Q_EMIT storeChanged();
+    }
+}
+
+void ChosenClient::setClientID(const QUuid& id)
+{
+    if (m_clientID == id) {
+        return;
+    }
+    m_clientID = id;
+    follow();
+    Q_EMIT clientIDChanged();
+}
+
+void ChosenClient::follow()
+{
+    const auto chosen = m_clientID.isNull() ? std::nullopt : std::optional(m_clientID);
+    auto client = m_store ? m_store->client(chosen) : std::nullopt;
+    if (m_client != client) {
+        m_client = std::move(client);
+        Q_EMIT changed();
+    }
+}
+
+} // namespace quib

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "model/datetexts.h"
+#include "model/duration.h"
+#include "model/userlocale.h"
+
+#include <QDateTime>
+#include <QObject>
+
+#include <qqmlintegration.h>
+
+namespace quib {
+
+/// The model's formatters for bindings, in the user's locale: views build no texts of their own.
+class Format : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+
+public:
+    using QObject::QObject;
+
+    Q_INVOKABLE static QString formatDuration(double seconds, bool withSeconds)
+    {
+        return quib::formatDuration(seconds, withSeconds);
+    }
+
+    /// Of the tab bar: abbreviated weekday, month and day.
+    Q_INVOKABLE QString weekdayAndDay(const QDateTime& moment) const
+    {
+        return m_dates.weekdayAndDay(moment);
+    }
+
+private:
+    DateTexts m_dates{UserLocale::fromEnvironment()};
+};
+
+} // namespace quib

@@ -1,0 +1,38 @@
+#include "views/runningtimer.h"
+
+#include "views/storelink.h"
+
+using namespace Qt::StringLiterals;
+
+namespace quib {
+
+void RunningTimer::setStore(Store* store)
+{
+    if (followStore(m_store, store, this, &RunningTimer::follow, &Store::entriesChanged,
+                    &Store::clientsChanged)) {
+        Q_EMIT storeChanged();
+    }
+}
+
+void RunningTimer::follow()
+{
+    auto shown = wanted();
+    if (m_shown == shown) {
+        return;
+    }
+    m_shown = std::move(shown);
+    Q_EMIT changed();
+}
+
+RunningTimer::Shown RunningTimer::wanted() const
+{
+    const auto entry = m_store ? m_store->runningEntry() : std::nullopt;
+    if (!entry) {
+        return {};
+    }
+    const auto client = m_store->client(entry->clientID);
+    return {
+        .isRunning = true, .since = entry->start, .clientName = client ? client->name : u"Timer"_s};
+}
+
+} // namespace quib
