@@ -1,0 +1,122 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Quib.Notch
+import Quib.Views
+
+/*!
+    The open card: the tab bar and the view of the selected tab. It arrives growing a little and
+    fading in, and leaves by fading out.
+*/
+FocusScope {
+    id: root
+
+    required property NotchModel model
+    required property Store store
+    required property real arrival
+
+    visible: root.opacity > 0
+    transformOrigin: Item.Top
+
+    TopBar {
+        id: bar
+
+        objectName: "topBar"
+        anchors.left: area.left
+        anchors.right: area.right
+        anchors.top: parent.top
+        anchors.topMargin: 8
+        height: Math.max(30, root.model.notchSize.height)
+        model: root.model
+    }
+
+    FocusScope {
+        id: area
+
+        objectName: "tabArea"
+        anchors.fill: parent
+        anchors.topMargin: bar.anchors.topMargin + bar.height
+        anchors.leftMargin: 22
+        anchors.rightMargin: 22
+        anchors.bottomMargin: 14
+        focus: true
+
+        Page {
+            tab: Tab.Home
+            view: EmptyTab { tab: Tab.Home }
+        }
+
+        Page {
+            tab: Tab.Links
+            view: EmptyTab { tab: Tab.Links }
+        }
+
+        Page {
+            tab: Tab.Clients
+            view: EmptyTab { tab: Tab.Clients }
+        }
+
+        Page {
+            tab: Tab.Tasks
+
+            view: TasksView {
+                objectName: "tasksView"
+                anchors.fill: parent
+                store: root.store
+            }
+        }
+
+        Page {
+            tab: Tab.Time
+            view: EmptyTab { tab: Tab.Time }
+        }
+
+        Page {
+            tab: Tab.Shelf
+            view: EmptyTab { tab: Tab.Shelf }
+        }
+
+        Page {
+            tab: Tab.Notes
+            view: EmptyTab { tab: Tab.Notes }
+        }
+    }
+
+    states: [
+        State {
+            name: "shown"
+            when: root.model.isExpanded
+
+            PropertyChanges {
+                target: root
+                opacity: Math.min(1, root.arrival)
+                scale: 0.97 + 0.03 * root.arrival
+            }
+        },
+        State {
+            name: "hidden"
+            when: !root.model.isExpanded
+
+            PropertyChanges {
+                target: root
+                opacity: 0
+            }
+        }
+    ]
+
+    transitions: Transition {
+        to: "hidden"
+        enabled: !root.model.isMotionReduced
+
+        NumberAnimation {
+            property: "opacity"
+            duration: 80
+            easing.type: Easing.OutQuad
+        }
+    }
+
+    component Page: TabPage {
+        model: root.model
+    }
+}

@@ -1,0 +1,113 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Quib.Brand
+import Quib.Notch
+import Quib.Views
+
+/*!
+    The content of the panel: one black shape at the top centre, a notch or the open card. Files
+    dropped on it land on the shelf.
+*/
+FocusScope {
+    id: root
+
+    required property NotchModel model
+    required property Store store
+
+    readonly property size shapeSize: root.model.isExpanded ? root.cardSize : root.collapsedSize
+    readonly property size cardSize: Qt.size(700, 290)
+    readonly property size collapsedSize: Qt.size(
+        root.model.notchSize.width + 10 + (timer.isRunning ? 184 : 0), root.model.notchSize.height)
+
+    focus: true
+
+    function handleDrop(urls: list<url>) {
+        urls.forEach(url => root.store.addToShelf([url]));
+    }
+
+    /// Between two numbers as far as the spring has come; it may overshoot.
+    function mix(collapsed: real, expanded: real): real {
+        return Math.max(0, collapsed + (expanded - collapsed) * spring.value);
+    }
+
+    RunningTimer {
+        id: timer
+
+        store: root.store
+    }
+
+    SpringValue {
+        id: spring
+
+        objectName: "spring"
+        isSnapping: root.model.isMotionReduced
+        response: spring.target === 1 ? 0.28 : 0.2
+        damping: spring.target === 1 ? 0.82 : 1.0
+        target: root.model.isExpanded ? 1 : 0
+    }
+
+    FocusScope {
+        id: shapeGroup
+
+        objectName: "shapeGroup"
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: root.mix(root.collapsedSize.width, root.cardSize.width)
+        height: root.mix(root.collapsedSize.height, root.cardSize.height)
+        clip: true
+        focus: true
+
+        NotchShape {
+            objectName: "shape"
+            anchors.fill: parent
+            radius: root.mix(10, 26)
+            outline: root.model.isDropTargeted ? Brand.glow : Brand.white(root.mix(0, 0.06))
+        }
+
+        CollapsedTimerWings {
+            objectName: "wings"
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: root.collapsedSize.width
+            height: root.collapsedSize.height
+            opacity: 1 - Math.min(1, spring.value)
+            timer: timer
+            shown: !root.model.isExpanded
+            isMotionReduced: root.model.isMotionReduced
+        }
+
+        LazyView {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: root.cardSize.width
+            height: root.cardSize.height
+            shown: root.model.isExpanded
+            focus: true
+
+            view: ExpandedView {
+                objectName: "expandedView"
+                anchors.fill: parent
+                focus: true
+                model: root.model
+                store: root.store
+                arrival: spring.value
+            }
+        }
+    }
+
+    DropArea {
+        id: dropArea
+
+        objectName: "dropArea"
+        anchors.fill: shapeGroup
+        keys: ["text/uri-list"]
+
+        // The copy action again on every move, or the source is told of a move and may delete.
+        onEntered: drag => drag.accept(Qt.CopyAction)
+        onPositionChanged: drag => drag.accept(Qt.CopyAction)
+        onContainsDragChanged: root.model.isDropTargeted = dropArea.containsDrag
+        onDropped: drop => {
+            drop.accept(Qt.CopyAction);
+            root.handleDrop(drop.urls);
+        }
+    }
+}

@@ -1,0 +1,83 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Quib.Brand
+import Quib.Notch
+import Quib.Views
+
+/*!
+    The tabs left of the notch, the date and the pin right of it.
+*/
+Item {
+    id: root
+
+    required property NotchModel model
+
+    Row {
+        id: tabs
+
+        objectName: "tabs"
+        anchors.left: parent.left
+        anchors.leftMargin: 20
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+        Accessible.role: Accessible.PageTabList
+        Accessible.name: "Tabs"
+
+        Repeater {
+            model: Tabs.all
+
+            TabButton {
+                required property int modelData
+
+                model: root.model
+                tab: modelData
+            }
+        }
+    }
+
+    Row {
+        objectName: "dateAndPin"
+        anchors.right: parent.right
+        anchors.rightMargin: 20
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 8
+
+        QuibText {
+            objectName: "date"
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, root.width - 40 - tabs.width - root.model.notchSize.width - 10 - 20)
+            text: Format.weekdayAndDay(beat.now)
+            size: 11
+            weight: Font.Medium
+            color: Brand.muted
+            elide: Text.ElideRight
+
+            Beat {
+                id: beat
+
+                interval: 30
+            }
+        }
+
+        PlainButton {
+            objectName: "pin"
+            anchors.verticalCenter: parent.verticalCenter
+            help: "Keep open"
+            Accessible.role: Accessible.CheckBox
+            Accessible.name: help
+            Accessible.checkable: true
+            Accessible.checked: root.model.isPinned
+
+            onClicked: root.model.isPinned = !root.model.isPinned
+
+            contentItem: Symbol {
+                objectName: "symbol"
+                name: root.model.isPinned ? "pin.fill" : "pin"
+                size: 12
+                color: root.model.isPinned ? Brand.glow : Brand.muted
+            }
+        }
+    }
+}

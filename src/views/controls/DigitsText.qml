@@ -1,0 +1,4 @@
+import Quib.Views
+
+QuibText {
+}

@@ -1,0 +1,87 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Quib.Brand
+import Quib.Views
+
+/*!
+    Chooses a client, or none, from a menu.
+*/
+PlainButton {
+    id: root
+
+    required property Store store
+    required property uuid selection
+    required property string placeholder
+
+    readonly property string shownName: client.exists ? client.name : root.placeholder
+
+    signal chosen(client: uuid)
+
+    horizontalPadding: 9
+    verticalPadding: 6
+    ringRadius: 8
+    Accessible.role: Accessible.ComboBox
+    Accessible.name: "Client: %1".arg(root.shownName)
+
+    onClicked: menu.open()
+    Keys.onDownPressed: menu.open()
+
+    ChosenClient {
+        id: client
+
+        store: root.store
+        clientID: root.selection
+    }
+
+    QuibMenu {
+        id: menu
+    }
+
+    background: ContinuousRectangle {
+        objectName: "background"
+        radius: 8
+        color: Brand.white(0.07)
+    }
+
+    contentItem: Item {
+        implicitWidth: dot.width + name.implicitWidth + arrows.width + 12
+        implicitHeight: name.implicitHeight
+
+        Rectangle {
+            id: dot
+
+            objectName: "dot"
+            anchors.verticalCenter: parent.verticalCenter
+            width: 6
+            height: 6
+            radius: 3
+            color: Brand.color(client.status)
+        }
+
+        QuibText {
+            id: name
+
+            objectName: "name"
+            anchors.left: dot.right
+            anchors.leftMargin: 6
+            anchors.right: arrows.left
+            anchors.rightMargin: 6
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.shownName
+            size: 11.5
+            elide: Text.ElideRight
+        }
+
+        Symbol {
+            id: arrows
+
+            objectName: "arrows"
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            name: "chevron.up.chevron.down"
+            size: 8
+        }
+    }
+}

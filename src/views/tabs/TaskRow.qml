@@ -1,0 +1,118 @@
+import QtQuick
+
+import Quib.Brand
+import Quib.Views
+
+/*!
+    One task: ticked off by its circle, deleted by the button that the pointer brings.
+*/
+Item {
+    id: root
+
+    required property uuid taskID
+    required property string title
+    required property bool done
+    required property string clientName
+    required property string clientStatus
+
+    readonly property bool hasTag: root.clientStatus !== ""
+    readonly property bool isActive: hover.hovered || tick.activeFocus || remove.activeFocus
+
+    signal toggled
+    signal deleted
+
+    implicitHeight: 26
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.title
+
+    HoverHandler {
+        id: hover
+    }
+
+    PlainButton {
+        id: tick
+
+        objectName: "tick"
+        anchors.verticalCenter: parent.verticalCenter
+        Accessible.role: Accessible.CheckBox
+        Accessible.name: (root.done ? "Mark open: %1" : "Mark done: %1").arg(root.title)
+        Accessible.checkable: true
+        Accessible.checked: root.done
+
+        onClicked: root.toggled()
+
+        contentItem: Symbol {
+            objectName: "symbol"
+            name: root.done ? "checkmark.circle.fill" : "circle"
+            size: 14
+            color: root.done ? Brand.live : Brand.muted
+        }
+    }
+
+    QuibText {
+        id: titleText
+
+        objectName: "title"
+        anchors.left: tick.right
+        anchors.leftMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, tag.maximumX - x - (root.hasTag ? tag.width + 8 : 0))
+        text: root.title
+        size: 12.5
+        color: root.done ? Brand.muted2 : "white"
+        strikeout: root.done
+        elide: Text.ElideRight
+    }
+
+    Item {
+        id: tag
+
+        readonly property real maximumX: root.width - 31
+
+        objectName: "tag"
+        anchors.left: titleText.right
+        anchors.leftMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(name.implicitWidth, 140) + 14
+        height: name.implicitHeight + 4
+        visible: root.hasTag
+
+        ContinuousRectangle {
+            objectName: "capsule"
+            anchors.fill: parent
+            radius: height / 2
+            color: Brand.color(root.clientStatus)
+            opacity: 0.13
+        }
+
+        QuibText {
+            id: name
+
+            objectName: "clientName"
+            x: 7
+            y: 2
+            width: parent.width - 14
+            text: root.clientName
+            size: 10
+            weight: Font.Medium
+            color: Brand.color(root.clientStatus)
+            elide: Text.ElideRight
+        }
+    }
+
+    IconButton {
+        id: remove
+
+        objectName: "remove"
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        visible: root.isActive
+        symbol: "xmark"
+        size: 9
+        tint: Brand.muted
+        help: "Delete"
+        Accessible.name: "Delete: %1".arg(root.title)
+
+        onClicked: root.deleted()
+    }
+}

@@ -1,0 +1,120 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Quib.Brand
+import Quib.Views
+
+/*!
+    The to-do list: a field that adds a task on Return, filters by client, open tasks above done
+    ones.
+*/
+FocusScope {
+    id: root
+
+    required property Store store
+
+    property uuid filter
+    property uuid newClient
+
+    function addTask() {
+        root.store.addTask(field.text, root.newClient === NoClient.id ? root.filter : root.newClient);
+        field.text = "";
+        field.forceActiveFocus();
+    }
+
+    TaskListModel {
+        id: tasks
+
+        store: root.store
+        filter: root.filter
+    }
+
+    Item {
+        id: entryRow
+
+        objectName: "entryRow"
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.topMargin: 10
+        height: Math.max(field.height, picker.height)
+
+        QuibField {
+            id: field
+
+            objectName: "newTitle"
+            anchors.left: parent.left
+            anchors.right: picker.left
+            anchors.rightMargin: 6
+            anchors.verticalCenter: parent.verticalCenter
+            focus: true
+            placeholder: "Add a task and press Return…"
+
+            onAccepted: root.addTask()
+        }
+
+        ClientPicker {
+            id: picker
+
+            objectName: "newClient"
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            width: 140
+            store: root.store
+            placeholder: "No client"
+            selection: root.newClient
+
+            onChosen: client => root.newClient = client
+        }
+    }
+
+    TaskFilters {
+        id: filters
+
+        objectName: "filters"
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: entryRow.bottom
+        anchors.topMargin: 8
+        store: root.store
+        filter: root.filter
+        clearDoneTitle: tasks.clearDoneTitle
+
+        onChosen: client => root.filter = client
+    }
+
+    ListView {
+        id: list
+
+        objectName: "list"
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: filters.bottom
+        anchors.topMargin: 8
+        anchors.bottom: parent.bottom
+        clip: true
+        spacing: 2
+        boundsBehavior: Flickable.StopAtBounds
+        model: tasks
+        Accessible.role: Accessible.List
+        Accessible.name: "Tasks"
+
+        delegate: TaskRow {
+            width: list.width
+
+            onToggled: root.store.toggleTask(taskID)
+            onDeleted: root.store.deleteTask(taskID)
+        }
+
+        QuibText {
+            objectName: "nothing"
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: 30
+            visible: tasks.count === 0
+            text: "Nothing to do. Nice."
+            size: 12
+            color: Brand.muted2
+        }
+    }
+}
