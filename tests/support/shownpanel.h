@@ -1,0 +1,75 @@
+#pragma once
+
+#include "app/notch/notchmodel.h"
+#include "app/notchpanel.h"
+#include "support/fakeshell.h"
+#include "support/workspace.h"
+
+#include <QQuickItem>
+#include <QTest>
+
+/// The whole panel in a window, with a real store behind it. Springs snap unless a test lets them
+/// move.
+struct ShownPanel {
+    Workspace workspace;
+    quib::NotchModel model;
+    QStringList asked;
+    FakePanelHost host{asked};
+    std::unique_ptr<quib::NotchPanel> window;
+
+    explicit ShownPanel(const quib::QuibData& data = {}, quib::Store::Surroundings around = {})
+        : workspace(data, std::move(around))
+    {
+        model.setMotionReduced(true);
+        model.setNotchSize({188, 37});
+        window = std::make_unique<quib::NotchPanel>(model, *workspace.store, host);
+        window->show();
+        [[maybe_unused]] const bool isExposed = QTest::qWaitForWindowExposed(window.get());
+    }
+
+    void open(quib::Tab tab)
+    {
+        model.setTab(tab);
+        model.setExpanded(true);
+    }
+
+    QQuickItem* root() const { return window->rootObject(); }
+
+    /// The first item of that name, in the order of the scene; null when there is none.
+    QQuickItem* item(const QString& name) const { return find(root(), name); }
+
+    static QQuickItem* find(QQuickItem* below, const QString& name)
+    {
+        if (below->objectName() == name) {
+            return below;
+        }
+        for (auto* child : below->childItems()) {
+            if (auto* found = find(child, name)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+
+    static QRectF inScene(const QQuickItem* item)
+    {
+        return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+    }
+
+    QRectF rect(const QString& name) const { return inScene(item(name)); }
+
+    void move(const QQuickItem* to) const
+    {
+        QTest::mouseMove(window.get(), inScene(to).center().toPoint());
+    }
+
+    void click(const QQuickItem* on) const
+    {
+        QTest::mouseClick(window.get(), Qt::LeftButton, {}, inScene(on).center().toPoint());
+    }
+};
+
+inline QColor colorOf(const QQuickItem* item)
+{
+    return item->property("color").value<QColor>();
+}

@@ -1,0 +1,131 @@
+#include "views/clientlistmodel.h"
+
+#include "support/workspace.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using quib::ClientListModel;
+
+namespace {
+
+QStringList names(const ClientListModel& model)
+{
+    QStringList found;
+    for (int row = 0; row < model.count(); ++row) {
+        found << model.index(row).data(ClientListModel::NameRole).toString();
+    }
+    return found;
+}
+
+} // namespace
+
+class ClientListModelTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void rows_areTheClientsInOrder();
+    void withTasks_leavesOutWhoHasNone();
+    void lastTaskGone_takesItsClientAway();
+    void renamingAClient_touchesOneRow();
+    void repeatedIds_areAllShown();
+    void storeGone_leavesNoRows();
+};
+
+void ClientListModelTest::rows_areTheClientsInOrder()
+{
+    Workspace workspace;
+    const auto id = workspace.client(u"Corner Café"_s, quib::ClientStatus::Build);
+    workspace.client(u"Bloom Florist"_s);
+    ClientListModel model;
+
+    model.setStore(workspace.store.get());
+
+    QCOMPARE(names(model), (QStringList{u"Corner Café"_s, u"Bloom Florist"_s}));
+    QCOMPARE(model.index(0).data(ClientListModel::IdRole).toUuid(), id);
+    QCOMPARE(model.index(0).data(ClientListModel::StatusRole).toString(), u"build"_s);
+}
+
+void ClientListModelTest::withTasks_leavesOutWhoHasNone()
+{
+    Workspace workspace;
+    workspace.client(u"Idle"_s);
+    const auto busy = workspace.client(u"Busy"_s);
+    const auto finished = workspace.client(u"Finished"_s);
+    workspace.task(u"First"_s, finished, true);
+    workspace.task(u"Second"_s, busy);
+    workspace.task(u"General"_s);
+    ClientListModel model;
+    model.setSelection(ClientListModel::Selection::WithTasks);
+
+    model.setStore(workspace.store.get());
+
+    QCOMPARE(names(model), (QStringList{u"Busy"_s, u"Finished"_s}));
+}
+
+void ClientListModelTest::lastTaskGone_takesItsClientAway()
+{
+    Workspace workspace;
+    const auto task = workspace.task(u"Only one"_s, workspace.client(u"Busy"_s));
+    ClientListModel model;
+    model.setSelection(ClientListModel::Selection::WithTasks);
+    model.setStore(workspace.store.get());
+
+    workspace.store->deleteTask(task);
+
+    QCOMPARE(names(model), QStringList());
+}
+
+void ClientListModelTest::renamingAClient_touchesOneRow()
+{
+    Workspace workspace;
+    workspace.client(u"Corner Café"_s);
+    const auto id = workspace.client(u"Bloom"_s);
+    ClientListModel model;
+    model.setStore(workspace.store.get());
+    const QAbstractItemModelTester invariants(
+        &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    const QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    const QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
+    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+
+    auto client = *workspace.store->client(id);
+    client.name = u"Bloom Florist"_s;
+    workspace.store->updateClient(client);
+
+    QCOMPARE(reset.count() + removed.count(), 0);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.front().front().toModelIndex().row(), 1);
+    QCOMPARE(names(model), (QStringList{u"Corner Café"_s, u"Bloom Florist"_s}));
+}
+
+void ClientListModelTest::repeatedIds_areAllShown()
+{
+    Workspace workspace;
+    const auto id = workspace.client(u"First"_s);
+    auto data = workspace.store->data();
+    data.clients.append({.id = id, .name = u"Twin"_s});
+    workspace.store->setData(data);
+    ClientListModel model;
+
+    model.setStore(workspace.store.get());
+
+    QCOMPARE(names(model), (QStringList{u"First"_s, u"Twin"_s}));
+}
+
+void ClientListModelTest::storeGone_leavesNoRows()
+{
+    Workspace workspace;
+    workspace.client(u"Corner Café"_s);
+    ClientListModel model;
+    model.setStore(workspace.store.get());
+
+    model.setStore(nullptr);
+
+    QCOMPARE(model.count(), 0);
+}
+
+QTEST_GUILESS_MAIN(ClientListModelTest)
+#include "tst_clientlistmodel.moc"

@@ -1,0 +1,199 @@
+#include "support/shownpanel.h"
+
+#include "brand/brand.h"
+#include "views/notchshape.h"
+
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+using quib::Brand;
+using quib::Tab;
+
+/// The notch, the card and what lies on every card, read from the live items.
+class RootViewTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void collapsed_overhangsTheNotchByFivePointsOnEachSide();
+    void runningTimer_widensTheShapeByTheWings();
+    void expanded_isTheCardAtTheTopCentre();
+    void outline_data();
+    void outline();
+    void spring_isTheOneOfTheTransition();
+    void springFromTheCollapsedNotch_growsAtOnce();
+    void cardIsBuiltWhenFirstOpened();
+    void cardContents_havePaddings();
+    void topBar_isAsHighAsTheNotchButThirtyAtLeast();
+    void contentsLeave_byFadingOut();
+    void switchingTabs_keepsTheTabBar();
+    void droppedFiles_areAddedOneCallEach();
+};
+
+void RootViewTest::collapsed_overhangsTheNotchByFivePointsOnEachSide()
+{
+    const ShownPanel panel;
+
+    QCOMPARE(panel.rect(u"shape"_s), QRectF(380 - 99, 0, 198, 37));
+    QCOMPARE(panel.item(u"shape"_s)->property("radius").toDouble(), 10.0);
+    QVERIFY(!panel.item(u"wings"_s)->isVisible());
+}
+
+void RootViewTest::runningTimer_widensTheShapeByTheWings()
+{
+    const ShownPanel panel;
+
+    panel.workspace.store->startTimer({}, QString());
+
+    QCOMPARE(panel.rect(u"shape"_s), QRectF(380 - 191, 0, 382, 37));
+    QVERIFY(panel.item(u"wings"_s)->isVisible());
+}
+
+void RootViewTest::expanded_isTheCardAtTheTopCentre()
+{
+    ShownPanel panel;
+
+    panel.open(Tab::Home);
+
+    QCOMPARE(panel.rect(u"shape"_s), QRectF(30, 0, 700, 290));
+    QCOMPARE(panel.item(u"shape"_s)->property("radius").toDouble(), 26.0);
+    QVERIFY(panel.item(u"shapeGroup"_s)->clip());
+    QVERIFY(!panel.item(u"wings"_s)->isVisible());
+}
+
+void RootViewTest::outline_data()
+{
+    QTest::addColumn<bool>("expanded");
+    QTest::addColumn<bool>("targeted");
+    QTest::addColumn<QColor>("color");
+
+    QTest::addRow("collapsed") << false << false << Brand::white(0);
+    QTest::addRow("expanded") << true << false << Brand::white(0.06);
+    QTest::addRow("collapsed, a drag over it") << false << true << Brand::glow();
+    QTest::addRow("expanded, a drag over it") << true << true << Brand::glow();
+}
+
+void RootViewTest::outline()
+{
+    QFETCH(bool, expanded);
+    QFETCH(bool, targeted);
+    ShownPanel panel;
+
+    panel.model.setExpanded(expanded);
+    panel.model.setDropTargeted(targeted);
+
+    QTEST(panel.item(u"shape"_s)->property("outline").value<QColor>(), "color");
+}
+
+void RootViewTest::spring_isTheOneOfTheTransition()
+{
+    ShownPanel panel;
+    const auto* spring = panel.root()->findChild<QObject*>(u"spring"_s);
+    QVERIFY(spring);
+
+    panel.model.setExpanded(true);
+    QCOMPARE(spring->property("response").toDouble(), 0.28);
+    QCOMPARE(spring->property("damping").toDouble(), 0.82);
+
+    panel.model.setExpanded(false);
+    QCOMPARE(spring->property("response").toDouble(), 0.2);
+    QCOMPARE(spring->property("damping").toDouble(), 1.0);
+}
+
+void RootViewTest::springFromTheCollapsedNotch_growsAtOnce()
+{
+    ShownPanel panel;
+    panel.model.setMotionReduced(false);
+
+    panel.model.setExpanded(true);
+    QVERIFY(panel.rect(u"shape"_s).width() > 198);
+    QVERIFY(panel.rect(u"shape"_s).width() < 400);
+
+    QTRY_COMPARE(panel.rect(u"shape"_s), QRectF(30, 0, 700, 290));
+}
+
+void RootViewTest::cardIsBuiltWhenFirstOpened()
+{
+    ShownPanel panel;
+    QVERIFY(!panel.item(u"tasksView"_s));
+
+    panel.open(Tab::Home);
+    QVERIFY(panel.item(u"topBar"_s));
+    QVERIFY(!panel.item(u"tasksView"_s));
+    panel.open(Tab::Tasks);
+    auto* tasks = panel.item(u"tasksView"_s);
+    QVERIFY(tasks);
+    panel.model.setExpanded(false);
+    QTRY_VERIFY(!tasks->isVisible());
+    panel.open(Tab::Tasks);
+
+    QCOMPARE(panel.item(u"tasksView"_s), tasks);
+    QVERIFY(tasks->isVisible());
+}
+
+void RootViewTest::cardContents_havePaddings()
+{
+    ShownPanel panel;
+
+    panel.open(Tab::Home);
+
+    const QRectF card(30, 0, 700, 290);
+    QCOMPARE(panel.rect(u"topBar"_s), QRectF(card.left() + 22, 8, 700 - 44, 37));
+    QCOMPARE(panel.rect(u"tabArea"_s),
+             QRectF(QPointF(card.left() + 22, 8 + 37), QPointF(card.right() - 22, 290 - 14)));
+}
+
+void RootViewTest::topBar_isAsHighAsTheNotchButThirtyAtLeast()
+{
+    ShownPanel panel;
+    panel.open(Tab::Home);
+
+    panel.model.setNotchSize({190, 24});
+
+    QCOMPARE(panel.rect(u"topBar"_s).height(), 30);
+}
+
+void RootViewTest::contentsLeave_byFadingOut()
+{
+    ShownPanel panel;
+    panel.open(Tab::Home);
+    panel.model.setMotionReduced(false);
+    const auto* contents = panel.item(u"expandedView"_s);
+    QCOMPARE(contents->opacity(), 1.0);
+
+    panel.model.setExpanded(false);
+
+    QTRY_COMPARE(contents->opacity(), 0.0);
+    QVERIFY(!contents->isVisible());
+    QCOMPARE(contents->scale(), 1.0);
+}
+
+void RootViewTest::switchingTabs_keepsTheTabBar()
+{
+    ShownPanel panel;
+    panel.open(Tab::Home);
+    const auto* bar = panel.item(u"topBar"_s);
+
+    panel.open(Tab::Tasks);
+
+    QCOMPARE(panel.item(u"topBar"_s), bar);
+    QVERIFY(panel.item(u"tasksView"_s)->isVisible());
+}
+
+void RootViewTest::droppedFiles_areAddedOneCallEach()
+{
+    ShownPanel panel;
+    const QSignalSpy changes(panel.workspace.store.get(), &quib::Store::shelfChanged);
+
+    QMetaObject::invokeMethod(
+        panel.root(), "handleDrop",
+        Q_ARG(QList<QUrl>,
+              (QList<QUrl>{QUrl(u"file:///tmp/first"_s), QUrl(u"https://ex.org"_s),
+                           QUrl(u"file:///tmp/second"_s)})));
+
+    QCOMPARE(changes.count(), 2);
+    QCOMPARE(panel.workspace.store->data().shelf.front().path, u"/tmp/second"_s);
+    QCOMPARE(panel.workspace.store->data().shelf.size(), 2);
+}
+
+QTEST_MAIN(RootViewTest)
+#include "tst_rootview.moc"

@@ -1,0 +1,174 @@
+#include "support/shownpanel.h"
+
+#include "app/notch/tab.h"
+#include "brand/brand.h"
+
+#include <QFont>
+
+using namespace Qt::StringLiterals;
+using quib::Brand;
+using quib::Tab;
+
+/// The bar of tabs, date and pin, read from the live items.
+class TopBarTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tabButtons_standInOrderTwoPointsApart();
+    void tabButton_showsItsSymbol();
+    void tabButton_lightsUp_data();
+    void tabButton_lightsUp();
+    void clickingATab_selectsIt();
+    void date_isWrittenInTheUsersWay();
+    void pin_standsEightPointsAfterTheDate();
+    void pin_showsWhetherItKeepsOpen();
+    void clickingThePin_invertsIt();
+
+private:
+    static QList<QQuickItem*> buttons(const ShownPanel& panel);
+};
+
+QList<QQuickItem*> TopBarTest::buttons(const ShownPanel& panel)
+{
+    QList<QQuickItem*> found;
+    for (auto* child : panel.item(u"tabs"_s)->childItems()) {
+        if (child->property("tab").isValid()) {
+            found << child;
+        }
+    }
+    return found;
+}
+
+void TopBarTest::tabButtons_standInOrderTwoPointsApart()
+{
+    ShownPanel panel;
+    panel.open(Tab::Home);
+    const auto bar = panel.rect(u"topBar"_s);
+
+    const auto all = buttons(panel);
+
+    QCOMPARE(all.size(), 7);
+    for (int i = 0; i < 7; ++i) {
+        QCOMPARE(all.at(i)->property("tab").toInt(), i);
+        QCOMPARE(ShownPanel::inScene(all.at(i)),
+                 QRectF(bar.left() + 20 + i * 32, bar.center().y() - 12, 30, 24));
+    }
+}
+
+void TopBarTest::tabButton_showsItsSymbol()
+{
+    ShownPanel panel;
+    panel.open(Tab::Home);
+
+    for (auto* button : buttons(panel)) {
+        const auto* symbol = ShownPanel::find(button, u"symbol"_s);
+        QCOMPARE(symbol->property("name").toString(),
+                 quib::symbol(static_cast<Tab>(button->property("tab").toInt())));
+        QCOMPARE(symbol->property("size").toDouble(), 12.0);
+        QCOMPARE(symbol->property("weight").toInt(), int(QFont::DemiBold));
+    }
+}
+
+void TopBarTest::tabButton_lightsUp_data()
+{
+    QTest::addColumn<bool>("selected");
+    QTest::addColumn<bool>("hovered");
+    QTest::addColumn<QColor>("symbol");
+    QTest::addColumn<QColor>("capsule");
+    QTest::addColumn<double>("opacity");
+
+    QTest::addRow("at rest") << false << false << Brand::muted2() << QColor(Qt::white) << 0.0;
+    QTest::addRow("hovered") << false << true << Brand::white(0.85) << QColor(Qt::white) << 0.08;
+    QTest::addRow("selected") << true << false << QColor(Qt::white) << Brand::purple() << 0.55;
+    QTest::addRow("selected and hovered")
+        << true << true << QColor(Qt::white) << Brand::purple() << 0.55;
+}
+
+void TopBarTest::tabButton_lightsUp()
+{
+    QFETCH(bool, selected);
+    QFETCH(bool, hovered);
+    QFETCH(QColor, symbol);
+    QFETCH(QColor, capsule);
+    QFETCH(double, opacity);
+    ShownPanel panel;
+    panel.open(selected ? Tab::Tasks : Tab::Home);
+    auto* button = buttons(panel).at(int(Tab::Tasks));
+
+    panel.move(hovered ? button : panel.item(u"tabArea"_s));
+
+    QTRY_COMPARE(button->property("hovered").toBool(), hovered);
+    QCOMPARE(colorOf(ShownPanel::find(button, u"symbol"_s)), symbol);
+    const auto* background = ShownPanel::find(button, u"capsule"_s);
+    QCOMPARE(background->opacity(), opacity);
+    QCOMPARE(colorOf(background), capsule);
+    QCOMPARE(background->property("radius").toDouble(), 12.0);
+}
+
+void TopBarTest::clickingATab_selectsIt()
+{
+    ShownPanel panel;
+    panel.open(Tab::Home);
+
+    panel.click(buttons(panel).at(int(Tab::Notes)));
+
+    QCOMPARE(panel.model.tab(), Tab::Notes);
+}
+
+void TopBarTest::date_isWrittenInTheUsersWay()
+{
+    ShownPanel panel;
+    panel.open(Tab::Home);
+    const auto* date = panel.item(u"date"_s);
+
+    const auto today = QDate::currentDate();
+
+    QCOMPARE(date->property("text").toString(),
+             QLocale(QLocale::English).toString(today, u"ddd, MMM d"_s));
+    QCOMPARE(date->property("size").toDouble(), 11.0);
+    QCOMPARE(date->property("weight").toInt(), int(QFont::Medium));
+    QCOMPARE(colorOf(date), Brand::muted());
+}
+
+void TopBarTest::pin_standsEightPointsAfterTheDate()
+{
+    ShownPanel panel;
+    panel.open(Tab::Home);
+
+    const auto pin = panel.rect(u"pin"_s);
+
+    QCOMPARE(pin.right(), panel.rect(u"topBar"_s).right() - 20);
+    QCOMPARE(pin.size(), QSizeF(12, 12));
+    QCOMPARE(pin.left() - panel.rect(u"date"_s).right(), 8.0);
+    QCOMPARE(pin.center().y(), panel.rect(u"topBar"_s).center().y());
+}
+
+void TopBarTest::pin_showsWhetherItKeepsOpen()
+{
+    ShownPanel panel;
+    panel.open(Tab::Home);
+    const auto* symbol = ShownPanel::find(panel.item(u"pin"_s), u"symbol"_s);
+    QCOMPARE(symbol->property("size").toDouble(), 12.0);
+    QCOMPARE(symbol->property("name").toString(), u"pin"_s);
+    QCOMPARE(colorOf(symbol), Brand::muted());
+
+    panel.model.setPinned(true);
+
+    QCOMPARE(symbol->property("name").toString(), u"pin.fill"_s);
+    QCOMPARE(colorOf(symbol), Brand::glow());
+}
+
+void TopBarTest::clickingThePin_invertsIt()
+{
+    ShownPanel panel;
+    panel.open(Tab::Home);
+
+    panel.click(panel.item(u"pin"_s));
+    QVERIFY(panel.model.isPinned());
+    panel.click(panel.item(u"pin"_s));
+
+    QVERIFY(!panel.model.isPinned());
+}
+
+QTEST_MAIN(TopBarTest)
+#include "tst_topbar.moc"
