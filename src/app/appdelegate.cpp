@@ -1,0 +1,165 @@
+#include "app/appdelegate.h"
+
+#include "app/notchpanel.h"
+
+#include <QRegion>
+
+#include <utility>
+
+using namespace std::chrono_literals;
+
+namespace quib {
+
+namespace {
+
+constexpr auto PollInterval = 16ms; // The whole milliseconds next to a sixtieth of a second.
+constexpr auto CollapseDelay = 60ms;
+
+} // namespace
+
+AppDelegate::AppDelegate(Platform platform, Clock clock, Scheduler schedule)
+    : m_platform(std::move(platform))
+    , m_schedule(schedule)
+    , m_store({.clock = std::move(clock),
+               .schedule = std::move(schedule),
+               .findApplication = [this](const QString& name) {
+                   return m_platform.applications->applicationNamed(name);
+               }})
+{
+}
+
+AppDelegate::~AppDelegate() = default;
+
+QRectF AppDelegate::collapsedRect() const
+{
+    return quib::collapsedRect(m_screen, m_model.notchSize(), m_store.hasRunningEntry());
+}
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    m_panel = std::make_unique<NotchPanel>(m_model, m_store, *m_platform.panelHost);
+    layout();
+    m_platform.panelHost->setInputRegion({});
+    m_platform.panelHost->orderFront();
+    connect(&m_model, &NotchModel::isExpandedChanged, this, &AppDelegate::followExpansion);
+    connect(m_platform.screens.get(), &ScreenSource::changed, this, &AppDelegate::layout);
+    installMouseMonitors();
+    connect(m_platform.instance.get(), &SingleInstance::activated, this, &AppDelegate::activate);
+    connect(m_platform.desktop.get(), &Desktop::isMotionReducedChanged, this,
+            &AppDelegate::followDesktop);
+    followDesktop();
+}
+
+void AppDelegate::applicationWillTerminate()
+{
+    m_store.saveNow();
+}
+
+void AppDelegate::layout()
+{
+    const auto screen = chooseScreen(m_platform.screens->screens());
+    if (!screen) {
+        return; // Screens are being rearranged.
+    }
+    m_screen = *screen;
+    const auto notch = notchOf(m_screen);
+    m_model.setHasNotch(notch.isReal);
+    m_model.setNotchSize(notch.size);
+    m_platform.panelHost->place(panelFrame(m_screen));
+}
+
+void AppDelegate::checkHover()
+{
+    switch (decideHover(tickAt(m_platform.pointer->state()))) {
+    case HoverAction::None: return;
+    case HoverAction::Expand: expand(false); return;
+    case HoverAction::ExpandToShelf: expand(true); return;
+    case HoverAction::ScheduleCollapse: collapse(false); return;
+    case HoverAction::CancelCollapse: cancelCollapse(); return;
+    }
+}
+
+void AppDelegate::expand(bool toShelf)
+{
+    cancelCollapse();
+    if (toShelf) {
+        m_model.setTab(Tab::Shelf);
+    }
+    m_model.setExpanded(true);
+}
+
+void AppDelegate::collapse(bool immediately)
+{
+    m_collapseWork = m_schedule(immediately ? 0ms : CollapseDelay, [this] {
+        m_collapseWork.reset();
+        m_model.setExpanded(false);
+    });
+}
+
+void AppDelegate::cancelCollapse()
+{
+    m_collapseWork.reset();
+    m_endingClick.reset();
+}
+
+void AppDelegate::openQuib()
+{
+    expand(false);
+    m_model.setPinned(true);
+}
+
+void AppDelegate::installMouseMonitors()
+{
+    auto& pointer = *m_platform.pointer;
+    connect(&pointer, &PointerSource::changed, this, &AppDelegate::checkHover);
+    connect(&pointer, &PointerSource::clicked, this, &AppDelegate::globalClick);
+    if (pointer.needsPolling()) {
+        connect(&m_hoverTimer, &QTimer::timeout, this, &AppDelegate::checkHover);
+        m_hoverTimer.setTimerType(Qt::PreciseTimer);
+        m_hoverTimer.start(PollInterval);
+    }
+}
+
+void AppDelegate::followExpansion()
+{
+    auto& host = *m_platform.panelHost;
+    if (m_model.isExpanded()) {
+        host.setInputRegion(CardInPanel.toRect());
+        return;
+    }
+    host.setInputRegion({});
+    host.giveBackKeyboard(std::exchange(m_endingClick, std::nullopt));
+}
+
+void AppDelegate::followDesktop()
+{
+    m_model.setMotionReduced(m_platform.desktop->isMotionReduced());
+}
+
+void AppDelegate::globalClick(quint32 time)
+{
+    if (!decideClick(tickAt(m_platform.pointer->state()))) {
+        return;
+    }
+    m_endingClick = time;
+    collapse(true);
+}
+
+void AppDelegate::activate()
+{
+    openQuib();
+    m_platform.panelHost->takeKeyboard();
+}
+
+HoverTick AppDelegate::tickAt(const PointerState& pointer) const
+{
+    const bool expanded = m_model.isExpanded();
+    const auto rect = expanded ? expandedRect(m_screen) : collapsedRect();
+    return {.pointerInside = rect.contains(pointer.position),
+            .buttonHeld = pointer.leftHeld,
+            .expanded = expanded,
+            .keptOpen = m_model.isPinned() || m_model.holdOpen > 0,
+            .collapsePending = m_collapseWork != nullptr};
+}
+
+} // namespace quib

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "app/notch/geometry.h"
+#include "app/notch/hover.h"
+#include "app/notch/notchmodel.h"
+#include "model/clock.h"
+#include "model/scheduler.h"
+#include "model/store.h"
+#include "platform/platform.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <memory>
+#include <optional>
+
+namespace quib {
+
+class NotchPanel;
+
+/// The owner of everything that lives as long as the process. It reads the world through the
+/// seams, asks the pure functions of app/notch what to do, and does it.
+class AppDelegate : public QObject {
+    Q_OBJECT
+
+public:
+    explicit AppDelegate(Platform platform, Clock clock = systemClock,
+                         Scheduler schedule = scheduleOnMainLoop);
+    ~AppDelegate() override;
+
+    const Platform& platform() const { return m_platform; }
+    NotchModel& model() { return m_model; }
+    Store& store() { return m_store; }
+    /// Where the pointer opens the card, in global points.
+    QRectF collapsedRect() const;
+
+    void applicationDidFinishLaunching();
+    void applicationWillTerminate();
+    /// Measures the notch and places the panel. Without any screen the last geometry stays.
+    void layout();
+    /// One tick of the pointer poll.
+    void checkHover();
+    void expand(bool toShelf);
+    /// After 0.06 s, or at the next turn of the main loop. The tab stays.
+    void collapse(bool immediately);
+    /// Opens the panel and pins it, or it would collapse at once: the pointer is elsewhere.
+    void openQuib();
+
+private:
+    void cancelCollapse();
+    void installMouseMonitors();
+    void followExpansion();
+    void followDesktop();
+    void globalClick(quint32 time);
+    void activate();
+    HoverTick tickAt(const PointerState& pointer) const;
+
+    Platform m_platform;
+    Scheduler m_schedule;
+    NotchModel m_model;
+    Store m_store;
+    std::unique_ptr<NotchPanel> m_panel;
+    Screen m_screen; ///< As of the last layout.
+    QTimer m_hoverTimer;
+    std::unique_ptr<QObject> m_collapseWork; ///< Present while a collapse is pending.
+    std::optional<quint32> m_endingClick; ///< The click that the pending collapse is due to.
+};
+
+} // namespace quib

@@ -1,0 +1,95 @@
+#include "app/entry.h"
+
+#include "app/appdelegate.h"
+#include "app/commandline.h"
+#include "app/snapshot.h"
+
+#include <QFont>
+#include <QGuiApplication>
+#include <QLoggingCategory>
+#include <QQuickWindow>
+#include <QTextStream>
+
+using namespace Qt::StringLiterals;
+
+namespace quib {
+
+namespace {
+
+void prepareToDraw(const char* qtPlatform)
+{
+    // Qt tells the console what it finds missing around it, such as a runtime folder.
+    QLoggingCategory::setFilterRules(u"default.warning=false"_s);
+    qputenv("QT_QPA_PLATFORM", qtPlatform);
+    qputenv("QT_QPA_UPDATE_IDLE_TIME", "0"); // Qt would wait 5 ms before it draws.
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QGuiApplication::setDesktopFileName(u"org.korvel.Quib"_s);
+    QGuiApplication::setApplicationDisplayName(u"Korvel Quib"_s);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+void useFont(const Desktop& desktop)
+{
+    QGuiApplication::setFont(QFont(desktop.fontFamily()));
+}
+
+int say(const QString& text)
+{
+    QTextStream(stdout) << text;
+    return 0;
+}
+
+int runSnapshot(int argc, char* argv[], const QString& folder)
+{
+    prepareToDraw("offscreen");
+    const QGuiApplication app(argc, argv);
+    AppDelegate delegate(makePlatformWithoutDisplay());
+    useFont(*delegate.platform().desktop);
+    Snapshot::run(folder, delegate);
+    return 0;
+}
+
+int runPanel(int argc, char* argv[])
+{
+    if (!hasDisplay()) {
+        QTextStream(stderr) << u"quib: there is no X display to show the panel on\n"_s;
+        return 1;
+    }
+    prepareToDraw("xcb");
+    const QGuiApplication app(argc, argv);
+    auto platform = makePlatform();
+    if (!platform.instance->claim(Store::folder())) {
+        return 0; // The panel that is open already has been called.
+    }
+    AppDelegate delegate(std::move(platform));
+    useFont(*delegate.platform().desktop);
+    QObject::connect(&app, &QCoreApplication::aboutToQuit, &delegate,
+                     &AppDelegate::applicationWillTerminate);
+    delegate.applicationDidFinishLaunching();
+    return QGuiApplication::exec();
+}
+
+QStringList argumentsOf(int argc, char* argv[])
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments << QString::fromLocal8Bit(argv[i]);
+    }
+    return arguments;
+}
+
+} // namespace
+
+int runQuib(int argc, char* argv[])
+{
+    const auto line = parseArguments(argumentsOf(argc, argv));
+    switch (line.action) {
+    case CommandLine::Action::Snapshot: return runSnapshot(argc, argv, line.folder);
+    case CommandLine::Action::Help: return say(helpText());
+    case CommandLine::Action::Version: return say(versionText());
+    case CommandLine::Action::Start: return runPanel(argc, argv);
+    }
+    Q_UNREACHABLE();
+}
+
+} // namespace quib

@@ -1,0 +1,67 @@
+#include "app/notchpanel.h"
+
+#include "app/notch/geometry.h"
+#include "app/notch/notchmodel.h"
+#include "app/notch/panelhost.h"
+#include "model/store.h"
+#include "views/notchshape.h"
+
+#include <QMouseEvent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QSurfaceFormat>
+
+using namespace Qt::StringLiterals;
+
+namespace quib {
+
+NotchPanel::NotchPanel(NotchModel& model, Store& store, PanelHost& host)
+    : m_host(host)
+{
+    auto format = requestedFormat();
+    format.setAlphaBufferSize(8);
+    setFormat(format);
+    setColor(Qt::transparent);
+    setTitle(u"Korvel Quib"_s);
+    setResizeMode(SizeRootObjectToView);
+    resize(PanelSize.toSize());
+    engine()->addImportPath(u"qrc:/qt/qml"_s);
+    setInitialProperties(rootProperties(model, store));
+    setSource(rootSource());
+    m_host.adopt(*this);
+    const auto* shape = rootObject()->findChild<NotchShape*>();
+    const auto follow = [this, shape] { m_host.setVisibleShape(shape->pathInScene()); };
+    connect(shape, &NotchShape::pathChanged, this, follow);
+    follow();
+}
+
+void NotchPanel::mousePressEvent(QMouseEvent* event)
+{
+    QQuickView::mousePressEvent(event);
+    takeKeyboardForText(event->position());
+}
+
+/// Pressing plain buttons leaves the keyboard where it is.
+void NotchPanel::takeKeyboardForText(QPointF press)
+{
+    const auto* item = contentItem()->scopedFocusItem();
+    const bool isText = item && item->flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
+    if (isText && item->contains(item->mapFromScene(press))) {
+        m_host.takeKeyboard();
+    }
+}
+
+QVariantMap rootProperties(NotchModel& model, Store& store)
+{
+    return {
+        {u"model"_s, QVariant::fromValue(&model)},
+        {u"store"_s, QVariant::fromValue(&store)},
+    };
+}
+
+QUrl rootSource()
+{
+    return QUrl(u"qrc:/qt/qml/Quib/Views/NotchRootView.qml"_s);
+}
+
+} // namespace quib

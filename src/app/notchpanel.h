@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QQuickView>
+
+namespace quib {
+
+class NotchModel;
+class NotchShape;
+class PanelHost;
+class Store;
+
+/// The transparent window over the notch. Its size never changes; the shape inside does. It takes
+/// the keyboard when a text is pressed, and keeps the window system told of what is drawn.
+class NotchPanel : public QQuickView {
+    Q_OBJECT
+
+public:
+    /// Everything is borrowed and outlives the panel.
+    NotchPanel(NotchModel& model, Store& store, PanelHost& host);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    void takeKeyboardForText(QPointF press);
+
+    PanelHost& m_host;
+};
+
+/// What the root view of every panel and picture is made with.
+QVariantMap rootProperties(NotchModel& model, Store& store);
+
+/// Where the root view lies.
+QUrl rootSource();
+
+} // namespace quib

@@ -1,0 +1,93 @@
+#include "app/snapshot.h"
+
+#include "app/appdelegate.h"
+#include "app/notch/geometry.h"
+#include "app/notchpanel.h"
+
+#include <QDir>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QImage>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickRenderControl>
+#include <QQuickRenderTarget>
+#include <QQuickWindow>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace quib::Snapshot {
+
+namespace {
+
+constexpr auto SettlingTime = 400ms;
+
+/// The main loop of this mode: there is no other.
+void runLoop(std::chrono::milliseconds time)
+{
+    QEventLoop loop;
+    QTimer::singleShot(time, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// A panel that no window system knows of. Its render control is never initialised: the software
+/// scene graph needs no graphics device.
+class OffscreenPanel {
+public:
+    OffscreenPanel(NotchModel& model, Store& store)
+    {
+        m_window.setColor(Qt::transparent);
+        m_window.setGeometry(QRect({}, PanelSize.toSize()));
+        m_window.contentItem()->setSize(PanelSize);
+        m_engine.addImportPath(u"qrc:/qt/qml"_s);
+        QQmlComponent component(&m_engine, rootSource());
+        m_root.reset(qobject_cast<QQuickItem*>(
+            component.createWithInitialProperties(rootProperties(model, store))));
+        if (m_root) {
+            m_root->setParentItem(m_window.contentItem());
+            m_root->setSize(PanelSize);
+        }
+    }
+
+    QImage picture()
+    {
+        const auto scale = qGuiApp->devicePixelRatio();
+        QImage image((PanelSize * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        image.setDevicePixelRatio(scale);
+        auto target = QQuickRenderTarget::fromPaintDevice(&image);
+        target.setDevicePixelRatio(scale);
+        m_window.setRenderTarget(target);
+        m_control.polishItems();
+        m_control.beginFrame();
+        m_control.sync();
+        m_control.render();
+        m_control.endFrame();
+        return image;
+    }
+
+private:
+    QQmlEngine m_engine;
+    QQuickRenderControl m_control;
+    QQuickWindow m_window{&m_control};
+    std::unique_ptr<QQuickItem> m_root;
+};
+
+} // namespace
+
+void run(const QString& folder, AppDelegate& delegate)
+{
+    delegate.model().setMotionReduced(true);
+    for (const auto tab : AllTabs) {
+        delegate.model().setTab(tab);
+        delegate.model().setExpanded(true);
+        OffscreenPanel panel(delegate.model(), delegate.store());
+        runLoop(SettlingTime);
+        panel.picture().save(QDir(folder).filePath(rawText(tab) + u".png"_s), "PNG");
+    }
+}
+
+} // namespace quib::Snapshot

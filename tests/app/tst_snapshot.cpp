@@ -1,0 +1,79 @@
+#include "app/appdelegate.h"
+#include "app/snapshot.h"
+
+#include "support/fakeshell.h"
+
+#include <QDir>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class SnapshotTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void pictures_areOneForEachTab();
+    void pictures_haveTheSizeOfThePanel();
+    void pictures_areClearAroundTheCard();
+    void data_isNotWritten();
+    void missingFolder_staysMissing();
+
+private:
+    QTemporaryDir m_data;
+    QTemporaryDir m_pictures;
+};
+
+void SnapshotTest::initTestCase()
+{
+    qputenv("QUIB_DATA_DIR", m_data.path().toLocal8Bit());
+    FakeShell shell;
+    quib::AppDelegate delegate(std::move(shell.platform));
+
+    quib::Snapshot::run(m_pictures.path(), delegate);
+
+    QVERIFY(delegate.model().isExpanded());
+    QCOMPARE(delegate.model().tab(), quib::Tab::Notes);
+}
+
+void SnapshotTest::pictures_areOneForEachTab()
+{
+    QCOMPARE(QDir(m_pictures.path()).entryList(QDir::Files, QDir::Name),
+             (QStringList{u"clients.png"_s, u"home.png"_s, u"links.png"_s, u"notes.png"_s,
+                          u"shelf.png"_s, u"tasks.png"_s, u"time.png"_s}));
+}
+
+void SnapshotTest::pictures_haveTheSizeOfThePanel()
+{
+    QCOMPARE(QImage(m_pictures.filePath(u"tasks.png"_s)).size(), QSize(760, 330));
+}
+
+void SnapshotTest::pictures_areClearAroundTheCard()
+{
+    const QImage picture(m_pictures.filePath(u"tasks.png"_s));
+
+    QCOMPARE(picture.pixelColor(5, 200).alpha(), 0);
+    QCOMPARE(picture.pixelColor(380, 300).alpha(), 0);
+    QCOMPARE(picture.pixelColor(60, 285), QColor(Qt::black));
+}
+
+void SnapshotTest::data_isNotWritten()
+{
+    QVERIFY(QDir(m_data.path()).isEmpty());
+}
+
+void SnapshotTest::missingFolder_staysMissing()
+{
+    FakeShell shell;
+    quib::AppDelegate delegate(std::move(shell.platform));
+    const auto folder = m_pictures.filePath(u"missing"_s);
+
+    quib::Snapshot::run(folder, delegate);
+
+    QVERIFY(!QDir(folder).exists());
+}
+
+QTEST_MAIN(SnapshotTest)
+#include "tst_snapshot.moc"
