@@ -1,0 +1,370 @@
+#include "desk.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <xcb/xcb.h>
+
+#include <chrono>
+#include <functional>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Looks again and again, for ten seconds at most.
+bool waitUntil(const std::function<bool()>& isSo)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!isSo()) {
+        if (timer.hasExpired(10'000)) {
+            return false;
+        }
+        std::this_thread::sleep_for(5ms); // Between two looks at another program.
+    }
+    return true;
+}
+
+template <typename Reply>
+using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
+
+template <typename Reply>
+Owned<Reply> own(Reply* reply)
+{
+    return Owned<Reply>(reply, &std::free);
+}
+
+void end(QProcess& program)
+{
+    program.terminate();
+    if (!program.waitForFinished(5000)) {
+        program.kill();
+        program.waitForFinished();
+    }
+}
+
+} // namespace
+
+/// The test's own view of the screen.
+struct Desk::Connection {
+    xcb_connection_t* xcb;
+    xcb_window_t root;
+
+    explicit Connection(const QString& display)
+        : xcb(xcb_connect(display.toLatin1().constData(), nullptr))
+        , root(xcb_setup_roots_iterator(xcb_get_setup(xcb)).data->root)
+    {
+    }
+    ~Connection() { xcb_disconnect(xcb); }
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    xcb_atom_t atom(const QByteArray& name) const
+    {
+        const auto cookie
+            = xcb_intern_atom(xcb, 0, static_cast<uint16_t>(name.size()), name.constData());
+        const auto reply = own(xcb_intern_atom_reply(xcb, cookie, nullptr));
+        return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
+    }
+
+    bool hasProperty(const QByteArray& name) const
+    {
+        const auto cookie = xcb_get_property(xcb, 0, root, atom(name), XCB_ATOM_ANY, 0, 1);
+        const auto reply = own(xcb_get_property_reply(xcb, cookie, nullptr));
+        return reply && reply->type != XCB_ATOM_NONE;
+    }
+
+    bool hasOwner(const QByteArray& selection) const
+    {
+        const auto cookie = xcb_get_selection_owner(xcb, atom(selection));
+        const auto reply = own(xcb_get_selection_owner_reply(xcb, cookie, nullptr));
+        return reply && reply->owner != XCB_WINDOW_NONE;
+    }
+
+    QImage image(const QRect& rect) const
+    {
+        const auto cookie
+            = xcb_get_image(xcb, XCB_IMAGE_FORMAT_Z_PIXMAP, root, static_cast<int16_t>(rect.x()),
+                            static_cast<int16_t>(rect.y()), static_cast<uint16_t>(rect.width()),
+                            static_cast<uint16_t>(rect.height()), ~0U);
+        const auto reply = own(xcb_get_image_reply(xcb, cookie, nullptr));
+        if (!reply) {
+            return {};
+        }
+        return QImage(xcb_get_image_data(reply.get()), rect.width(), rect.height(),
+                      QImage::Format_RGB32)
+            .copy();
+    }
+};
+
+Desk::Desk()
+    : Desk(Options{})
+{
+}
+
+Desk::Desk(Options options)
+    : m_options(options)
+    , m_environment(QProcessEnvironment::systemEnvironment())
+{
+    QDir(m_home.path()).mkdir(u"runtime"_s);
+    QFile::setPermissions(folder(u"runtime"_s),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    setVariable(u"HOME"_s, m_home.path());
+    setVariable(u"XDG_RUNTIME_DIR"_s, folder(u"runtime"_s));
+    setVariable(u"QUIB_DATA_DIR"_s, dataFolder());
+    setVariable(u"QT_SCALE_FACTOR"_s, QString::number(options.scale));
+    setVariable(u"LC_ALL"_s, u"en_GB.UTF-8"_s);
+    for (const auto* name : {"DBUS_SESSION_BUS_ADDRESS", "XDG_DATA_HOME", "XDG_CONFIG_HOME",
+                             "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_CURRENT_DESKTOP"}) {
+        m_environment.remove(QString::fromLatin1(name));
+    }
+    startServer();
+    if (options.sessionBus) {
+        startBus();
+    }
+    startWindowManager();
+    if (options.compositor) {
+        startCompositor();
+    }
+    moveTo(FarAway);
+}
+
+Desk::~Desk()
+{
+    while (!m_programs.empty()) {
+        end(*m_programs.back());
+        m_programs.pop_back();
+    }
+    m_connection.reset();
+    if (m_server) {
+        end(*m_server);
+    }
+}
+
+void Desk::startServer()
+{
+    m_server = start(u"Xvfb"_s,
+                     {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1600x900x24"_s,
+                      u"-nolisten"_s, u"tcp"_s});
+    m_server->waitForReadyRead(10'000);
+    const auto display = u':' + QString::fromLatin1(m_server->readAllStandardOutput().trimmed());
+    setVariable(u"DISPLAY"_s, display);
+    m_connection = std::make_unique<Connection>(display);
+}
+
+void Desk::startBus()
+{
+    auto bus = start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
+    bus->waitForReadyRead(10'000);
+    setVariable(u"DBUS_SESSION_BUS_ADDRESS"_s,
+                QString::fromLatin1(bus->readAllStandardOutput().trimmed()));
+    m_programs.push_back(std::move(bus));
+}
+
+void Desk::startWindowManager()
+{
+    m_programs.push_back(start(u"openbox"_s));
+    waitUntil([this] { return m_connection->hasProperty("_NET_SUPPORTING_WM_CHECK"); });
+}
+
+void Desk::startCompositor()
+{
+    m_programs.push_back(start(u"xcompmgr"_s));
+    waitUntil([this] { return m_connection->hasOwner("_NET_WM_CM_S0"); });
+}
+
+void Desk::writeData(const QByteArray& json) const
+{
+    QDir().mkpath(dataFolder());
+    QFile file(dataFolder() + u"/data.json"_s);
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(json);
+    }
+}
+
+QJsonObject Desk::data() const
+{
+    QFile file(dataFolder() + u"/data.json"_s);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    return QJsonDocument::fromJson(file.readAll()).object();
+}
+
+QStringList Desk::savedTasks() const
+{
+    QStringList titles;
+    for (const auto& task : data().value("tasks"_L1).toArray()) {
+        titles << task.toObject().value("title"_L1).toString();
+    }
+    return titles;
+}
+
+void Desk::setVariable(const QString& name, const QString& value)
+{
+    m_environment.insert(name, value);
+}
+
+Program Desk::start(const QString& program, const QStringList& arguments)
+{
+    auto process = std::make_unique<QProcess>();
+    process->setProcessEnvironment(m_environment);
+    process->setWorkingDirectory(m_home.path());
+    process->start(program, arguments);
+    process->waitForStarted();
+    return process;
+}
+
+Program Desk::startQuib()
+{
+    auto program = start(quib());
+    waitUntil([this] {
+        return !xdotool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"^Korvel Quib$"_s})
+                    .isEmpty()
+            && pixel({800, 12}) == QColor(Qt::black);
+    });
+    return program;
+}
+
+int Desk::runQuib(const QStringList& arguments)
+{
+    const auto program = start(quib(), arguments);
+    if (!program->waitForFinished(20'000)) {
+        program->kill();
+        program->waitForFinished();
+        return -1;
+    }
+    return program->exitStatus() == QProcess::NormalExit ? program->exitCode() : -1;
+}
+
+Program Desk::startListener()
+{
+    auto listener = start(
+        u"xev"_s,
+        {u"-geometry"_s, u"1600x900+0+0"_s, u"-event"_s, u"button"_s, u"-event"_s, u"keyboard"_s});
+    xdotool({u"search"_s, u"--sync"_s, u"--onlyvisible"_s, u"--name"_s, u"^Event Tester$"_s});
+    click(FarAway); // Gives it the keyboard.
+    waitUntil([&] {
+        listener->waitForReadyRead(50);
+        return listener->peek(1 << 20).contains("ButtonRelease");
+    });
+    return listener;
+}
+
+QString Desk::quib()
+{
+    return QStringLiteral(QUIB_PROGRAM);
+}
+
+QString Desk::dragSource()
+{
+    return QStringLiteral(DRAG_SOURCE);
+}
+
+void Desk::moveTo(QPoint point) const
+{
+    xdotool({u"mousemove"_s, QString::number(point.x()), QString::number(point.y())});
+}
+
+void Desk::click(QPoint point) const
+{
+    moveTo(point);
+    xdotool({u"click"_s, u"1"_s});
+}
+
+void Desk::button(const QString& downOrUp) const
+{
+    xdotool({u"mouse"_s + downOrUp, u"1"_s});
+}
+
+void Desk::type(const QString& text) const
+{
+    xdotool({u"type"_s, u"--delay"_s, u"5"_s, text});
+}
+
+void Desk::key(const QString& name) const
+{
+    xdotool({u"key"_s, name});
+}
+
+void Desk::showTab(int number) const
+{
+    click({800 - 350 + 22 + 20 + 15 + 32 * number, 23});
+    waitUntil([&] { return selectedTab() == number; });
+}
+
+void Desk::openWithPointer() const
+{
+    moveTo(Notch);
+    waitForExpanded(true);
+    moveTo(InTheCard);
+}
+
+QColor Desk::pixel(QPoint point) const
+{
+    const auto image = m_connection->image({point * m_options.scale, QSize(1, 1)});
+    return image.isNull() ? QColor() : image.pixelColor(0, 0);
+}
+
+QImage Desk::picture() const
+{
+    return m_connection->image({0, 0, 1600, 900});
+}
+
+/// The corner of the card that is black only once the spring has come to rest.
+bool Desk::isExpanded() const
+{
+    return pixel({800 - 350 + 12, 255}) == QColor(Qt::black)
+        && pixel({800, 287}) == QColor(Qt::black);
+}
+
+int Desk::selectedTab() const
+{
+    for (int number = 0; number < 7; ++number) {
+        const auto colour = pixel({800 - 350 + 22 + 20 + 4 + 32 * number, 23});
+        if (colour.blue() > 100 && colour.blue() > colour.green() * 3 / 2) {
+            return number;
+        }
+    }
+    return -1;
+}
+
+bool Desk::waitForExpanded(bool expanded) const
+{
+    return waitUntil([&] { return isExpanded() == expanded; });
+}
+
+void Desk::killServer()
+{
+    m_connection.reset();
+    m_server->kill();
+    m_server->waitForFinished();
+    m_server.reset();
+}
+
+QString Desk::xdotool(const QStringList& arguments) const
+{
+    QProcess tool;
+    tool.setProcessEnvironment(m_environment);
+    tool.start(u"xdotool"_s, arguments);
+    tool.waitForFinished(10'000);
+    return QString::fromUtf8(tool.readAllStandardOutput()).trimmed();
+}
+
+qsizetype Output::count(const QByteArray& word)
+{
+    m_program.waitForReadyRead(10);
+    m_text += m_program.readAllStandardOutput();
+    return m_text.count(word);
+}
+
+void Output::forget()
+{
+    count({});
+    m_text.clear();
+}

@@ -1,0 +1,106 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QJsonObject>
+#include <QPoint>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <memory>
+#include <vector>
+
+using Program = std::unique_ptr<QProcess>;
+
+/// A desktop of the test's own: an X server, a window manager, a session bus and a home, with the
+/// real program on it. Everything ends with the desk. Waits give up after some seconds; the test
+/// fails where it looks at what did not come.
+class Desk {
+public:
+    struct Options {
+        bool compositor = false;
+        bool sessionBus = true;
+        int scale = 1;
+    };
+
+    // Where things are on this screen of 1600 by 900 points at scale 1.
+    static constexpr QPoint Notch{800, 4};
+    static constexpr QPoint InTheCard{800, 200};
+    static constexpr QPoint FarAway{300, 700};
+    static constexpr QPoint TaskField{600, 60};
+    static constexpr QPoint BesideTheNotch{660, 12};
+    static constexpr QPoint Pin{1102, 23};
+
+    explicit Desk(Options options);
+    Desk();
+    ~Desk();
+
+    QString folder(const QString& name) const { return m_home.filePath(name); }
+    QString dataFolder() const { return folder(QStringLiteral("data")); }
+    void writeData(const QByteArray& json) const;
+    /// What data.json holds; empty while there is none.
+    QJsonObject data() const;
+    /// The titles of the tasks in data.json.
+    QStringList savedTasks() const;
+    void setVariable(const QString& name, const QString& value);
+
+    /// Starts Quib and waits for its panel.
+    Program startQuib();
+    Program start(const QString& program, const QStringList& arguments = {});
+    /// Starts Quib and waits for its end; its exit status, or -1 when it did not end.
+    int runQuib(const QStringList& arguments = {});
+    /// A window that covers the screen and tells what reaches it.
+    Program startListener();
+    static QString dragSource();
+    static QString quib();
+
+    void moveTo(QPoint point) const;
+    void click(QPoint point) const;
+    void button(const QString& downOrUp) const;
+    void type(const QString& text) const;
+    void key(const QString& name) const;
+    void showTab(int number) const;
+    void openWithPointer() const;
+
+    QColor pixel(QPoint point) const;
+    QImage picture() const;
+    bool isExpanded() const;
+    int selectedTab() const; ///< -1 while none shows.
+    bool waitForExpanded(bool expanded) const;
+
+    /// Ends the X server, as a crash of it would.
+    void killServer();
+
+private:
+    struct Connection;
+
+    void startServer();
+    void startBus();
+    void startWindowManager();
+    void startCompositor();
+    QString xdotool(const QStringList& arguments) const;
+
+    Options m_options;
+    QTemporaryDir m_home;
+    QProcessEnvironment m_environment;
+    std::vector<Program> m_programs;
+    Program m_server;
+    std::unique_ptr<Connection> m_connection;
+};
+
+/// What a program has printed so far, added to what it had printed before.
+class Output {
+public:
+    explicit Output(QProcess& program)
+        : m_program(program)
+    {
+    }
+
+    /// How often a line holds the word.
+    qsizetype count(const QByteArray& word);
+    void forget();
+
+private:
+    QProcess& m_program;
+    QByteArray m_text;
+};

@@ -1,0 +1,159 @@
+#include "desk.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// What is typed lands where the user looks.
+class KeyboardTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void typedTask_isOnDiskAtTheFrontAndTrimmed_data();
+    void typedTask_isOnDiskAtTheFrontAndTrimmed();
+    void hovering_neverTakesTheKeyboard();
+    void plainButtons_neverTakeTheKeyboard();
+    void collapse_givesTheKeyboardBack();
+    void clickElsewhere_givesTheKeyboardToTheClickedWindow();
+    void halfTypedText_survivesACollapse();
+    void menu_isUsableByKeyboard();
+};
+
+void KeyboardTest::typedTask_isOnDiskAtTheFrontAndTrimmed_data()
+{
+    QTest::addColumn<bool>("compositor");
+
+    QTest::addRow("bare") << false;
+    QTest::addRow("composited") << true;
+}
+
+void KeyboardTest::typedTask_isOnDiskAtTheFrontAndTrimmed()
+{
+    QFETCH(bool, compositor);
+    Desk desk({.compositor = compositor});
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+    desk.showTab(3);
+
+    desk.click(Desk::TaskField);
+    desk.type(u"  Call Ann  "_s);
+    desk.key(u"Return"_s);
+
+    QTRY_COMPARE(desk.savedTasks(),
+                 (QStringList{u"Call Ann"_s, u"Send Corner Café the homepage preview"_s,
+                              u"Tick this off to try it"_s}));
+}
+
+void KeyboardTest::hovering_neverTakesTheKeyboard()
+{
+    Desk desk;
+    const auto listener = desk.startListener();
+    Output heard(*listener);
+    const auto quib = desk.startQuib();
+    heard.forget();
+
+    desk.openWithPointer();
+    desk.key(u"a"_s);
+
+    QTRY_COMPARE(heard.count("KeyPress event"), 1);
+}
+
+void KeyboardTest::plainButtons_neverTakeTheKeyboard()
+{
+    Desk desk;
+    const auto listener = desk.startListener();
+    Output heard(*listener);
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+    desk.showTab(3);
+    desk.click(Desk::Pin);
+    heard.forget();
+
+    desk.key(u"a"_s);
+
+    QTRY_COMPARE(heard.count("KeyPress event"), 1);
+}
+
+void KeyboardTest::collapse_givesTheKeyboardBack()
+{
+    Desk desk;
+    const auto listener = desk.startListener();
+    Output heard(*listener);
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+    desk.showTab(3);
+    desk.click(Desk::TaskField);
+    heard.forget();
+    desk.type(u"abc"_s);
+    QCOMPARE(heard.count("KeyPress event"), 0);
+
+    desk.moveTo(Desk::FarAway);
+    QVERIFY(desk.waitForExpanded(false));
+    desk.key(u"x"_s);
+
+    QTRY_COMPARE(heard.count("KeyPress event"), 1);
+}
+
+void KeyboardTest::clickElsewhere_givesTheKeyboardToTheClickedWindow()
+{
+    Desk desk;
+    const auto listener = desk.startListener();
+    Output heard(*listener);
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+    desk.showTab(3);
+    desk.click(Desk::TaskField);
+    heard.forget();
+
+    desk.click(Desk::FarAway);
+    QVERIFY(desk.waitForExpanded(false));
+    desk.key(u"x"_s);
+
+    QTRY_COMPARE(heard.count("KeyPress event"), 1);
+}
+
+void KeyboardTest::halfTypedText_survivesACollapse()
+{
+    Desk desk;
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+    desk.showTab(3);
+    desk.click(Desk::TaskField);
+    desk.type(u"half a "_s);
+    desk.moveTo(Desk::FarAway);
+    QVERIFY(desk.waitForExpanded(false));
+
+    desk.openWithPointer();
+    desk.click(Desk::TaskField);
+    desk.key(u"End"_s);
+    desk.type(u"word"_s);
+    desk.key(u"Return"_s);
+
+    QTRY_COMPARE(desk.savedTasks().value(0), u"half a word"_s);
+}
+
+/// From the field by Tab to the client's menu, its first client chosen, and back to the field.
+void KeyboardTest::menu_isUsableByKeyboard()
+{
+    Desk desk;
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+    desk.showTab(3);
+    desk.click(Desk::TaskField);
+    desk.type(u"Menu"_s);
+
+    desk.key(u"Tab"_s);
+    desk.key(u"Return"_s);
+    desk.key(u"Down"_s);
+    desk.key(u"Return"_s);
+    desk.key(u"shift+Tab"_s);
+    desk.key(u"Return"_s);
+
+    QTRY_COMPARE(desk.savedTasks().value(0), u"Menu"_s);
+    const auto data = desk.data();
+    const auto task = data.value("tasks"_L1)[0];
+    QCOMPARE(task["clientID"_L1], data.value("clients"_L1)[0]["id"_L1]);
+}
+
+QTEST_GUILESS_MAIN(KeyboardTest)
+#include "tst_keyboard.moc"

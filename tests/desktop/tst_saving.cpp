@@ -1,0 +1,122 @@
+#include "desk.h"
+
+#include <QDir>
+#include <QTest>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+/// Whatever ends the program, what was typed is on disk.
+class SavingTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void endingSoonAfterAChange_leavesItOnDisk_data();
+    void endingSoonAfterAChange_leavesItOnDisk();
+    void serverGoneSoonAfterAChange_leavesItOnDisk();
+    void nothingChanged_nothingIsWritten();
+    void unreadableFile_survivesStartAndEnd();
+    void dataFolderRemoved_isMadeAgain();
+};
+
+namespace {
+
+void addTask(const Desk& desk, const QString& title)
+{
+    desk.openWithPointer();
+    desk.showTab(3);
+    desk.click(Desk::TaskField);
+    desk.type(title);
+    desk.key(u"Return"_s);
+}
+
+void end(QProcess& quib, int signal)
+{
+    ::kill(static_cast<pid_t>(quib.processId()), signal);
+}
+
+} // namespace
+
+void SavingTest::endingSoonAfterAChange_leavesItOnDisk_data()
+{
+    QTest::addColumn<int>("signal");
+
+    QTest::addRow("SIGTERM") << SIGTERM;
+    QTest::addRow("SIGINT") << SIGINT;
+    QTest::addRow("SIGHUP") << SIGHUP;
+}
+
+void SavingTest::endingSoonAfterAChange_leavesItOnDisk()
+{
+    QFETCH(int, signal);
+    Desk desk;
+    const auto quib = desk.startQuib();
+    addTask(desk, u"Just now"_s);
+
+    QTest::qWait(100); // Before the 0.4 s after which it is written anyway.
+    end(*quib, signal);
+
+    QVERIFY(quib->waitForFinished());
+    QCOMPARE(quib->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(quib->exitCode(), 0);
+    QCOMPARE(desk.savedTasks().value(0), u"Just now"_s);
+}
+
+void SavingTest::serverGoneSoonAfterAChange_leavesItOnDisk()
+{
+    Desk desk;
+    const auto quib = desk.startQuib();
+    addTask(desk, u"Just now"_s);
+
+    QTest::qWait(100); // As above.
+    desk.killServer();
+
+    QVERIFY(quib->waitForFinished());
+    QCOMPARE(desk.savedTasks().value(0), u"Just now"_s);
+}
+
+void SavingTest::nothingChanged_nothingIsWritten()
+{
+    Desk desk;
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+    desk.showTab(3);
+
+    end(*quib, SIGTERM);
+
+    QVERIFY(quib->waitForFinished());
+    QVERIFY(QDir(desk.dataFolder()).exists());
+    QVERIFY(QDir(desk.dataFolder()).isEmpty());
+}
+
+void SavingTest::unreadableFile_survivesStartAndEnd()
+{
+    Desk desk;
+    desk.writeData("{ \"clients\": [ almost");
+    const auto quib = desk.startQuib();
+
+    end(*quib, SIGTERM);
+
+    QVERIFY(quib->waitForFinished());
+    QFile file(desk.dataFolder() + u"/data.json"_s);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), "{ \"clients\": [ almost");
+}
+
+void SavingTest::dataFolderRemoved_isMadeAgain()
+{
+    Desk desk;
+    const auto quib = desk.startQuib();
+    addTask(desk, u"Before"_s);
+    QTRY_COMPARE(desk.savedTasks().value(0), u"Before"_s);
+
+    QVERIFY(QDir(desk.dataFolder()).removeRecursively());
+    desk.type(u"After"_s);
+    desk.key(u"Return"_s);
+
+    QTRY_COMPARE(desk.savedTasks().value(0), u"After"_s);
+}
+
+QTEST_GUILESS_MAIN(SavingTest)
+#include "tst_saving.moc"

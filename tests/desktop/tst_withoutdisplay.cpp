@@ -1,0 +1,139 @@
+#include "desk.h"
+
+#include <QDir>
+#include <QImage>
+#include <QProcess>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// The program from a shell, where there is no display.
+class WithoutDisplayTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void noDisplay_saysSoInOneLine();
+    void unreachableDisplay_saysSoInOneLine();
+    void help_andVersion_needNoDisplay_data();
+    void help_andVersion_needNoDisplay();
+    void snapshot_isTheSameTwice();
+    void snapshot_growsWithTheScaleFactor();
+    void snapshot_leavesAMissingFolderMissing();
+
+private:
+    void run(const QStringList& arguments);
+    QByteArray picture(const QString& folder, const QString& name) const;
+
+    std::unique_ptr<QTemporaryDir> m_home;
+    QProcessEnvironment m_environment;
+    int m_status = -1;
+    QByteArray m_out;
+    QByteArray m_error;
+};
+
+void WithoutDisplayTest::init()
+{
+    m_home = std::make_unique<QTemporaryDir>();
+    m_environment = {};
+    m_environment.insert(u"PATH"_s, qEnvironmentVariable("PATH"));
+    m_environment.insert(u"HOME"_s, m_home->path());
+    m_environment.insert(u"LSAN_OPTIONS"_s, qEnvironmentVariable("LSAN_OPTIONS"));
+}
+
+void WithoutDisplayTest::run(const QStringList& arguments)
+{
+    QProcess quib;
+    quib.setProcessEnvironment(m_environment);
+    quib.start(Desk::quib(), arguments);
+    QVERIFY(quib.waitForFinished());
+    QCOMPARE(quib.exitStatus(), QProcess::NormalExit);
+    m_status = quib.exitCode();
+    m_out = quib.readAllStandardOutput();
+    m_error = quib.readAllStandardError();
+}
+
+QByteArray WithoutDisplayTest::picture(const QString& folder, const QString& name) const
+{
+    QFile file(m_home->filePath(folder + u'/' + name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void WithoutDisplayTest::noDisplay_saysSoInOneLine()
+{
+    run({});
+
+    QCOMPARE(m_status, 1);
+    QCOMPARE(m_out, QByteArray());
+    QCOMPARE(m_error.count('\n'), 1);
+    QVERIFY(m_error.contains("display"));
+}
+
+void WithoutDisplayTest::unreachableDisplay_saysSoInOneLine()
+{
+    m_environment.insert(u"DISPLAY"_s, u":4711"_s);
+
+    run({});
+
+    QCOMPARE(m_status, 1);
+    QCOMPARE(m_error.count('\n'), 1);
+}
+
+void WithoutDisplayTest::help_andVersion_needNoDisplay_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<QByteArray>("words");
+
+    QTest::addRow("help") << u"--help"_s << QByteArray("Usage: quib");
+    QTest::addRow("version") << u"--version"_s << QByteArray("Korvel Quib ");
+}
+
+void WithoutDisplayTest::help_andVersion_needNoDisplay()
+{
+    QFETCH(QString, argument);
+    QFETCH(QByteArray, words);
+
+    run({argument});
+
+    QCOMPARE(m_status, 0);
+    QVERIFY(m_out.startsWith(words));
+    QCOMPARE(m_error, QByteArray());
+}
+
+void WithoutDisplayTest::snapshot_isTheSameTwice()
+{
+    for (const auto& folder : {u"first"_s, u"second"_s}) {
+        QVERIFY(QDir(m_home->path()).mkdir(folder));
+        run({u"--snapshot"_s, m_home->filePath(folder)});
+        QCOMPARE(m_status, 0);
+        QCOMPARE(m_out + m_error, QByteArray());
+    }
+
+    const auto names = QDir(m_home->filePath(u"first"_s)).entryList(QDir::Files);
+    QCOMPARE(names.size(), 7);
+    for (const auto& name : names) {
+        QCOMPARE(QImage(m_home->filePath(u"first/"_s + name)).size(), QSize(760, 330));
+        QVERIFY2(picture(u"first"_s, name) == picture(u"second"_s, name), qPrintable(name));
+    }
+}
+
+void WithoutDisplayTest::snapshot_growsWithTheScaleFactor()
+{
+    m_environment.insert(u"QT_SCALE_FACTOR"_s, u"2"_s);
+
+    run({u"--snapshot"_s, m_home->path()});
+
+    QCOMPARE(QImage(m_home->filePath(u"tasks.png"_s)).size(), QSize(1520, 660));
+}
+
+void WithoutDisplayTest::snapshot_leavesAMissingFolderMissing()
+{
+    run({u"--snapshot"_s, m_home->filePath(u"missing"_s)});
+
+    QCOMPARE(m_status, 0);
+    QCOMPARE(m_out + m_error, QByteArray());
+    QVERIFY(!QDir(m_home->filePath(u"missing"_s)).exists());
+}
+
+QTEST_GUILESS_MAIN(WithoutDisplayTest)
+#include "tst_withoutdisplay.moc"
