@@ -27,7 +27,7 @@ function(quib_library name)
             set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS ${alias})
         endforeach()
         qt_add_qml_module(quib_${name} URI ${arg_QML_URI} VERSION 1.0 RESOURCE_PREFIX /qt/qml
-            DEPENDENCIES QtQuick QML_FILES ${arg_QML_FILES})
+            DEPENDENCIES QtQuick QtQml.Models QML_FILES ${arg_QML_FILES})
     else()
         qt_extract_metatypes(quib_${name}) # so that QML tools know the types of this library
         target_compile_options(quib_${name} PRIVATE -Wshadow) # Qt 6.4's generated QML code shadows

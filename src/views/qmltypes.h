@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/store.h"
-#include "views/storeforviews.h"
 
 #include <QtQml/qqml.h>
 
@@ -11,7 +10,6 @@ namespace quib::qml {
 struct StoreType {
     Q_GADGET
     QML_FOREIGN(quib::Store)
-    QML_EXTENDED(quib::StoreForViews)
     QML_NAMED_ELEMENT(Store)
     QML_UNCREATABLE("Created by the application delegate")
 };

@@ -11,6 +11,15 @@ using namespace Qt::StringLiterals;
 
 namespace quib {
 
+namespace {
+
+std::optional<QUuid> clientOrNone(const QUuid& id)
+{
+    return id.isNull() ? std::nullopt : std::optional(id);
+}
+
+} // namespace
+
 QList<TaskItem> visibleTasks(const QList<TaskItem>& tasks, const std::optional<QUuid>& filter)
 {
     QList<TaskItem> visible;
@@ -36,6 +45,13 @@ void TaskListModel::setFilter(const QUuid& filter)
     m_filter = filter;
     follow();
     Q_EMIT filterChanged();
+}
+
+void TaskListModel::addTask(const QString& title, const QUuid& client)
+{
+    if (m_store) {
+        m_store->addTask(title, clientOrNone(client));
+    }
 }
 
 int TaskListModel::rowCount(const QModelIndex& parent) const
@@ -96,8 +112,7 @@ QList<TaskRecord> TaskListModel::wanted() const
         }
     }
     QList<TaskRecord> records;
-    for (const auto& task : visibleTasks(
-             m_store->data().tasks, m_filter.isNull() ? std::nullopt : std::optional(m_filter))) {
+    for (const auto& task : visibleTasks(m_store->data().tasks, clientOrNone(m_filter))) {
         const auto* client = task.clientID ? clients.value(*task.clientID) : nullptr;
         records.append({.id = task.id,
                         .title = task.title,

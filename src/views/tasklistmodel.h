@@ -45,6 +45,8 @@ public:
     /// Borrowed: the rows are empty once the store is gone.
     void setStore(Store* store);
     void setFilter(const QUuid& filter);
+    /// A new task in the store. The null id stands for no client.
+    Q_INVOKABLE void addTask(const QString& title, const QUuid& client);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -155,6 +155,7 @@ void Desk::startServer()
     const auto display = u':' + QString::fromLatin1(m_server->readAllStandardOutput().trimmed());
     setVariable(u"DISPLAY"_s, display);
     m_connection = std::make_unique<Connection>(display);
+    start(u"xsetroot"_s, {u"-solid"_s, u"#406080"_s})->waitForFinished(); // Not black like the panel.
 }
 
 void Desk::startBus()

@@ -6,6 +6,7 @@
 #include "support/workspace.h"
 
 #include <QQuickItem>
+#include <QSignalSpy>
 #include <QTest>
 
 /// The whole panel in a window, with a real store behind it. Springs snap unless a test lets them
@@ -31,6 +32,15 @@ struct ShownPanel {
     {
         model.setTab(tab);
         model.setExpanded(true);
+        settle();
+    }
+
+    /// Waits for the frame in which everything has found its place.
+    void settle() const
+    {
+        QSignalSpy frames(window.get(), &QQuickWindow::frameSwapped);
+        window->update();
+        frames.wait();
     }
 
     QQuickItem* root() const { return window->rootObject(); }

@@ -184,11 +184,10 @@ void RootViewTest::droppedFiles_areAddedOneCallEach()
     ShownPanel panel;
     const QSignalSpy changes(panel.workspace.store.get(), &quib::Store::shelfChanged);
 
-    QMetaObject::invokeMethod(
-        panel.root(), "handleDrop",
-        Q_ARG(QList<QUrl>,
-              (QList<QUrl>{QUrl(u"file:///tmp/first"_s), QUrl(u"https://ex.org"_s),
-                           QUrl(u"file:///tmp/second"_s)})));
+    const QList<QUrl> urls{QUrl(u"file:///tmp/first"_s), QUrl(u"https://ex.org"_s),
+                           QUrl(u"file:///tmp/second"_s)};
+    QMetaObject::invokeMethod(panel.root(), "handleDrop",
+                              Q_ARG(QVariant, QVariant::fromValue(urls)));
 
     QCOMPARE(changes.count(), 2);
     QCOMPARE(panel.workspace.store->data().shelf.front().path, u"/tmp/second"_s);

@@ -9,6 +9,16 @@ using namespace Qt::StringLiterals;
 using quib::Brand;
 using quib::Tab;
 
+namespace {
+
+/// On whole points, so that nothing is blurred.
+bool isCentred(const QRectF& inner, const QRectF& outer)
+{
+    return qAbs(inner.center().y() - outer.center().y()) <= 0.5;
+}
+
+} // namespace
+
 /// The bar of tabs, date and pin, read from the live items.
 class TopBarTest : public QObject {
     Q_OBJECT
@@ -50,8 +60,10 @@ void TopBarTest::tabButtons_standInOrderTwoPointsApart()
     QCOMPARE(all.size(), 7);
     for (int i = 0; i < 7; ++i) {
         QCOMPARE(all.at(i)->property("tab").toInt(), i);
-        QCOMPARE(ShownPanel::inScene(all.at(i)),
-                 QRectF(bar.left() + 20 + i * 32, bar.center().y() - 12, 30, 24));
+        const auto button = ShownPanel::inScene(all.at(i));
+        QCOMPARE(button.topLeft().x(), bar.left() + 20 + i * 32);
+        QCOMPARE(button.size(), QSizeF(30, 24));
+        QVERIFY(isCentred(button, bar));
     }
 }
 
@@ -140,7 +152,7 @@ void TopBarTest::pin_standsEightPointsAfterTheDate()
     QCOMPARE(pin.right(), panel.rect(u"topBar"_s).right() - 20);
     QCOMPARE(pin.size(), QSizeF(12, 12));
     QCOMPARE(pin.left() - panel.rect(u"date"_s).right(), 8.0);
-    QCOMPARE(pin.center().y(), panel.rect(u"topBar"_s).center().y());
+    QVERIFY(isCentred(pin, panel.rect(u"topBar"_s)));
 }
 
 void TopBarTest::pin_showsWhetherItKeepsOpen()

@@ -45,7 +45,17 @@ PlainButton {
         color: Brand.white(0.07)
     }
 
-    contentItem: Item {
+    contentItem: Label {
+        name: root.shownName
+        status: client.status
+    }
+
+    component Label: Item {
+        id: label
+
+        required property string name
+        required property string status
+
         implicitWidth: dot.width + name.implicitWidth + arrows.width + 12
         implicitHeight: name.implicitHeight
 
@@ -57,7 +67,7 @@ PlainButton {
             width: 6
             height: 6
             radius: 3
-            color: Brand.color(client.status)
+            color: Brand.color(label.status)
         }
 
         QuibText {
@@ -69,9 +79,10 @@ PlainButton {
             anchors.right: arrows.left
             anchors.rightMargin: 6
             anchors.verticalCenter: parent.verticalCenter
-            text: root.shownName
+            text: label.name
             size: 11.5
             elide: Text.ElideRight
+            Accessible.ignored: true
         }
 
         Symbol {

@@ -18,7 +18,7 @@ FocusScope {
     property uuid newClient
 
     function addTask() {
-        root.store.addTask(field.text, root.newClient === NoClient.id ? root.filter : root.newClient);
+        tasks.addTask(field.text, root.newClient === NoClient.id ? root.filter : root.newClient);
         field.text = "";
         field.forceActiveFocus();
     }
