@@ -10,10 +10,22 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QSurfaceFormat>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
 namespace quib {
+
+namespace {
+
+/// The item that keys would reach if the window had the keyboard.
+const QQuickItem* focusedItem(const QQuickItem* scope)
+{
+    const auto* item = scope->scopedFocusItem();
+    return item && item->isFocusScope() ? focusedItem(item) : item;
+}
+
+} // namespace
 
 NotchPanel::NotchPanel(NotchModel& model, Store& store, PanelHost& host)
     : m_host(host)
@@ -38,13 +50,14 @@ NotchPanel::NotchPanel(NotchModel& model, Store& store, PanelHost& host)
 void NotchPanel::mousePressEvent(QMouseEvent* event)
 {
     QQuickView::mousePressEvent(event);
-    takeKeyboardForText(event->position());
+    // Once the press has moved the focus.
+    QTimer::singleShot(0, this, [this, press = event->position()] { takeKeyboardForText(press); });
 }
 
 /// Pressing plain buttons leaves the keyboard where it is.
 void NotchPanel::takeKeyboardForText(QPointF press)
 {
-    const auto* item = contentItem()->scopedFocusItem();
+    const auto* item = focusedItem(contentItem());
     const bool isText = item && item->flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
     if (isText && item->contains(item->mapFromScene(press))) {
         m_host.takeKeyboard();

@@ -118,7 +118,7 @@ Desk::Desk(Options options)
     setVariable(u"XDG_RUNTIME_DIR"_s, folder(u"runtime"_s));
     setVariable(u"QUIB_DATA_DIR"_s, dataFolder());
     setVariable(u"QT_SCALE_FACTOR"_s, QString::number(options.scale));
-    setVariable(u"LC_ALL"_s, u"en_GB.UTF-8"_s);
+    setVariable(u"LC_ALL"_s, u"C.UTF-8"_s);
     for (const auto* name : {"DBUS_SESSION_BUS_ADDRESS", "XDG_DATA_HOME", "XDG_CONFIG_HOME",
                              "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_CURRENT_DESKTOP"}) {
         m_environment.remove(QString::fromLatin1(name));

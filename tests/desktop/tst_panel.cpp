@@ -151,7 +151,7 @@ void PanelTest::runningEntry_showsWingsAndWidensTheHitArea()
     desk.writeData(RunningEntry);
     const auto quib = desk.startQuib();
     const QPoint onTheWing(800 - 190, 12);
-    QTRY_COMPARE(desk.pixel({800 - 189, 4}), QColor(Qt::black));
+    QTRY_COMPARE(desk.pixel({800 - 185, 12}), QColor(Qt::black));
 
     desk.moveTo(onTheWing);
 
