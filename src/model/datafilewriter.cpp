@@ -61,6 +61,7 @@ private:
     void put(double value);
     void put(const QUuid& id);
     void put(const QDateTime& moment);
+    void putNothing();
     void putMembers(const Client& client);
     void putMembers(const TaskItem& task);
     void putMembers(const TimeEntry& entry);
@@ -95,7 +96,7 @@ void Writer::put(const QString& text)
 void Writer::put(double value)
 {
     if (!std::isfinite(value)) {
-        m_whole = false;
+        putNothing();
         return;
     }
     if (value == 0 && std::signbit(value)) {
@@ -120,10 +121,18 @@ void Writer::put(const QUuid& id)
 void Writer::put(const QDateTime& moment)
 {
     const auto text = isoDate(moment);
-    m_whole = m_whole && text;
-    if (text) {
-        put(std::string_view(text->data(), text->size()));
+    if (!text) {
+        putNothing();
+        return;
     }
+    put(std::string_view(text->data(), text->size()));
+}
+
+/// In place of a value that no file can hold; the writer underneath insists on one.
+void Writer::putNothing()
+{
+    m_whole = false;
+    m_json.Null();
 }
 
 // Members stand in the order of their keys.
