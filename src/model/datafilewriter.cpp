@@ -24,6 +24,19 @@ rapidjson::SizeType lengthOf(std::string_view text)
     return static_cast<rapidjson::SizeType>(text.size());
 }
 
+/// A whole number stands as an integer while each one has a double of its own; from there on only
+/// with an exponent, since readers refuse integers of 2^64 and more. Returns the end.
+char* writeNumber(std::array<char, 32>& out, double value)
+{
+    auto* const end = out.data() + out.size();
+    if (std::abs(value) >= FirstUnsureInteger) {
+        return std::to_chars(out.data(), end, value, std::chars_format::scientific).ptr;
+    }
+    const bool isWhole = std::trunc(value) == value;
+    return isWhole ? std::to_chars(out.data(), end, static_cast<qint64>(value)).ptr
+                   : std::to_chars(out.data(), end, value).ptr;
+}
+
 /// Writes values one after the other. Once one could not be written the whole is worth nothing.
 class Writer {
 public:
@@ -91,8 +104,6 @@ void Writer::put(const QString& text)
     put(std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
 }
 
-/// A whole number stands as an integer while each one has a double of its own; from there on only
-/// with an exponent, since readers refuse integers of 2^64 and more.
 void Writer::put(double value)
 {
     if (!std::isfinite(value)) {
@@ -104,11 +115,8 @@ void Writer::put(double value)
         return;
     }
     std::array<char, 32> out{};
-    auto* const end = out.data() + out.size();
-    const auto written = std::abs(value) < FirstUnsureInteger
-        ? std::to_chars(out.data(), end, value)
-        : std::to_chars(out.data(), end, value, std::chars_format::scientific);
-    m_json.RawValue(out.data(), static_cast<std::size_t>(written.ptr - out.data()),
+    const auto* const written = writeNumber(out, value);
+    m_json.RawValue(out.data(), static_cast<std::size_t>(written - out.data()),
                     rapidjson::kNumberType);
 }
 
