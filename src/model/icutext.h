@@ -28,7 +28,7 @@ inline icu::Locale dateLocale(const UserLocale& locale)
     return icu::Locale(locale.dates.constData());
 }
 
-/// A zone that ICU does not know by its name keeps its present distance from UTC.
+/// A zone without a name that ICU knows, such as "UTC+05:30", is its distance from UTC.
 std::unique_ptr<icu::TimeZone> timeZone(const UserLocale& locale);
 
 } // namespace quib::icutext
