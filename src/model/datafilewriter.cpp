@@ -205,7 +205,7 @@ QByteArray withEscapedSlashes(std::string_view json)
     const auto slashes = std::ranges::count(json, '/');
     QByteArray out;
     out.reserve(static_cast<qsizetype>(json.size()) + slashes);
-    for (auto slash = json.find('/'); slash != json.npos; slash = json.find('/')) {
+    for (auto slash = json.find('/'); slash != std::string_view::npos; slash = json.find('/')) {
         out.append(json.data(), static_cast<qsizetype>(slash)).append("\\/");
         json.remove_prefix(slash + 1);
     }

@@ -25,7 +25,7 @@ inline UDate toDate(const QDateTime& moment)
 
 inline icu::Locale dateLocale(const UserLocale& locale)
 {
-    return icu::Locale(locale.dates.constData());
+    return {locale.dates.constData()};
 }
 
 /// A zone without a name that ICU knows, such as "UTC+05:30", is its distance from UTC.

@@ -3,6 +3,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <utility>
 
 namespace quib {
 
@@ -74,24 +75,39 @@ Tally::Tally(const QList<TimeEntry>& entries, const QDateTime& since)
     }
 }
 
+std::optional<qint64> Tally::sumOf(const Group& group, const QDateTime& now) const
+{
+    const bool hasRunning = now >= m_since && !group.running.empty();
+    if (!group.hasFinished && !hasRunning) {
+        return {};
+    }
+    auto sum = group.finished;
+    if (hasRunning) {
+        const auto moment = now.toMSecsSinceEpoch();
+        for (const auto start : group.running) {
+            sum += moment - start;
+        }
+    }
+    return sum;
+}
+
 QList<ClientTotal> Tally::totals(const QList<Client>& clients, const QDateTime& now) const
 {
-    const auto moment = now.toMSecsSinceEpoch();
-    const bool runningCounts = now >= m_since;
-    QList<ClientTotal> totals;
+    using Sum = std::pair<qint64, const Group*>;
+    std::vector<Sum> sums;
     for (const auto& group : m_groups) {
-        const bool hasRunning = runningCounts && !group.running.empty();
-        if (!group.hasFinished && !hasRunning) {
-            continue;
+        if (const auto sum = sumOf(group, now)) {
+            sums.emplace_back(*sum, &group);
         }
-        auto sum = group.finished;
-        for (const auto start : group.running) {
-            sum += hasRunning ? moment - start : 0;
-        }
-        totals.append({.client = clientOf(group.clientID, clients),
+    }
+    std::ranges::stable_sort(sums, std::ranges::greater(), &Sum::first);
+
+    QList<ClientTotal> totals;
+    totals.reserve(std::ssize(sums));
+    for (const auto& [sum, group] : sums) {
+        totals.append({.client = clientOf(group->clientID, clients),
                        .seconds = static_cast<double>(sum) / MillisecondsPerSecond});
     }
-    std::ranges::stable_sort(totals, std::ranges::greater(), &ClientTotal::seconds);
     return totals;
 }
 
