@@ -36,6 +36,12 @@ void syncFolderOf(const QString& path)
     ::close(descriptor);
 }
 
+/// QSaveFile alone would commit what fitted on a full disk, and ignores a failing sync.
+bool writeDurably(QSaveFile& file, const QByteArray& bytes)
+{
+    return file.write(bytes) == bytes.size() && file.flush() && reachesDisk(file.handle());
+}
+
 bool isSmallLetter(QChar character)
 {
     return character >= u'a' && character <= u'z';
@@ -79,8 +85,7 @@ bool replaceFile(const QString& path, const QByteArray& bytes)
     if (!file.open(QIODevice::WriteOnly)) {
         return false;
     }
-    // On a full disk QSaveFile would commit what fitted, and it ignores a failing sync.
-    if (file.write(bytes) != bytes.size() || !reachesDisk(file.handle())) {
+    if (!writeDurably(file, bytes)) {
         file.cancelWriting();
     }
     if (!file.commit()) {

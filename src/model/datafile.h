@@ -16,4 +16,7 @@ std::optional<QByteArray> encodeQuibData(const QuibData& data);
 /// malformed id, date or status makes the whole file unreadable. Of repeated keys the first counts.
 std::optional<QuibData> decodeQuibData(const QByteArray& bytes);
 
+/// The same of a file; absent too when it cannot be read.
+std::optional<QuibData> loadQuibData(const QString& path);
+
 } // namespace quib

@@ -3,7 +3,11 @@
 #include "model/utf8.h"
 #include "model/uuidtext.h"
 
+#include <QFile>
+
 #include <simdjson.h>
+
+#include <algorithm>
 
 namespace quib {
 
@@ -11,6 +15,7 @@ namespace {
 
 namespace dom = simdjson::dom;
 
+constexpr auto Padding = static_cast<qsizetype>(simdjson::SIMDJSON_PADDING);
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
 // Each readValue() puts a value of exactly its type into the last argument, or says false.
@@ -147,8 +152,7 @@ bool readWorkspace(const dom::object& object, QuibData& out)
 
 std::optional<QuibData> decodeQuibData(const QByteArray& bytes)
 {
-    const auto spare = bytes.capacity() - bytes.size();
-    const bool mustCopy = spare < static_cast<qsizetype>(simdjson::SIMDJSON_PADDING);
+    const bool mustCopy = bytes.capacity() - bytes.size() < Padding;
     std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
     if (text.starts_with(ByteOrderMark)) {
         text.remove_prefix(ByteOrderMark.size());
@@ -162,6 +166,19 @@ std::optional<QuibData> decodeQuibData(const QByteArray& bytes)
         return {};
     }
     return data;
+}
+
+std::optional<QuibData> loadQuibData(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        return {};
+    }
+    QByteArray bytes;
+    bytes.reserve(file.size() + Padding); // Spares the parser a copy of it all.
+    bytes.resize(file.size());
+    bytes.resize(std::max<qint64>(file.read(bytes.data(), bytes.size()), 0));
+    return decodeQuibData(bytes);
 }
 
 } // namespace quib

@@ -24,6 +24,19 @@ rapidjson::SizeType lengthOf(std::string_view text)
     return static_cast<rapidjson::SizeType>(text.size());
 }
 
+/// A whole number stands as an integer while each one has a double of its own; from there on only
+/// with an exponent, since readers refuse integers of 2^64 and more. Returns the end.
+char* writeNumber(std::array<char, 32>& out, double value)
+{
+    auto* const end = out.data() + out.size();
+    if (std::abs(value) >= FirstUnsureInteger) {
+        return std::to_chars(out.data(), end, value, std::chars_format::scientific).ptr;
+    }
+    const bool isWhole = std::trunc(value) == value;
+    return isWhole ? std::to_chars(out.data(), end, static_cast<qint64>(value)).ptr
+                   : std::to_chars(out.data(), end, value).ptr;
+}
+
 /// Writes values one after the other. Once one could not be written the whole is worth nothing.
 class Writer {
 public:
@@ -61,6 +74,7 @@ private:
     void put(double value);
     void put(const QUuid& id);
     void put(const QDateTime& moment);
+    void putNothing();
     void putMembers(const Client& client);
     void putMembers(const TaskItem& task);
     void putMembers(const TimeEntry& entry);
@@ -90,12 +104,10 @@ void Writer::put(const QString& text)
     put(std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
 }
 
-/// A whole number stands as an integer while each one has a double of its own; from there on only
-/// with an exponent, since readers refuse integers of 2^64 and more.
 void Writer::put(double value)
 {
     if (!std::isfinite(value)) {
-        m_whole = false;
+        putNothing();
         return;
     }
     if (value == 0 && std::signbit(value)) {
@@ -103,11 +115,8 @@ void Writer::put(double value)
         return;
     }
     std::array<char, 32> out{};
-    auto* const end = out.data() + out.size();
-    const auto written = std::abs(value) < FirstUnsureInteger
-        ? std::to_chars(out.data(), end, value)
-        : std::to_chars(out.data(), end, value, std::chars_format::scientific);
-    m_json.RawValue(out.data(), static_cast<std::size_t>(written.ptr - out.data()),
+    const auto* const written = writeNumber(out, value);
+    m_json.RawValue(out.data(), static_cast<std::size_t>(written - out.data()),
                     rapidjson::kNumberType);
 }
 
@@ -120,10 +129,18 @@ void Writer::put(const QUuid& id)
 void Writer::put(const QDateTime& moment)
 {
     const auto text = isoDate(moment);
-    m_whole = m_whole && text;
-    if (text) {
-        put(std::string_view(text->data(), text->size()));
+    if (!text) {
+        putNothing();
+        return;
     }
+    put(std::string_view(text->data(), text->size()));
+}
+
+/// In place of a value that no file can hold; the writer underneath insists on one.
+void Writer::putNothing()
+{
+    m_whole = false;
+    m_json.Null();
 }
 
 // Members stand in the order of their keys.
@@ -188,7 +205,7 @@ QByteArray withEscapedSlashes(std::string_view json)
     const auto slashes = std::ranges::count(json, '/');
     QByteArray out;
     out.reserve(static_cast<qsizetype>(json.size()) + slashes);
-    for (auto slash = json.find('/'); slash != json.npos; slash = json.find('/')) {
+    for (auto slash = json.find('/'); slash != std::string_view::npos; slash = json.find('/')) {
         out.append(json.data(), static_cast<qsizetype>(slash)).append("\\/");
         json.remove_prefix(slash + 1);
     }

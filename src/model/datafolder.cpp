@@ -26,7 +26,7 @@ QString folderPath()
 
 QString dataFolder()
 {
-    const auto path = folderPath();
+    auto path = folderPath();
     QDir().mkpath(path);
     return path;
 }

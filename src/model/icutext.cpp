@@ -11,7 +11,7 @@ std::unique_ptr<icu::TimeZone> timeZone(const UserLocale& locale)
     if (*zone != icu::TimeZone::getUnknown()) {
         return zone;
     }
-    const auto offset = locale.timeZone.offsetFromUtc(QDateTime::currentDateTimeUtc());
+    const auto offset = locale.timeZone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(0, Qt::UTC));
     return std::make_unique<icu::SimpleTimeZone>(offset * U_MILLIS_PER_SECOND, name);
 }
 

@@ -25,10 +25,10 @@ inline UDate toDate(const QDateTime& moment)
 
 inline icu::Locale dateLocale(const UserLocale& locale)
 {
-    return icu::Locale(locale.dates.constData());
+    return {locale.dates.constData()};
 }
 
-/// A zone that ICU does not know by its name keeps its present distance from UTC.
+/// A zone without a name that ICU knows, such as "UTC+05:30", is its distance from UTC.
 std::unique_ptr<icu::TimeZone> timeZone(const UserLocale& locale);
 
 } // namespace quib::icutext

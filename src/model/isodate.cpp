@@ -10,28 +10,34 @@ using namespace std::chrono;
 
 constexpr std::string_view Form = "0000-00-00T00:00:00Z";
 
-constexpr bool isDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
+/// Reads the digits of a text of the right length, and keeps in mind whether all of them were.
+class Digits {
+public:
+    explicit Digits(std::string_view text)
+        : m_text(text)
+    {
+    }
+
+    bool areValid() const { return m_valid; }
+
+    int two(std::size_t at) { return one(at) * 10 + one(at + 1); }
+
+private:
+    int one(std::size_t at)
+    {
+        const int value = m_text[at] - '0';
+        m_valid &= value >= 0 && value <= 9;
+        return value;
+    }
+
+    std::string_view m_text;
+    bool m_valid = true;
+};
 
 bool hasForm(std::string_view text)
 {
-    if (text.size() != Form.size()) {
-        return false;
-    }
-    for (std::size_t at = 0; at < Form.size(); ++at) {
-        const bool fits = Form[at] == '0' ? isDigit(text[at]) : text[at] == Form[at];
-        if (!fits) {
-            return false;
-        }
-    }
-    return true;
-}
-
-int twoDigits(std::string_view text, std::size_t at)
-{
-    return (text[at] - '0') * 10 + (text[at + 1] - '0');
+    return text.size() == Form.size() && text[4] == '-' && text[7] == '-' && text[10] == 'T'
+        && text[13] == ':' && text[16] == ':' && text[19] == 'Z';
 }
 
 void putTwoDigits(IsoDate& out, std::size_t at, unsigned value)
@@ -70,13 +76,14 @@ std::optional<QDateTime> parseIsoDate(std::string_view text)
     if (!hasForm(text)) {
         return {};
     }
-    const year_month_day date{year{twoDigits(text, 0) * 100 + twoDigits(text, 2)},
-                              month{static_cast<unsigned>(twoDigits(text, 5))},
-                              day{static_cast<unsigned>(twoDigits(text, 8))}};
-    const hours hour{twoDigits(text, 11)};
-    const minutes minute{twoDigits(text, 14)};
-    const seconds second{twoDigits(text, 17)};
-    if (!date.ok() || hour >= 24h || minute >= 60min || second >= 60s) {
+    Digits digits(text);
+    const year_month_day date{year{digits.two(0) * 100 + digits.two(2)},
+                              month{static_cast<unsigned>(digits.two(5))},
+                              day{static_cast<unsigned>(digits.two(8))}};
+    const hours hour{digits.two(11)};
+    const minutes minute{digits.two(14)};
+    const seconds second{digits.two(17)};
+    if (!digits.areValid() || !date.ok() || hour >= 24h || minute >= 60min || second >= 60s) {
         return {};
     }
     const milliseconds sinceEpoch = sys_days{date}.time_since_epoch() + hour + minute + second;

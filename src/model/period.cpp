@@ -51,7 +51,12 @@ std::optional<QDateTime> momentOf(const icu::Calendar& calendar)
 
 QDateTime startOfDay(const QDateTime& now, const UserLocale& locale)
 {
-    return now.toTimeZone(locale.timeZone).date().startOfDay(locale.timeZone).toUTC();
+    const auto calendar = calendarAt(now, locale);
+    if (!calendar) {
+        return now.toTimeZone(locale.timeZone).date().startOfDay(locale.timeZone).toUTC();
+    }
+    goToFirstMomentOfDay(*calendar);
+    return momentOf(*calendar).value_or(now);
 }
 
 QDateTime startOfWeek(const QDateTime& now, const UserLocale& locale)

@@ -5,7 +5,6 @@
 #include "model/datafolder.h"
 #include "model/sampledata.h"
 
-#include <QFile>
 #include <QSet>
 
 #include <algorithm>
@@ -19,15 +18,6 @@ namespace quib {
 namespace {
 
 constexpr double FirstRate = 30;
-std::optional<QuibData> loadData(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    return decodeQuibData(file.readAll());
-}
-
 template <typename Record>
 bool removeAll(QList<Record>& records, const QUuid& id)
 {
@@ -57,7 +47,7 @@ Store::Store(Surroundings surroundings, QObject* parent)
 {
     const auto path = dataFile();
     removeLeftovers(path);
-    auto loaded = loadData(path);
+    auto loaded = loadQuibData(path);
     m_data = loaded ? *std::move(loaded)
                     : sampleData(m_surroundings.clock(), m_surroundings.findApplication);
     entriesWereReplaced();

@@ -36,6 +36,9 @@ private:
         std::vector<qint64> running; ///< When each running timer counts from.
     };
 
+    /// Milliseconds; absent when no entry of the group counts.
+    std::optional<qint64> sumOf(const Group& group, const QDateTime& now) const;
+
     QDateTime m_since;
     std::vector<Group> m_groups; ///< In the order in which the entries name them.
 };

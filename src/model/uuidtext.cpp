@@ -48,6 +48,16 @@ Bytes bytesOf(const QUuid& id)
     return bytes;
 }
 
+QUuid idOf(const Bytes& bytes)
+{
+    QUuid id;
+    id.data1 = qFromBigEndian<quint32>(&bytes[0]);
+    id.data2 = qFromBigEndian<quint16>(&bytes[4]);
+    id.data3 = qFromBigEndian<quint16>(&bytes[6]);
+    std::copy(&bytes[8], bytes.data() + bytes.size(), id.data4);
+    return id;
+}
+
 quint8 digitAt(std::string_view text, std::size_t at)
 {
     return DigitValues[static_cast<unsigned char>(text[at])];
@@ -79,14 +89,14 @@ std::optional<QUuid> parseUuid(std::string_view text)
         return {};
     }
     Bytes bytes{};
-    bool valid = true;
+    unsigned allDigits = 0; // One that is none leaves bits that no digit has.
     for (std::size_t byte = 0; byte < BytePlaces.size(); ++byte) {
-        const auto high = digitAt(text, BytePlaces[byte]);
-        const auto low = digitAt(text, BytePlaces[byte] + 1);
-        valid = valid && high != NoDigit && low != NoDigit;
-        bytes[byte] = static_cast<uchar>(high * 16 + low);
+        const unsigned high = digitAt(text, BytePlaces[byte]);
+        const unsigned low = digitAt(text, BytePlaces[byte] + 1);
+        allDigits |= high | low;
+        bytes[byte] = static_cast<uchar>(high << 4U | low);
     }
-    return valid ? std::optional(QUuid::fromRfc4122(QByteArrayView(bytes))) : std::nullopt;
+    return allDigits < Digits.size() ? std::optional(idOf(bytes)) : std::nullopt;
 }
 
 } // namespace quib

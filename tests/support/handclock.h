@@ -14,6 +14,7 @@ class HandClock {
 public:
     QDateTime now{QDate(2026, 3, 2), QTime(9, 0), Qt::UTC}; ///< A Monday.
     int scheduled = 0; ///< How often work was put in, cancelled work too.
+    int ran = 0; ///< How often work was run.
 
     quib::Clock clock()
     {
@@ -36,6 +37,7 @@ public:
         const auto end = now.addMSecs(time.count());
         while (auto next = takeNext(end)) {
             now = std::max(now, next->due);
+            ++ran;
             next->run();
         }
         now = end;

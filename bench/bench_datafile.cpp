@@ -1,0 +1,73 @@
+#include "workspace.h"
+
+#include "model/datafile.h"
+#include "model/isodate.h"
+#include "model/utf8.h"
+#include "model/uuidtext.h"
+
+#include <simdjson.h>
+
+namespace {
+
+void load(benchmark::State& state)
+{
+    const auto bytes = quib::encodeQuibData(workspaceOf(state.range(0))).value();
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(quib::decodeQuibData(bytes));
+    }
+    state.SetBytesProcessed(state.iterations() * bytes.size());
+}
+BENCHMARK(load)->Apply(entryCounts);
+
+/// What the same bytes cost before any of them means anything.
+void loadBaseline(benchmark::State& state)
+{
+    const auto bytes = quib::encodeQuibData(workspaceOf(state.range(0))).value();
+    for (auto _ : state) {
+        simdjson::dom::parser parser;
+        benchmark::DoNotOptimize(
+            parser.parse(bytes.data(), static_cast<std::size_t>(bytes.size())));
+    }
+    state.SetBytesProcessed(state.iterations() * bytes.size());
+}
+BENCHMARK(loadBaseline)->Apply(entryCounts);
+
+void encode(benchmark::State& state)
+{
+    const auto data = workspaceOf(state.range(0));
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(quib::encodeQuibData(data));
+    }
+}
+BENCHMARK(encode)->Apply(entryCounts);
+
+/// The lines of an entry, without care for what a text may hold.
+void appendEntry(std::string& out, const quib::TimeEntry& entry)
+{
+    const auto append = [&](const char* key, const auto& text) {
+        out.append(key).append(text.data(), static_cast<std::size_t>(text.size()));
+    };
+    append("    {\n      \"clientID\": \"", quib::uuidText(*entry.clientID));
+    append("\",\n      \"end\": \"", *quib::isoDate(*entry.end));
+    append("\",\n      \"id\": \"", quib::uuidText(entry.id));
+    append("\",\n      \"note\": \"", entry.note.toUtf8());
+    append("\",\n      \"start\": \"", *quib::isoDate(entry.start));
+    out.append("\"\n    },\n");
+}
+
+void encodeBaseline(benchmark::State& state)
+{
+    const auto data = workspaceOf(state.range(0));
+    for (auto _ : state) {
+        std::string out;
+        for (const auto& entry : data.entries) {
+            appendEntry(out, entry);
+        }
+        benchmark::DoNotOptimize(out);
+    }
+}
+BENCHMARK(encodeBaseline)->Apply(entryCounts);
+
+} // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,271 @@
+#include "model/atomicfile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using quib::removeLeftovers;
+using quib::replaceFile;
+
+namespace {
+
+/// A folder with files, read and written by name.
+class Files {
+public:
+    QString path(const QString& name) const { return m_dir.filePath(name); }
+
+    void put(const QString& name, const QByteArray& bytes) const
+    {
+        QFile file(path(name));
+        file.open(QIODevice::WriteOnly);
+        file.write(bytes);
+    }
+
+    QByteArray bytes(const QString& name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QStringList names() const
+    {
+        return QDir(m_dir.path())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+
+private:
+    QTemporaryDir m_dir;
+};
+
+bool run(const QString& program, const QStringList& arguments)
+{
+    return QProcess::execute(program, arguments) == 0;
+}
+
+/// A file system of its own with little room, for as long as this lives.
+class SmallDisk {
+public:
+    SmallDisk()
+        : m_mounted(
+            ::geteuid() == 0
+            && run(u"mount"_s,
+                   {u"-t"_s, u"tmpfs"_s, u"-o"_s, u"size=256k"_s, u"quib-test"_s, m_dir.path()}))
+    {
+    }
+    ~SmallDisk()
+    {
+        if (m_mounted) {
+            run(u"umount"_s, {m_dir.path()});
+        }
+    }
+    Q_DISABLE_COPY_MOVE(SmallDisk)
+
+    bool isMounted() const { return m_mounted; }
+    QString path(const QString& name) const { return m_dir.filePath(name); }
+
+private:
+    QTemporaryDir m_dir;
+    bool m_mounted;
+};
+
+} // namespace
+
+class AtomicFileTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void replaceFile_writesAllBytes_data();
+    void replaceFile_writesAllBytes();
+    void replaceFile_leavesNothingBeside();
+    void replaceFile_missingFolder_saysFalse();
+    void replaceFile_folderInTheWay_saysFalse();
+    void replaceFile_keepsTheMode();
+    void replaceFile_writesThroughALink();
+    void replaceFile_writesThroughALinkToNothing();
+    void replaceFile_fullDisk_leavesTheOldFile();
+    void removeLeftovers_onlyOfItsForm_data();
+    void removeLeftovers_onlyOfItsForm();
+    void removeLeftovers_leavesLinksAndFolders();
+    void removeLeftovers_leavesFilesOfOthers();
+    void removeLeftovers_behindALink_areBesideTheTarget();
+};
+
+void AtomicFileTest::replaceFile_writesAllBytes_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+
+    QTest::addRow("none") << QByteArray();
+    QTest::addRow("a few") << "abc"_ba;
+    QTest::addRow("many") << QByteArray(5'000'000, 'x');
+}
+
+void AtomicFileTest::replaceFile_writesAllBytes()
+{
+    QFETCH(QByteArray, bytes);
+    const Files files;
+    files.put(u"data.json"_s, "old and longer than abc");
+
+    QVERIFY(replaceFile(files.path(u"data.json"_s), bytes));
+
+    QCOMPARE(files.bytes(u"data.json"_s), bytes);
+}
+
+void AtomicFileTest::replaceFile_leavesNothingBeside()
+{
+    const Files files;
+
+    QVERIFY(replaceFile(files.path(u"data.json"_s), "new"));
+
+    QCOMPARE(files.names(), QStringList{u"data.json"_s});
+}
+
+void AtomicFileTest::replaceFile_missingFolder_saysFalse()
+{
+    const Files files;
+
+    QVERIFY(!replaceFile(files.path(u"gone/data.json"_s), "new"));
+}
+
+void AtomicFileTest::replaceFile_folderInTheWay_saysFalse()
+{
+    const Files files;
+    QVERIFY(QDir().mkpath(files.path(u"data.json"_s)));
+
+    QVERIFY(!replaceFile(files.path(u"data.json"_s), "new"));
+
+    QCOMPARE(files.names(), QStringList{u"data.json"_s});
+}
+
+void AtomicFileTest::replaceFile_keepsTheMode()
+{
+    const Files files;
+    files.put(u"data.json"_s, "old");
+    const auto ownerOnly
+        = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    QVERIFY(QFile::setPermissions(files.path(u"data.json"_s), ownerOnly));
+
+    QVERIFY(replaceFile(files.path(u"data.json"_s), "new"));
+
+    QCOMPARE(QFile::permissions(files.path(u"data.json"_s)), ownerOnly);
+}
+
+void AtomicFileTest::replaceFile_writesThroughALink()
+{
+    const Files files;
+    QVERIFY(QDir().mkpath(files.path(u"elsewhere"_s)));
+    files.put(u"elsewhere/real.json"_s, "old");
+    QVERIFY(QFile::link(u"elsewhere/real.json"_s, files.path(u"data.json"_s)));
+
+    QVERIFY(replaceFile(files.path(u"data.json"_s), "new"));
+
+    QVERIFY(QFileInfo(files.path(u"data.json"_s)).isSymLink());
+    QCOMPARE(files.bytes(u"elsewhere/real.json"_s), "new"_ba);
+}
+
+void AtomicFileTest::replaceFile_writesThroughALinkToNothing()
+{
+    const Files files;
+    QVERIFY(QFile::link(files.path(u"real.json"_s), files.path(u"data.json"_s)));
+
+    QVERIFY(replaceFile(files.path(u"data.json"_s), "new"));
+
+    QVERIFY(QFileInfo(files.path(u"data.json"_s)).isSymLink());
+    QCOMPARE(files.bytes(u"real.json"_s), "new"_ba);
+}
+
+void AtomicFileTest::replaceFile_fullDisk_leavesTheOldFile()
+{
+    const SmallDisk disk;
+    if (!disk.isMounted()) {
+        QSKIP("a small file system can be mounted by root only");
+    }
+    const auto path = disk.path(u"data.json"_s);
+    const QByteArray old(10'000, 'o');
+    QVERIFY(replaceFile(path, old));
+
+    QVERIFY(!replaceFile(path, QByteArray(4'000'000, 'x')));
+
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), old);
+    QCOMPARE(QDir(disk.path({})).entryList(QDir::Files | QDir::Hidden),
+             QStringList{u"data.json"_s});
+    QVERIFY(replaceFile(path, "fits again"));
+}
+
+void AtomicFileTest::removeLeftovers_onlyOfItsForm_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("removed");
+
+    QTest::addRow("six letters drawn at random") << u"data.json.kQzPwe"_s << true;
+    QTest::addRow("a small letter among capitals") << u"data.json.QQZpWE"_s << true;
+    QTest::addRow("the file itself") << u"data.json"_s << false;
+    QTest::addRow("a copy that somebody made") << u"data.json.backup"_s << false;
+    QTest::addRow("a copy with a capital") << u"data.json.Backup"_s << false;
+    QTest::addRow("a copy in capitals") << u"data.json.BACKUP"_s << false;
+    QTest::addRow("five letters") << u"data.json.kQzPw"_s << false;
+    QTest::addRow("seven letters") << u"data.json.kQzPwef"_s << false;
+    QTest::addRow("a digit") << u"data.json.kQzPw1"_s << false;
+    QTest::addRow("a letter beyond ASCII") << u"data.json.kQzPwé"_s << false;
+    QTest::addRow("another file's") << u"shortcuts.json.kQzPwe"_s << false;
+    QTest::addRow("something in front") << u"my.data.json.kQzPwe"_s << false;
+    QTest::addRow("another dot") << u"data.json.old.kQzPwe"_s << false;
+}
+
+void AtomicFileTest::removeLeftovers_onlyOfItsForm()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, removed);
+    const Files files;
+    files.put(name, "x");
+
+    removeLeftovers(files.path(u"data.json"_s));
+
+    QCOMPARE(!QFile::exists(files.path(name)), removed);
+}
+
+void AtomicFileTest::removeLeftovers_leavesLinksAndFolders()
+{
+    const Files files;
+    files.put(u"precious"_s, "x");
+    QVERIFY(QFile::link(files.path(u"precious"_s), files.path(u"data.json.kQzPwe"_s)));
+    QVERIFY(QDir().mkpath(files.path(u"data.json.pQzPwe"_s)));
+
+    removeLeftovers(files.path(u"data.json"_s));
+
+    QCOMPARE(files.names().size(), 3);
+}
+
+void AtomicFileTest::removeLeftovers_leavesFilesOfOthers()
+{
+    const Files files;
+    files.put(u"data.json.kQzPwe"_s, "x");
+    if (::chown(QFile::encodeName(files.path(u"data.json.kQzPwe"_s)).constData(), 1, 1) != 0) {
+        QSKIP("a file can be given away by root only");
+    }
+
+    removeLeftovers(files.path(u"data.json"_s));
+
+    QVERIFY(QFile::exists(files.path(u"data.json.kQzPwe"_s)));
+}
+
+void AtomicFileTest::removeLeftovers_behindALink_areBesideTheTarget()
+{
+    const Files files;
+    QVERIFY(QDir().mkpath(files.path(u"elsewhere"_s)));
+    files.put(u"elsewhere/real.json.kQzPwe"_s, "x");
+    QVERIFY(QFile::link(u"elsewhere/real.json"_s, files.path(u"data.json"_s)));
+
+    removeLeftovers(files.path(u"data.json"_s));
+
+    QVERIFY(!QFile::exists(files.path(u"elsewhere/real.json.kQzPwe"_s)));
+}
+
+QTEST_GUILESS_MAIN(AtomicFileTest)
+#include "tst_atomicfile.moc"

@@ -1,0 +1,137 @@
+#include "model/datafolder.h"
+#include "model/store.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using quib::dataFile;
+using quib::dataFolder;
+
+namespace {
+
+/// Environment and current folder of a test, put back when it ends.
+class World {
+public:
+    World()
+    {
+        qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
+        qunsetenv("QUIB_DATA_DIR");
+        QDir::setCurrent(home.path());
+    }
+    ~World()
+    {
+        QDir::setCurrent(m_before);
+        qunsetenv("XDG_DATA_HOME");
+        qunsetenv("QUIB_DATA_DIR");
+    }
+    Q_DISABLE_COPY_MOVE(World)
+
+    QTemporaryDir home;
+
+private:
+    QString m_before = QDir::currentPath();
+};
+
+} // namespace
+
+class DataFolderTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void withoutChoice_isInTheDataHome();
+    void chosenFolder_isMadeWithItsParents();
+    void chosenFolder_leavesTheDataHomeAlone();
+    void chosenFolder_isTakenAsItStands_data();
+    void chosenFolder_isTakenAsItStands();
+    void folder_isMadeAgainWhenAskedFor();
+    void fileInTheWay_isNoReasonToFail();
+    void storesFolder_isTheSame();
+};
+
+void DataFolderTest::withoutChoice_isInTheDataHome()
+{
+    const World world;
+
+    QCOMPARE(dataFolder(), world.home.filePath(u"KorvelQuib"_s));
+    QVERIFY(QDir(world.home.filePath(u"KorvelQuib"_s)).exists());
+    QCOMPARE(dataFile(), world.home.filePath(u"KorvelQuib/data.json"_s));
+}
+
+void DataFolderTest::chosenFolder_isMadeWithItsParents()
+{
+    const World world;
+    const auto path = world.home.filePath(u"a/b ü/c"_s);
+    qputenv("QUIB_DATA_DIR", QFile::encodeName(path));
+
+    QCOMPARE(dataFolder(), path);
+    QVERIFY(QDir(path).exists());
+}
+
+void DataFolderTest::chosenFolder_leavesTheDataHomeAlone()
+{
+    const World world;
+    const QTemporaryDir chosen;
+    qputenv("QUIB_DATA_DIR", QFile::encodeName(chosen.path()));
+
+    dataFolder();
+
+    QVERIFY(QDir(world.home.path()).isEmpty());
+}
+
+void DataFolderTest::chosenFolder_isTakenAsItStands_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("file"); // Below the current folder.
+
+    QTest::addRow("relative") << "some/where"_ba << u"some/where"_s << u"some/where/data.json"_s;
+    QTest::addRow("with a slash behind") << "some/"_ba << u"some/"_s << u"some/data.json"_s;
+    QTest::addRow("a tilde is a name") << "~"_ba << u"~"_s << u"~/data.json"_s;
+    QTest::addRow("a blank is a name") << " "_ba << u" "_s << u" /data.json"_s;
+    QTest::addRow("empty") << ""_ba << u"."_s << u"data.json"_s;
+}
+
+void DataFolderTest::chosenFolder_isTakenAsItStands()
+{
+    QFETCH(QByteArray, value);
+    QFETCH(QString, folder);
+    QFETCH(QString, file);
+    const World world;
+    qputenv("QUIB_DATA_DIR", value);
+
+    QCOMPARE(dataFolder(), folder);
+    QCOMPARE(QDir::cleanPath(QDir().absoluteFilePath(dataFile())), QDir().absoluteFilePath(file));
+    QVERIFY(QDir(dataFolder()).exists());
+}
+
+void DataFolderTest::folder_isMadeAgainWhenAskedFor()
+{
+    const World world;
+    QVERIFY(QDir(dataFolder()).removeRecursively());
+
+    QVERIFY(QDir(dataFolder()).exists());
+}
+
+void DataFolderTest::fileInTheWay_isNoReasonToFail()
+{
+    const World world;
+    const auto path = world.home.filePath(u"KorvelQuib"_s);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+
+    QCOMPARE(dataFolder(), path);
+    QVERIFY(file.exists());
+}
+
+void DataFolderTest::storesFolder_isTheSame()
+{
+    const World world;
+
+    QCOMPARE(quib::Store::folder(), dataFolder());
+}
+
+QTEST_GUILESS_MAIN(DataFolderTest)
+#include "tst_datafolder.moc"

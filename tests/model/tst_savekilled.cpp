@@ -1,0 +1,166 @@
+#include "model/datafile.h"
+#include "model/store.h"
+#include "support/datafolderfortest.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+// A save is killed, or told of an error, at each of its system calls. The program under strace is
+// this test itself, in a life as another program: see main().
+
+namespace {
+
+constexpr auto OldNotes = "old"_L1;
+constexpr auto NewNotes = "new"_L1;
+constexpr auto SaveOnce = "--save-once";
+
+/// Starts on the data folder in the environment, changes the notes and saves.
+int saveOnce()
+{
+    quib::Store store;
+    store.setNotes(NewNotes);
+    store.saveNow();
+    return 0;
+}
+
+/// Notes large enough to need more than one write.
+quib::QuibData oldData()
+{
+    return {.clients = {{.name = QString(200'000, u'x')}}, .notes = OldNotes};
+}
+
+/// The notes in the file, which must be whole; "torn" when it is not.
+QString notesIn(const DataFolderForTest& folder)
+{
+    const auto data = quib::decodeQuibData(folder.bytes());
+    const bool whole = data && data->clients == oldData().clients;
+    return whole ? data->notes : u"torn"_s;
+}
+
+/// Lets strace interfere; false when it cannot trace here.
+bool saveUnderStrace(const QString& injection, const QString& log)
+{
+    QProcess strace;
+    strace.start(u"strace"_s,
+                 {u"-f"_s, u"-qq"_s, u"-o"_s, log, u"-e"_s, u"inject=%1"_s.arg(injection),
+                  QCoreApplication::applicationFilePath(), QString::fromLatin1(SaveOnce)});
+    return strace.waitForFinished() && QFile::exists(log);
+}
+
+} // namespace
+
+class SaveKilledTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void undisturbed_isSaved();
+    void killedAnywhere_neverTearsTheFile_data();
+    void killedAnywhere_neverTearsTheFile();
+    void failingCall_leavesTheOldFile_data();
+    void failingCall_leavesTheOldFile();
+    void nextStart_removesWhatAKilledSaveLeft();
+};
+
+void SaveKilledTest::initTestCase()
+{
+    if (QStandardPaths::findExecutable(u"strace"_s).isEmpty()) {
+        QSKIP("strace is not installed");
+    }
+    const DataFolderForTest folder;
+    folder.put(quib::encodeQuibData(oldData()).value());
+    if (!saveUnderStrace(u"fsync:error=EIO:when=1"_s, folder.path() + u"/log"_s)
+        || notesIn(folder) != OldNotes) {
+        QSKIP("strace may not trace here");
+    }
+}
+
+void SaveKilledTest::undisturbed_isSaved()
+{
+    const DataFolderForTest folder;
+    folder.put(quib::encodeQuibData(oldData()).value());
+
+    QVERIFY(saveUnderStrace(u"rename:error=EIO:when=1000"_s, folder.path() + u"/log"_s));
+
+    QCOMPARE(notesIn(folder), NewNotes);
+}
+
+void SaveKilledTest::killedAnywhere_neverTearsTheFile_data()
+{
+    QTest::addColumn<QString>("call");
+
+    for (const auto* call : {"write", "fsync", "fdatasync", "linkat", "rename", "fchmod"}) {
+        for (int when = 1; when <= 3; ++when) {
+            QTest::addRow("%s %d", call, when)
+                << u"%1:signal=SIGKILL:when=%2"_s.arg(QLatin1StringView(call)).arg(when);
+        }
+    }
+}
+
+void SaveKilledTest::killedAnywhere_neverTearsTheFile()
+{
+    QFETCH(QString, call);
+    const DataFolderForTest folder;
+    folder.put(quib::encodeQuibData(oldData()).value());
+
+    QVERIFY(saveUnderStrace(call, folder.path() + u"/log"_s));
+
+    const auto notes = notesIn(folder);
+    QVERIFY2(notes == OldNotes || notes == NewNotes, qPrintable(notes));
+}
+
+void SaveKilledTest::failingCall_leavesTheOldFile_data()
+{
+    QTest::addColumn<QString>("injection");
+
+    QTest::addRow("disk full") << u"write:error=ENOSPC"_s;
+    QTest::addRow("disk broken") << u"write:error=EIO"_s;
+    QTest::addRow("not synced") << u"fsync:error=EIO:when=1"_s;
+    QTest::addRow("not renamed") << u"rename:error=EACCES"_s;
+}
+
+void SaveKilledTest::failingCall_leavesTheOldFile()
+{
+    QFETCH(QString, injection);
+    const DataFolderForTest folder;
+    folder.put(quib::encodeQuibData(oldData()).value());
+
+    QVERIFY(saveUnderStrace(injection, folder.path() + u"/log"_s));
+
+    QCOMPARE(notesIn(folder), OldNotes);
+}
+
+void SaveKilledTest::nextStart_removesWhatAKilledSaveLeft()
+{
+    const DataFolderForTest folder;
+    folder.put(quib::encodeQuibData(oldData()).value());
+    const QDir dir(folder.path());
+    const auto leftovers = [&] { return dir.entryList({u"data.json.??????"_s}, QDir::Files); };
+    for (int round = 0; round < 5; ++round) {
+        QVERIFY(saveUnderStrace(u"rename:signal=SIGKILL:when=1"_s, folder.path() + u"/log"_s));
+    }
+    const auto left = leftovers().size();
+    if (left == 0) {
+        QSKIP("a killed save leaves nothing behind on this file system");
+    }
+
+    const quib::Store store;
+
+    QVERIFY(leftovers().size() < left); // A name that looks like a word, one in twenty, may stay.
+}
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    if (application.arguments().contains(QLatin1StringView(SaveOnce))) {
+        return saveOnce();
+    }
+    SaveKilledTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_savekilled.moc"

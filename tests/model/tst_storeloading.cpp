@@ -1,0 +1,167 @@
+#include "model/datafile.h"
+#include "support/storefixture.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using quib::Store;
+
+namespace {
+
+/// A store of the next start of the program.
+struct Start {
+    HandClock hands;
+    Store store{{.clock = hands.clock(), .schedule = hands.scheduler()}};
+};
+
+} // namespace
+
+class StoreLoadingTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void firstStart_showsSampleDataAndWritesNothing();
+    void firstChange_writesTheSampleDataToo();
+    void savedData_isLoaded();
+    void unreadableFile_survivesStartAndQuit_data();
+    void unreadableFile_survivesStartAndQuit();
+    void unreadableFile_isReplacedByTheFirstChange();
+    void loading_announcesAndSavesNothing();
+    void folderInTheWay_isNoReasonToFail();
+    void leftovers_areRemovedAtStart();
+    void findApplication_isNotAskedWhenThereIsData();
+};
+
+void StoreLoadingTest::firstStart_showsSampleDataAndWritesNothing()
+{
+    const DataFolderForTest folder;
+
+    Start start;
+    start.hands.advance(1h);
+    start.store.saveNow();
+
+    QCOMPARE(start.store.data().clients.size(), 3);
+    QVERIFY(!QFile::exists(folder.file()));
+}
+
+void StoreLoadingTest::firstChange_writesTheSampleDataToo()
+{
+    const DataFolderForTest folder;
+    Start start;
+
+    start.store.setNotes(u"mine"_s);
+    start.hands.advance(400ms);
+
+    QTRY_VERIFY(QFile::exists(folder.file()));
+    const auto saved = quib::decodeQuibData(folder.bytes());
+    QCOMPARE(saved, std::optional(start.store.data()));
+    QCOMPARE(saved->clients.size(), 3);
+    QCOMPARE(saved->notes, u"mine"_s);
+}
+
+void StoreLoadingTest::savedData_isLoaded()
+{
+    const DataFolderForTest folder;
+    const quib::QuibData data{.clients = {{.id = idOf(1), .name = u"Bloom"_s}}, .notes = u"x"_s};
+    folder.put(quib::encodeQuibData(data).value());
+
+    const Start start;
+
+    QCOMPARE(start.store.data(), data);
+}
+
+void StoreLoadingTest::unreadableFile_survivesStartAndQuit_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+
+    QTest::addRow("empty") << QByteArray();
+    QTest::addRow("an empty object") << "{}"_ba;
+    QTest::addRow("not JSON") << "hello"_ba;
+    QTest::addRow("a megabyte of [") << QByteArray(1 << 20, '[');
+}
+
+void StoreLoadingTest::unreadableFile_survivesStartAndQuit()
+{
+    QFETCH(QByteArray, bytes);
+    const DataFolderForTest folder;
+    folder.put(bytes);
+    const auto modified = QFileInfo(folder.file()).lastModified();
+
+    Start start;
+    start.hands.advance(1h);
+    start.store.saveNow();
+
+    QCOMPARE(start.store.data().clients.size(), 3);
+    QCOMPARE(folder.bytes(), bytes);
+    QCOMPARE(QFileInfo(folder.file()).lastModified(), modified);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+             QStringList{u"data.json"_s});
+}
+
+void StoreLoadingTest::unreadableFile_isReplacedByTheFirstChange()
+{
+    const DataFolderForTest folder;
+    folder.put("{}");
+    Start start;
+
+    start.store.setNotes(u"mine"_s);
+    start.hands.advance(400ms);
+
+    QTRY_VERIFY(folder.bytes() != "{}");
+    QCOMPARE(quib::decodeQuibData(folder.bytes()), std::optional(start.store.data()));
+    QCOMPARE(start.store.data().clients.size(), 3);
+}
+
+void StoreLoadingTest::loading_announcesAndSavesNothing()
+{
+    const DataFolderForTest folder;
+
+    Start start;
+
+    QCOMPARE(start.hands.scheduled, 0);
+}
+
+void StoreLoadingTest::folderInTheWay_isNoReasonToFail()
+{
+    const DataFolderForTest folder;
+    QVERIFY(QDir().mkpath(folder.file()));
+
+    Start start;
+    start.store.setNotes(u"kept in memory"_s);
+    start.store.saveNow();
+
+    QCOMPARE(start.store.notes(), u"kept in memory"_s);
+    QVERIFY(QFileInfo(folder.file()).isDir());
+}
+
+void StoreLoadingTest::leftovers_areRemovedAtStart()
+{
+    const DataFolderForTest folder;
+    QFile leftover(folder.file() + u".kQzPwe"_s);
+    QVERIFY(leftover.open(QIODevice::WriteOnly));
+
+    const Start start;
+
+    QVERIFY(!leftover.exists());
+}
+
+void StoreLoadingTest::findApplication_isNotAskedWhenThereIsData()
+{
+    const DataFolderForTest folder;
+    folder.put(quib::encodeQuibData({}).value());
+    bool asked = false;
+
+    const Store store({.findApplication = [&](const QString&) -> std::optional<QString> {
+        asked = true;
+        return {};
+    }});
+
+    QVERIFY(!asked);
+    QVERIFY(store.data().clients.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(StoreLoadingTest)
+#include "tst_storeloading.moc"

@@ -1,0 +1,109 @@
+#include "model/userlocale.h"
+
+#include <QTest>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+using quib::UserLocale;
+
+namespace {
+
+constexpr std::array Variables{"LC_ALL", "LC_MONETARY", "LC_TIME", "LANG", "LANGUAGE"};
+
+/// "LANG=en_GB LC_TIME=de_DE" as the only such variables, put back when this ends.
+class Environment {
+public:
+    explicit Environment(const QByteArray& assignments)
+    {
+        for (std::size_t row = 0; row < Variables.size(); ++row) {
+            m_before[row] = qgetenv(Variables[row]);
+            qunsetenv(Variables[row]);
+        }
+        for (const auto& assignment : assignments.split(' ')) {
+            const auto equals = assignment.indexOf('=');
+            qputenv(assignment.first(std::max<qsizetype>(equals, 0)).constData(),
+                    assignment.mid(equals + 1));
+        }
+    }
+    ~Environment()
+    {
+        for (std::size_t row = 0; row < Variables.size(); ++row) {
+            qputenv(Variables[row], m_before[row]);
+        }
+    }
+    Q_DISABLE_COPY_MOVE(Environment)
+
+private:
+    std::array<QByteArray, Variables.size()> m_before;
+};
+
+} // namespace
+
+class UserLocaleTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fromEnvironment_data();
+    void fromEnvironment();
+    void timeZone_isTheSystems();
+};
+
+void UserLocaleTest::fromEnvironment_data()
+{
+    QTest::addColumn<QByteArray>("assignments");
+    QTest::addColumn<QByteArray>("money");
+    QTest::addColumn<QByteArray>("dates");
+
+    QTest::addRow("a language for all") << "LANG=en_GB.UTF-8"_ba
+                                        << "en_GB"_ba
+                                        << "en_GB"_ba;
+    QTest::addRow("money of another country") << "LANG=en_GB LC_MONETARY=de_DE.UTF-8@euro"_ba
+                                              << "de_DE"_ba
+                                              << "en_GB"_ba;
+    QTest::addRow("dates of another country") << "LANG=en_GB LC_TIME=th_TH"_ba
+                                              << "en_GB"_ba
+                                              << "th_TH"_ba;
+    QTest::addRow("one over all") << "LC_ALL=fr_FR LC_TIME=th_TH LC_MONETARY=de_DE LANG=en_GB"_ba
+                                  << "fr_FR"_ba
+                                  << "fr_FR"_ba;
+    QTest::addRow("an empty one over all") << "LC_ALL= LC_TIME= LANG=en_GB"_ba
+                                           << "en_GB"_ba
+                                           << "en_GB"_ba;
+    QTest::addRow("C over all") << "LC_ALL=C.UTF-8 LANG=de_DE"_ba
+                                << "en"_ba
+                                << "en"_ba;
+    QTest::addRow("POSIX") << "LANG=POSIX"_ba
+                           << "en"_ba
+                           << "en"_ba;
+    QTest::addRow("nothing chosen") << "LANG="_ba
+                                    << "en"_ba
+                                    << "en"_ba;
+    QTest::addRow("an encoding alone") << "LANG=.UTF-8"_ba
+                                       << "en"_ba
+                                       << "en"_ba;
+    QTest::addRow("languages of messages do not count") << "LANGUAGE=fr:en LANG=en_GB"_ba
+                                                        << "en_GB"_ba
+                                                        << "en_GB"_ba;
+}
+
+void UserLocaleTest::fromEnvironment()
+{
+    QFETCH(QByteArray, assignments);
+    QFETCH(QByteArray, money);
+    QFETCH(QByteArray, dates);
+    const Environment environment(assignments);
+
+    const auto locale = UserLocale::fromEnvironment();
+
+    QCOMPARE(locale.money, money);
+    QCOMPARE(locale.dates, dates);
+}
+
+void UserLocaleTest::timeZone_isTheSystems()
+{
+    QCOMPARE(UserLocale::fromEnvironment().timeZone, QTimeZone::systemTimeZone());
+}
+
+QTEST_GUILESS_MAIN(UserLocaleTest)
+#include "tst_userlocale.moc"
