@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/linux/x11/xserver.h"
+
+#include <QPoint>
+#include <QRect>
+#include <QRegion>
+
+#include <xcb/shape.h>
+
+#include <vector>
+
+namespace quib {
+
+/// Another program on the same X server, with one plain window of its own.
+class OtherProgram {
+public:
+    enum class Placing { ByWindowManager, ByItself };
+
+    explicit OtherProgram(const QRect& geometry, Placing placing = Placing::ByItself);
+
+    xcb_window_t window() const { return m_window; }
+
+    void setProperty(const char* name, xcb_atom_t type, const std::vector<uint32_t>& values) const;
+    /// Asks the window manager for that place.
+    void setPlace(QPoint corner) const;
+    /// Maps the window, and waits for the server, not for a window manager.
+    void show() const;
+    void takeKeyboard() const { focus(m_window); }
+    /// To whatever window is under the pointer.
+    void letKeyboardGo() const { focus(XCB_INPUT_FOCUS_POINTER_ROOT); }
+    /// Closes the window, as a program does that ends.
+    void end();
+
+    /// As window managers do for their shortcuts.
+    void grabKeyboard() const;
+    void ungrabKeyboard() const;
+    void hide() const;
+
+    bool isVisible() const;
+    /// Number of presses that reached the window since last asked.
+    int presses() { return received(XCB_BUTTON_PRESS); }
+    int keys() { return received(XCB_KEY_PRESS); }
+
+private:
+    void focus(xcb_window_t window) const;
+    int received(int kind);
+
+    XcbConnection m_connection;
+    xcb_window_t m_window = XCB_NONE;
+};
+
+/// What the server says, whoever asks.
+xcb_window_t keyboardOwner();
+QRegion shapeOf(xcb_window_t window, xcb_shape_kind_t kind);
+QRect nativeFrame(xcb_window_t window);
+bool hasWindowManager();
+
+/// With the real pointer and keyboard; coordinates are the server's pixels.
+void movePointer(QPoint position);
+void click(QPoint position);
+bool xdotool(const QStringList& arguments);
+
+} // namespace quib
