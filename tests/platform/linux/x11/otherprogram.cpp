@@ -50,6 +50,15 @@ void OtherProgram::setProperty(const char* name, xcb_atom_t type,
     finish(m_connection.get());
 }
 
+void OtherProgram::setAtoms(const char* name, const std::vector<std::string_view>& atoms) const
+{
+    std::vector<uint32_t> values;
+    for (const auto atom : atoms) {
+        values.push_back(atomNamed(m_connection.get(), atom));
+    }
+    setProperty(name, XCB_ATOM_ATOM, values);
+}
+
 void OtherProgram::setPlace(QPoint corner) const
 {
     constexpr uint32_t UserPosition = 1;
@@ -85,6 +94,22 @@ void OtherProgram::ungrabKeyboard() const
     finish(m_connection.get());
 }
 
+void OtherProgram::grabPointer() const
+{
+    const XcbOwned<xcb_grab_pointer_reply_t> reply(xcb_grab_pointer_reply(
+        m_connection.get(),
+        xcb_grab_pointer(m_connection.get(), 0, m_window, XCB_EVENT_MASK_BUTTON_PRESS,
+                         XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC, XCB_NONE, XCB_NONE,
+                         XCB_CURRENT_TIME),
+        nullptr));
+}
+
+void OtherProgram::ungrabPointer() const
+{
+    xcb_ungrab_pointer(m_connection.get(), XCB_CURRENT_TIME);
+    finish(m_connection.get());
+}
+
 void OtherProgram::hide() const
 {
     xcb_unmap_window(m_connection.get(), m_window);
@@ -108,9 +133,18 @@ int OtherProgram::received(int kind)
     finish(m_connection.get());
     int count = 0;
     while (const XcbOwned<xcb_generic_event_t> event{xcb_poll_for_event(m_connection.get())}) {
-        count += eventKind(*event) == kind;
+        if (eventKind(*event) == kind) {
+            ++count;
+            m_lastTime = reinterpret_cast<const xcb_button_press_event_t*>(event.get())->time;
+        }
     }
     return count;
+}
+
+xcb_timestamp_t OtherProgram::timeOfLastPress()
+{
+    presses();
+    return m_lastTime;
 }
 
 xcb_window_t keyboardOwner()
@@ -150,6 +184,18 @@ bool hasWindowManager()
     const XcbOwned<xcb_get_property_reply_t> reply(
         xcb_get_property_reply(asking(), cookie, nullptr));
     return reply && reply->value_len == 1;
+}
+
+void setPointerMapping(std::vector<uint8_t> meanings)
+{
+    const XcbOwned<xcb_get_pointer_mapping_reply_t> known(
+        xcb_get_pointer_mapping_reply(asking(), xcb_get_pointer_mapping(asking()), nullptr));
+    while (meanings.size() < known->map_len) {
+        meanings.push_back(uint8_t(meanings.size() + 1));
+    }
+    const XcbOwned<xcb_set_pointer_mapping_reply_t> reply(xcb_set_pointer_mapping_reply(
+        asking(), xcb_set_pointer_mapping(asking(), uint8_t(meanings.size()), meanings.data()),
+        nullptr));
 }
 
 void movePointer(QPoint position)

@@ -22,6 +22,7 @@ public:
     xcb_window_t window() const { return m_window; }
 
     void setProperty(const char* name, xcb_atom_t type, const std::vector<uint32_t>& values) const;
+    void setAtoms(const char* name, const std::vector<std::string_view>& atoms) const;
     /// Asks the window manager for that place.
     void setPlace(QPoint corner) const;
     /// Maps the window, and waits for the server, not for a window manager.
@@ -35,12 +36,16 @@ public:
     /// As window managers do for their shortcuts.
     void grabKeyboard() const;
     void ungrabKeyboard() const;
+    /// As menus and drags do.
+    void grabPointer() const;
+    void ungrabPointer() const;
     void hide() const;
 
     bool isVisible() const;
     /// Number of presses that reached the window since last asked.
     int presses() { return received(XCB_BUTTON_PRESS); }
     int keys() { return received(XCB_KEY_PRESS); }
+    xcb_timestamp_t timeOfLastPress();
 
 private:
     void focus(xcb_window_t window) const;
@@ -48,6 +53,7 @@ private:
 
     XcbConnection m_connection;
     xcb_window_t m_window = XCB_NONE;
+    xcb_timestamp_t m_lastTime = XCB_CURRENT_TIME;
 };
 
 /// What the server says, whoever asks.
@@ -55,6 +61,9 @@ xcb_window_t keyboardOwner();
 QRegion shapeOf(xcb_window_t window, xcb_shape_kind_t kind);
 QRect nativeFrame(xcb_window_t window);
 bool hasWindowManager();
+
+/// What the buttons 1, 2, ... of the device mean.
+void setPointerMapping(std::vector<uint8_t> meanings);
 
 /// With the real pointer and keyboard; coordinates are the server's pixels.
 void movePointer(QPoint position);
