@@ -2,6 +2,9 @@
 
 #include <QProcess>
 #include <QStringList>
+#include <QTest>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +24,20 @@ void finish(xcb_connection_t* connection)
 {
     const XcbOwned<xcb_get_input_focus_reply_t> reply(
         xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+}
+
+/// What a property of the root window lists.
+std::vector<xcb_window_t> windowsIn(std::string_view property)
+{
+    const auto cookie = xcb_get_property(asking(), 0, rootWindow(asking()),
+                                         atomNamed(asking(), property), XCB_ATOM_WINDOW, 0, 100);
+    const XcbOwned<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(asking(), cookie, nullptr));
+    if (!reply) {
+        return {};
+    }
+    const auto* windows = static_cast<const xcb_window_t*>(xcb_get_property_value(reply.get()));
+    return {windows, windows + reply->value_len};
 }
 
 } // namespace
@@ -73,9 +90,9 @@ void OtherProgram::show() const
     finish(m_connection.get());
 }
 
-void OtherProgram::focus(xcb_window_t window) const
+void OtherProgram::focus(xcb_window_t window, xcb_timestamp_t time) const
 {
-    xcb_set_input_focus(m_connection.get(), XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
+    xcb_set_input_focus(m_connection.get(), XCB_INPUT_FOCUS_PARENT, window, time);
     finish(m_connection.get());
 }
 
@@ -176,14 +193,16 @@ QRect nativeFrame(xcb_window_t window)
     return reply ? QRect(reply->x, reply->y, reply->width, reply->height) : QRect();
 }
 
+bool isManaged(xcb_window_t window)
+{
+    return std::ranges::count(windowsIn("_NET_CLIENT_LIST"), window) > 0;
+}
+
 bool hasWindowManager()
 {
-    const auto cookie
-        = xcb_get_property(asking(), 0, rootWindow(asking()),
-                           atomNamed(asking(), "_NET_SUPPORTING_WM_CHECK"), XCB_ATOM_WINDOW, 0, 1);
-    const XcbOwned<xcb_get_property_reply_t> reply(
-        xcb_get_property_reply(asking(), cookie, nullptr));
-    return reply && reply->value_len == 1;
+    const OtherProgram probe(QRect(0, 0, 10, 10), OtherProgram::Placing::ByWindowManager);
+    probe.show();
+    return QTest::qWaitFor([&probe] { return isManaged(probe.window()); }, 500);
 }
 
 void setPointerMapping(std::vector<uint8_t> meanings)

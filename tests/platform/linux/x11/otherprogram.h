@@ -28,6 +28,8 @@ public:
     /// Maps the window, and waits for the server, not for a window manager.
     void show() const;
     void takeKeyboard() const { focus(m_window); }
+    /// As window managers do for a click, with the click's time.
+    void takeKeyboard(xcb_timestamp_t time) const { focus(m_window, time); }
     /// To whatever window is under the pointer.
     void letKeyboardGo() const { focus(XCB_INPUT_FOCUS_POINTER_ROOT); }
     /// Closes the window, as a program does that ends.
@@ -48,7 +50,7 @@ public:
     xcb_timestamp_t timeOfLastPress();
 
 private:
-    void focus(xcb_window_t window) const;
+    void focus(xcb_window_t window, xcb_timestamp_t time = XCB_CURRENT_TIME) const;
     int received(int kind);
 
     XcbConnection m_connection;
@@ -60,6 +62,9 @@ private:
 xcb_window_t keyboardOwner();
 QRegion shapeOf(xcb_window_t window, xcb_shape_kind_t kind);
 QRect nativeFrame(xcb_window_t window);
+/// True when the window manager has taken the window into its list.
+bool isManaged(xcb_window_t window);
+/// Tried with a window: one that just starts overlooks some.
 bool hasWindowManager();
 
 /// What the buttons 1, 2, ... of the device mean.

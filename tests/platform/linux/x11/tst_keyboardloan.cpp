@@ -36,6 +36,7 @@ private Q_SLOTS:
     void giveBackKeyboard_takenTwice_returnsItToWhoHadItFirst();
     void giveBackKeyboard_notTaken_leavesItAlone();
     void giveBackKeyboard_movedOnMeanwhile_leavesItThere();
+    void giveBackKeyboard_clickMovesItLater_leavesItThere();
     void giveBackKeyboard_clickOfUnknownTime_returnsIt();
     void giveBackKeyboard_lenderHasEnded_freesIt();
     void giveBackKeyboard_lenderIsHidden_freesIt();
@@ -148,6 +149,21 @@ void KeyboardLoanTest::giveBackKeyboard_movedOnMeanwhile_leavesItThere()
     m_host->giveBackKeyboard({});
 
     QCOMPARE(keyboardOwner(), third.window());
+}
+
+void KeyboardLoanTest::giveBackKeyboard_clickMovesItLater_leavesItThere()
+{
+    OtherProgram clicked(QRect(0, 600, 200, 200));
+    clicked.show();
+    m_host->takeKeyboard();
+    click({100, 700});
+    const auto time = clicked.timeOfLastPress();
+
+    m_host->giveBackKeyboard(time);
+    QCOMPARE(keyboardOwner(), m_other->window());
+    clicked.takeKeyboard(time);
+
+    QCOMPARE(keyboardOwner(), clicked.window());
 }
 
 void KeyboardLoanTest::giveBackKeyboard_clickOfUnknownTime_returnsIt()
