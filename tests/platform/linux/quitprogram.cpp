@@ -1,4 +1,5 @@
 #include "platform/linux/quitsignals.h"
+#include "platform/linux/x11/xcbpointersource.h"
 
 #include <QGuiApplication>
 #include <QTextStream>
@@ -9,9 +10,13 @@ int main(int argc, char* argv[])
 {
     const QGuiApplication application(argc, argv);
     QTextStream out(stdout);
-    const quib::QuitSignals signals_;
-    QObject::connect(&application, &QCoreApplication::aboutToQuit,
-                     [&out] { out << "about to quit" << Qt::endl; });
+    const quib::QuitSignals quitSignals;
+    const quib::XcbPointerSource pointer;
+    const auto position = pointer.state().position;
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application, [&] {
+        const auto isLost = pointer.state().position != position; // Also when the server is gone.
+        out << (isLost ? "pointer lost" : "about to quit") << Qt::endl;
+    });
     QWindow window;
     window.show();
     out << "running" << Qt::endl;

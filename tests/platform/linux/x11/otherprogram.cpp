@@ -205,6 +205,17 @@ bool hasWindowManager()
     return QTest::qWaitFor([&probe] { return isManaged(probe.window()); }, 500);
 }
 
+void addMonitor(const QString& name, int x, const QString& output)
+{
+    QProcess::execute(u"xrandr"_s,
+                      {u"--setmonitor"_s, name, u"800/200x900/200+%1+0"_s.arg(x), output});
+}
+
+void removeMonitor(const QString& name)
+{
+    QProcess::execute(u"xrandr"_s, {u"--delmonitor"_s, name});
+}
+
 void setPointerMapping(std::vector<uint8_t> meanings)
 {
     const XcbOwned<xcb_get_pointer_mapping_reply_t> known(

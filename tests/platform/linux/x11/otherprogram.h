@@ -67,6 +67,11 @@ bool isManaged(xcb_window_t window);
 /// Tried with a window: one that just starts overlooks some.
 bool hasWindowManager();
 
+/// A monitor of 800 x 900 pixels. The first one takes the X screen's `output`, "screen"; the others
+/// have none.
+void addMonitor(const QString& name, int x, const QString& output);
+void removeMonitor(const QString& name);
+
 /// What the buttons 1, 2, ... of the device mean.
 void setPointerMapping(std::vector<uint8_t> meanings);
 

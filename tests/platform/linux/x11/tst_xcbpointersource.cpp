@@ -17,6 +17,7 @@ private Q_SLOTS:
     void cleanup();
     void state_position_data();
     void state_position();
+    void state_position_onASecondScreen();
     void state_leftHeld_whileTheLeftButtonIsDown();
     void state_leftHeld_notForOtherButtons();
     void state_leftHeld_whileAnotherProgramHasThePointer();
@@ -66,6 +67,22 @@ void XcbPointerSourceTest::state_position()
     movePointer(native);
 
     QCOMPARE(m_pointer.state().position, QPointF(native) / scale);
+}
+
+void XcbPointerSourceTest::state_position_onASecondScreen()
+{
+    const auto scale = qGuiApp->primaryScreen()->devicePixelRatio();
+    addMonitor(u"L"_s, 0, u"screen"_s);
+    addMonitor(u"R"_s, 800, u"none"_s);
+    QTRY_COMPARE(QGuiApplication::screens().size(), 2);
+    movePointer({1100, 30});
+
+    const auto position = m_pointer.state().position;
+
+    removeMonitor(u"L"_s);
+    removeMonitor(u"R"_s);
+    QTRY_COMPARE(QGuiApplication::screens().size(), 1);
+    QCOMPARE(position, QPointF(800 + 300 / scale, 30 / scale)); // As Qt places its windows there.
 }
 
 void XcbPointerSourceTest::state_leftHeld_whileTheLeftButtonIsDown()

@@ -12,12 +12,6 @@ using namespace quib;
 
 namespace {
 
-void addMonitor(const QString& name, int x, const QString& output)
-{
-    QProcess::execute(u"xrandr"_s,
-                      {u"--setmonitor"_s, name, u"800/200x900/200+%1+0"_s.arg(x), output});
-}
-
 /// A dock at the top of part of the X screen.
 std::unique_ptr<OtherProgram> dockAt(const QRect& place)
 {
@@ -65,7 +59,7 @@ void XcbScreenSourceTest::initTestCase()
 void XcbScreenSourceTest::cleanup()
 {
     for (const auto& name : {u"L"_s, u"R"_s}) {
-        QProcess::execute(u"xrandr"_s, {u"--delmonitor"_s, name});
+        removeMonitor(name);
     }
     QTRY_COMPARE(m_source->screens().size(), 1);
     QTRY_COMPARE(visibleTop(0), 0);
