@@ -29,11 +29,10 @@ bool focus(xcb_window_t window, xcb_timestamp_t time)
 void KeyboardLoan::take(xcb_window_t window)
 {
     const auto lender = focusedWindow();
-    if (lender == window) {
-        return;
+    // Now, not when Qt last heard of anything: another program may have had the focus since.
+    if (lender != window && focus(window, XCB_CURRENT_TIME)) {
+        m_lender = lender;
     }
-    m_lender = lender;
-    focus(window, XCB_CURRENT_TIME);
 }
 
 void KeyboardLoan::giveBack(xcb_window_t window, std::optional<quint32> click)

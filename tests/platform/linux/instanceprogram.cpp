@@ -1,0 +1,20 @@
+#include "platform/linux/linuxinstance.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+/// A program that keeps to one instance for the folder of its argument, and tells what happens.
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    QTextStream out(stdout);
+    quib::LinuxInstance instance;
+    QObject::connect(&instance, &quib::SingleInstance::activated,
+                     [&out] { out << "activated" << Qt::endl; });
+    if (!instance.claim(QCoreApplication::arguments().at(1))) {
+        out << "refused" << Qt::endl;
+        return 0;
+    }
+    out << "alone" << Qt::endl;
+    return QCoreApplication::exec();
+}
