@@ -51,7 +51,7 @@ QPainterPath hexagonGrid(int pixels, double line)
     const double radius = (pitch - gap) / 2.0;
     QPainterPath path;
     for (const auto& place : hexagonPlaces(pixels, pitch)) {
-        path.addPath(ring(place, radius, std::clamp(line, 1.0, std::max(1.0, radius * 0.6))));
+        path.addPath(ring(place, radius, std::max(1.0, line * 0.7)));
     }
     return path;
 }
@@ -81,6 +81,57 @@ QPainterPath waveform(int pixels, double line)
         const double tall = pixels - 2 * std::round(pixels * (1 - height) / 2);
         const QRectF box(left + i * pitch, (pixels - tall) / 2, bar, tall);
         path.addRoundedRect(box, bar / 2.0, bar / 2.0);
+    }
+    return path;
+}
+
+/// A half-round shape on its flat side, as a line along its edge.
+QPainterPath dome(const QRectF& box, double line)
+{
+    const auto solid = [](const QRectF& rect) {
+        const double radius = std::min(rect.width() / 2, rect.height());
+        QPainterPath path;
+        path.addRoundedRect(rect.adjusted(0, 0, 0, rect.height()), radius, radius);
+        QPainterPath upper;
+        upper.addRect(rect);
+        return path.intersected(upper);
+    };
+    return solid(box).subtracted(solid(box.adjusted(line, line, -line, -line)));
+}
+
+/// Two heads and shoulders, the left one behind the other. At larger sizes the icon is as clear.
+QPainterPath twoPersons(int pixels, double line)
+{
+    if (pixels > 17) {
+        return {};
+    }
+    const double pen = std::max(1.0, std::round(line));
+    const auto at = [pixels](double twelfths) { return std::round(twelfths * pixels / 12); };
+    const double head = at(4);
+    const QRectF shoulders(at(4), at(6), pixels - at(4), at(11) - at(6));
+    QPainterPath behind = dome(shoulders.translated(-at(4), 0), pen);
+    QPainterPath hidden;
+    hidden.addRect(shoulders.adjusted(-pen, -pen, 0, pen));
+    QPainterPath path = behind.subtracted(hidden);
+    path.addPath(dome(shoulders, pen));
+    path.addPath(ring({at(6) + head / 2, at(1) + head / 2}, head / 2, pen));
+    path.addPath(ring({at(6) - pen - head / 2, at(1) + head / 2}, head / 2, pen));
+    return path;
+}
+
+/// A page with three lines of a pixel each. Smaller there is no room, larger no need.
+QPainterPath noteText(int pixels, double /*line*/)
+{
+    if (pixels < 11 || pixels > 15) {
+        return {};
+    }
+    constexpr int Height = 10;
+    const int top = (pixels - Height) / 2;
+    QPainterPath path;
+    path.addRoundedRect(QRectF(0, top, pixels, Height), 2, 2);
+    path.addRoundedRect(QRectF(1, top + 1, pixels - 2, Height - 2), 1, 1);
+    for (const int line : {3, 5, 7}) {
+        path.addRect(QRectF(3, top + line, pixels - (line == 7 ? 8 : 6), 1));
     }
     return path;
 }
@@ -115,6 +166,8 @@ PixelDrawing pixelDrawing(const QString& name)
     static const QHash<QString, PixelDrawing> drawings{
         {u"circle.hexagongrid"_s, hexagonGrid},
         {u"circle.hexagongrid.fill"_s, filledHexagonGrid},
+        {u"note.text"_s, noteText},
+        {u"person.2"_s, twoPersons},
         {u"waveform"_s, waveform},
     };
     return drawings.value(name, nullptr);

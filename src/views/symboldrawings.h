@@ -7,8 +7,8 @@
 
 namespace quib {
 
-/// An outline made for so many device pixels to its side, its lines that many pixels thick. What
-/// is small lies on whole pixels.
+/// An outline made for so many device pixels to its side, its lines that many pixels thick, its
+/// edges on whole pixels. Empty at sizes at which the symbol needs no drawing of its own.
 using PixelDrawing = QPainterPath (*)(int pixels, double line);
 
 /// Symbols of several small parts, which scaling would smear: drawn for each size.

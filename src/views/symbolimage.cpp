@@ -25,6 +25,12 @@ double penFor(int weight)
     return weight >= 500 ? 0.02 : 0;
 }
 
+QPainterPath drawnFor(const SymbolShape& shape, const SymbolLook& look, int pixels)
+{
+    return shape.drawing ? shape.drawing(pixels, (RegularLine + penFor(look.weight)) * pixels)
+                         : QPainterPath();
+}
+
 /// The pen grows outwards too: shrunk by its width, the shape keeps its outer size.
 void paintOutline(QPainter& painter, const SymbolShape& shape, const SymbolLook& look, double side)
 {
@@ -56,10 +62,11 @@ QImage symbolImage(const SymbolLook& look, double pixelsPerPoint)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::white);
-    if (shape->drawing) {
-        painter.drawPath(shape->drawing(pixels, (RegularLine + penFor(look.weight)) * side));
-    } else {
+    const auto drawn = drawnFor(*shape, look, pixels);
+    if (drawn.isEmpty()) {
         paintOutline(painter, *shape, look, side);
+    } else {
+        painter.drawPath(drawn);
     }
     // Tinted last: where fill and pen overlap, a colour that is not opaque would show it.
     painter.resetTransform();

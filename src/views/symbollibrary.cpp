@@ -79,18 +79,27 @@ QStringList iconsFor(const QString& name)
     return icons;
 }
 
+std::optional<SymbolShape> drawnShape(PixelDrawing drawing)
+{
+    const auto large = drawing ? drawing(1000, 62.5) : QPainterPath();
+    return large.isEmpty()
+        ? std::nullopt
+        : std::optional(SymbolShape{.path = QTransform::fromScale(0.001, 0.001).map(large)});
+}
+
 std::optional<SymbolShape> simpleShape(const QString& name)
 {
-    if (const auto drawing = pixelDrawing(name)) {
-        const auto unit = QTransform::fromScale(0.001, 0.001);
-        return SymbolShape{.path = unit.map(drawing(1000, 62.5)), .drawing = drawing};
-    }
+    const auto drawing = pixelDrawing(name);
+    auto shape = drawnShape(drawing);
     for (const auto& icon : iconsFor(name)) {
-        if (const auto shape = iconShape(icon)) {
-            return shape;
+        if (!shape) {
+            shape = iconShape(icon);
         }
     }
-    return std::nullopt;
+    if (shape) {
+        shape->drawing = drawing;
+    }
+    return shape;
 }
 
 std::optional<QPainterPath> basePath(const QString& name, QLatin1StringView suffix)

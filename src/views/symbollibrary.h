@@ -14,7 +14,7 @@ struct SymbolShape {
     QPainterPath path; ///< In a unit square, y downwards.
     bool isFilled = false; ///< Takes no pen: it would close the cut-outs.
     double scale = 1; ///< Makes up for a drawing that is small within its square.
-    PixelDrawing drawing = nullptr; ///< Stands in for the path where there is one.
+    PixelDrawing drawing = nullptr; ///< Goes before the path at sizes it is made for.
 };
 
 /// The shape of a symbol name such as "person.2.fill": by our table, else an icon of that name with
