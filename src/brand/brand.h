@@ -20,6 +20,7 @@ class Brand : public QObject {
     Q_PROPERTY(QColor muted2 READ muted2 CONSTANT)
     Q_PROPERTY(QColor card READ card CONSTANT)
     Q_PROPERTY(QColor cardStroke READ cardStroke CONSTANT)
+    Q_PROPERTY(QColor popup READ popup CONSTANT)
 
 public:
     static QColor purple() { return {139, 92, 246}; }
@@ -30,6 +31,8 @@ public:
     static QColor muted2() { return {122, 117, 136}; }
     static QColor card() { return QColor::fromRgbF(1, 1, 1, 0.055F); }
     static QColor cardStroke() { return QColor::fromRgbF(1, 1, 1, 0.07F); }
+    /// What lies over the card and its texts, and so lets nothing through.
+    static QColor popup() { return {30, 27, 38}; }
 
     /// The colour of a client's status, given its raw text; muted2 for any other text.
     Q_INVOKABLE static QColor color(const QString& status);

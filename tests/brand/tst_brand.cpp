@@ -1,0 +1,121 @@
+#include "brand/brand.h"
+
+#include <QTest>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+using quib::Brand;
+
+class BrandTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void opaqueColours_areByteValues_data();
+    void opaqueColours_areByteValues();
+    void surfaces_areTranslucentWhite();
+    void purple_isTheFractionOfItsBytes();
+    void color_ofAStatus_data();
+    void color_ofAStatus();
+    void color_ofNoStatus_isTheDarkerGrey_data();
+    void color_ofNoStatus_isTheDarkerGrey();
+    void white_takesItsOpacity();
+};
+
+namespace {
+
+/// Colours keep 16 bits for each part.
+bool isNear(float part, double wanted)
+{
+    return std::abs(part - wanted) < 1.0 / 65535;
+}
+
+} // namespace
+
+void BrandTest::opaqueColours_areByteValues_data()
+{
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<QString>("hex");
+
+    QTest::addRow("purple") << Brand::purple() << u"#8b5cf6"_s;
+    QTest::addRow("glow") << Brand::glow() << u"#a78bfa"_s;
+    QTest::addRow("deep") << Brand::deep() << u"#5b21b6"_s;
+    QTest::addRow("live") << Brand::live() << u"#10b981"_s;
+    QTest::addRow("muted") << Brand::muted() << u"#a8a4b8"_s;
+    QTest::addRow("muted2") << Brand::muted2() << u"#7a7588"_s;
+}
+
+void BrandTest::opaqueColours_areByteValues()
+{
+    QFETCH(QColor, color);
+    QFETCH(QString, hex);
+
+    QCOMPARE(color.name(), hex);
+    QCOMPARE(color.alphaF(), 1.0F);
+}
+
+void BrandTest::surfaces_areTranslucentWhite()
+{
+    QCOMPARE(Brand::card().name(), u"#ffffff"_s);
+    QVERIFY(isNear(Brand::card().alphaF(), 0.055));
+    QCOMPARE(Brand::cardStroke().name(), u"#ffffff"_s);
+    QVERIFY(isNear(Brand::cardStroke().alphaF(), 0.07));
+}
+
+void BrandTest::purple_isTheFractionOfItsBytes()
+{
+    QVERIFY(isNear(Brand::purple().redF(), 0.5450980392156862));
+    QVERIFY(isNear(Brand::purple().greenF(), 0.3607843137254902));
+    QVERIFY(isNear(Brand::purple().blueF(), 0.9647058823529412));
+}
+
+void BrandTest::color_ofAStatus_data()
+{
+    QTest::addColumn<QString>("status");
+    QTest::addColumn<QList<double>>("parts");
+
+    QTest::addRow("amber") << u"lead"_s << QList<double>{0.98, 0.75, 0.30};
+    QTest::addRow("pink") << u"design"_s << QList<double>{0.95, 0.45, 0.75};
+    QTest::addRow("purple") << u"build"_s << QList<double>{139 / 255.0, 92 / 255.0, 246 / 255.0};
+    QTest::addRow("blue") << u"review"_s << QList<double>{0.35, 0.65, 1.0};
+    QTest::addRow("green") << u"live"_s << QList<double>{16 / 255.0, 185 / 255.0, 129 / 255.0};
+    QTest::addRow("grey") << u"care"_s << QList<double>{168 / 255.0, 164 / 255.0, 184 / 255.0};
+}
+
+void BrandTest::color_ofAStatus()
+{
+    QFETCH(QString, status);
+    QFETCH(QList<double>, parts);
+
+    const auto color = Brand::color(status);
+
+    QVERIFY(isNear(color.redF(), parts[0]));
+    QVERIFY(isNear(color.greenF(), parts[1]));
+    QVERIFY(isNear(color.blueF(), parts[2]));
+    QCOMPARE(color.alphaF(), 1.0F);
+}
+
+void BrandTest::color_ofNoStatus_isTheDarkerGrey_data()
+{
+    QTest::addColumn<QString>("status");
+
+    QTest::addRow("empty") << QString();
+    QTest::addRow("another word") << u"gone"_s;
+    QTest::addRow("capitals") << u"Build"_s;
+}
+
+void BrandTest::color_ofNoStatus_isTheDarkerGrey()
+{
+    QFETCH(QString, status);
+
+    QCOMPARE(Brand::color(status), Brand::muted2());
+}
+
+void BrandTest::white_takesItsOpacity()
+{
+    QCOMPARE(Brand::white(0.12).name(), u"#ffffff"_s);
+    QVERIFY(isNear(Brand::white(0.12).alphaF(), 0.12));
+}
+
+QTEST_GUILESS_MAIN(BrandTest)
+#include "tst_brand.moc"
