@@ -77,7 +77,8 @@ QPainterPath waveform(int pixels, double line)
     const int left = (pixels - ((count - 1) * pitch + bar)) / 2;
     QPainterPath path;
     for (int i = 0; i < count; ++i) {
-        const auto height = Heights.at(static_cast<std::size_t>(i + (7 - count) / 2));
+        const int which = i + (7 - count) / 2;
+        const auto height = Heights.at(static_cast<std::size_t>(which));
         const double tall = pixels - 2 * std::round(pixels * (1 - height) / 2);
         const QRectF box(left + i * pitch, (pixels - tall) / 2, bar, tall);
         path.addRoundedRect(box, bar / 2.0, bar / 2.0);

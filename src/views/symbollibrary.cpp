@@ -132,7 +132,7 @@ std::optional<SymbolShape> composedShape(const QString& name)
     if (const auto base = basePath(name, ".badge"_L1)) {
         return SymbolShape{.path = withBadge(*base)};
     }
-    if (const auto circle = framedShape(name, ".circle"_L1, Frame::Circle)) {
+    if (auto circle = framedShape(name, ".circle"_L1, Frame::Circle)) {
         return circle;
     }
     return framedShape(name, ".square"_L1, Frame::Square);
