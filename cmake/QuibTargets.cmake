@@ -28,6 +28,10 @@ function(quib_library name)
         endforeach()
         qt_add_qml_module(quib_${name} URI ${arg_QML_URI} VERSION 1.0 RESOURCE_PREFIX /qt/qml
             DEPENDENCIES QtQuick QtQml.Models QML_FILES ${arg_QML_FILES})
+        get_target_property(generated quib_${name} SOURCES)
+        list(FILTER generated INCLUDE REGEX "/qmlcache/")
+        set_source_files_properties(${generated} PROPERTIES COMPILE_OPTIONS
+            -Wno-conversion) # Qt 6.4 turns the length of a text or list into an int
     else()
         qt_extract_metatypes(quib_${name}) # so that QML tools know the types of this library
         target_compile_options(quib_${name} PRIVATE -Wshadow) # Qt 6.4's generated QML code shadows
