@@ -3,26 +3,36 @@ import QtQuick
 import Quib.Brand
 import Quib.Views
 
+/*!
+    One choice of a row of them, as a capsule.
+*/
 PlainButton {
     id: root
 
     property string title
-    property bool selected
+    property bool selected: false
 
+    implicitWidth: Math.min(160, implicitContentWidth + leftPadding + rightPadding)
     horizontalPadding: 9
     verticalPadding: 3
     Accessible.name: root.title
+    Accessible.checkable: true
+    Accessible.checked: root.selected
 
     background: ContinuousRectangle {
+        objectName: "capsule"
         radius: height / 2
-        color: root.selected ? Brand.purple : Brand.white(0.06)
-        opacity: root.selected ? 0.6 : 1
+        color: root.selected ? Brand.purple : "white"
+        opacity: root.selected ? 0.6 : 0.06
     }
 
     contentItem: QuibText {
+        objectName: "title"
         text: root.title
         size: 10.5
         weight: Font.Medium
         color: root.selected ? "white" : Brand.muted
+        elide: Text.ElideRight
+        Accessible.ignored: true
     }
 }

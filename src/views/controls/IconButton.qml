@@ -16,6 +16,7 @@ PlainButton {
 
     padding: 7
     Accessible.name: root.help
+    Accessible.description: ""
 
     background: ContinuousRectangle {
         objectName: "circle"

@@ -1,17 +1,21 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Templates as T
 
 import Quib.Views
 
 /*!
-    A button that draws nothing of its own but a ring when the keyboard has come to it. A click leaves
-    the focus where it is, so that a half-typed field goes on.
+    A button that draws nothing of its own but a ring when the keyboard has come to it, and its help
+    as a tooltip. A click leaves the focus where it is, so that a half-typed field goes on.
 */
 T.AbstractButton {
     id: root
 
     property string help
     property real ringRadius: height / 2
+
+    property QuibToolTip toolTip: null
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
@@ -21,11 +25,32 @@ T.AbstractButton {
     Accessible.role: Accessible.Button
     Accessible.description: root.help
 
+    onHoveredChanged: root.prepareToolTip()
+    onVisualFocusChanged: root.prepareToolTip()
+
+    Accessible.onPressAction: root.clicked()
+
     Keys.onReturnPressed: root.clicked()
     Keys.onEnterPressed: root.clicked()
+
+    // Most buttons never meet the pointer.
+    function prepareToolTip() {
+        if (root.help !== "" && !root.toolTip) {
+            root.toolTip = explanation.createObject(root);
+        }
+    }
 
     FocusRing {
         visible: root.visualFocus
         radius: root.ringRadius
+    }
+
+    Component {
+        id: explanation
+
+        QuibToolTip {
+            text: root.help
+            visible: text !== "" && root.visible && !root.down && (root.hovered || root.visualFocus)
+        }
     }
 }

@@ -56,7 +56,12 @@ FocusScope {
         width: root.width - 18
         height: root.height
         clip: true
-        containmentMask: root
+        containmentMask: Item {
+            parent: opening
+            x: -9
+            width: root.width
+            height: root.height
+        }
 
         TextInput {
             id: input
@@ -77,6 +82,13 @@ FocusScope {
             font.hintingPreference: Font.PreferNoHinting
             Accessible.role: Accessible.EditableText
             Accessible.name: root.placeholder
+
+            containmentMask: Item {
+                parent: input
+                x: -18
+                width: root.width * 2
+                height: root.height * 2
+            }
 
             cursorDelegate: FieldCursor {
                 isShown: input.cursorVisible

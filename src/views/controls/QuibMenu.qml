@@ -1,5 +1,68 @@
 import QtQuick
+import QtQuick.Templates as T
 
-Item {
-    function open() { }
+import Quib.Brand
+import Quib.Views
+
+/*!
+    A menu below what opens it, its parent, inside the window. The model has the roles title, checked
+    and separator, or is an array of objects with such members; what is left out is empty or false.
+*/
+T.Popup {
+    id: root
+
+    property var model
+    property int startIndex: -1 // Highlighted and in sight when the menu opens.
+
+    property Item focusedBefore: null
+
+    readonly property Connections opener: Connections {
+        target: root.parent
+
+        function onVisibleChanged() {
+            root.close();
+        }
+    }
+
+    signal activated(int index)
+
+    y: parent.height + 4
+    width: Math.max(200, parent.width)
+    implicitHeight: Math.min(240, implicitContentHeight + topPadding + bottomPadding)
+    padding: 4
+    topMargin: 4
+    leftMargin: PopupRoom.left
+    rightMargin: PopupRoom.right
+    bottomMargin: PopupRoom.bottom
+    focus: true
+    modal: true
+    dim: false
+
+    background: ContinuousRectangle {
+        radius: 10
+        color: Brand.popup
+        strokeColor: Brand.white(0.12)
+    }
+
+    contentItem: MenuList {
+        focus: true
+        model: root.model
+        Accessible.role: Accessible.PopupMenu
+
+        onActivated: index => root.choose(index)
+    }
+
+    onAboutToShow: root.begin()
+    onClosed: root.focusedBefore?.forceActiveFocus()
+
+    function begin() {
+        root.focusedBefore = root.parent.Window.activeFocusItem;
+        (root.contentItem as MenuList).begin(root.startIndex);
+    }
+
+    // Closed first: what is chosen may open something of its own.
+    function choose(index) {
+        root.close();
+        root.activated(index);
+    }
 }

@@ -1,0 +1,76 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Quib.Views
+
+/*!
+    The entries of a menu, one of them highlighted by the pointer or the keyboard.
+*/
+ListView {
+    id: root
+
+    signal activated(int index)
+
+    implicitHeight: contentHeight
+    boundsBehavior: Flickable.StopAtBounds
+    clip: true
+    currentIndex: -1
+    highlightFollowsCurrentItem: false
+    interactive: contentHeight > height
+    keyNavigationEnabled: false
+
+    delegate: MenuRow {
+        required property int index
+        required property var model
+
+        readonly property var entry: model.modelData ?? model
+
+        width: root.width
+        title: entry.title ?? ""
+        checked: entry.checked ?? false
+        isSeparator: entry.separator ?? false
+        isHighlighted: root.currentIndex === index
+
+        onHoveredChanged: root.currentIndex = hovered ? index : -1
+        onClicked: root.activated(index)
+    }
+
+    Keys.onUpPressed: root.highlight(root.currentIndex < 0 ? root.count - 1 : root.currentIndex - 1, -1)
+    Keys.onDownPressed: root.highlight(root.currentIndex + 1, 1)
+    Keys.onReturnPressed: root.activateCurrent()
+    Keys.onEnterPressed: root.activateCurrent()
+    Keys.onSpacePressed: root.activateCurrent()
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
+        if (event.accepted) {
+            root.highlight(event.key === Qt.Key_Home ? 0 : root.count - 1, event.key === Qt.Key_Home ? 1 : -1);
+        }
+    }
+
+    function begin(index) {
+        root.currentIndex = index;
+        root.positionViewAtIndex(index, ListView.Center);
+    }
+
+    // The entry there, or the next in that direction that can be chosen.
+    function highlight(index, direction) {
+        const before = root.currentIndex;
+        root.currentIndex = index;
+        while (root.currentItem && !root.currentItem.enabled) {
+            root.currentIndex += direction;
+        }
+        root.currentIndex = root.currentItem ? root.currentIndex : before;
+        root.positionViewAtIndex(root.currentIndex, ListView.Contain);
+    }
+
+    function activateCurrent() {
+        if (root.currentIndex >= 0) {
+            root.activated(root.currentIndex);
+        }
+    }
+
+    ScrollThumb {
+        flickable: root
+    }
+}

@@ -1,0 +1,64 @@
+import QtQuick
+import QtQuick.Templates as T
+
+import Quib.Brand
+import Quib.Views
+
+/*!
+    One entry of a menu, or the line between two groups of them.
+*/
+T.MenuItem {
+    id: root
+
+    required property string title
+    required property bool isSeparator
+    required property bool isHighlighted
+
+    implicitHeight: root.isSeparator ? 9 : 24
+    leftPadding: 8
+    rightPadding: 8
+    enabled: !root.isSeparator
+    focusPolicy: Qt.NoFocus
+    hoverEnabled: true
+    Accessible.ignored: root.isSeparator
+    Accessible.name: root.title
+    Accessible.checkable: root.checked
+    Accessible.checked: root.checked
+
+    Accessible.onPressAction: root.clicked()
+
+    background: ContinuousRectangle {
+        radius: 6
+        color: root.isHighlighted ? Brand.purple : "transparent"
+        opacity: 0.6
+    }
+
+    contentItem: Item {
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            name: root.checked ? "checkmark" : ""
+            size: 9
+            weight: Font.Bold
+        }
+
+        QuibText {
+            objectName: "title"
+            anchors.verticalCenter: parent.verticalCenter
+            x: 15
+            width: parent.width - 15
+            visible: !root.isSeparator
+            text: root.title
+            size: 12
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+
+        Rectangle {
+            anchors.verticalCenter: parent.verticalCenter
+            width: parent.width
+            height: 1
+            visible: root.isSeparator
+            color: Brand.white(0.12)
+        }
+    }
+}
