@@ -1,0 +1,98 @@
+import QtQuick
+import QtTest
+
+import Quib.Brand
+import Quib.Views
+
+TestCase {
+    id: testCase
+
+    name: "PillButton"
+    width: 200
+    height: 100
+    visible: true
+    when: windowShown
+
+    Component {
+        id: button
+
+        PillButton { title: "Start" }
+    }
+
+    SignalSpy {
+        id: clicks
+
+        signalName: "clicked"
+    }
+
+    function init() {
+        mouseMove(testCase, 190, 90);
+    }
+
+    function test_paddingSurroundsTheTitle() {
+        const pill = createTemporaryObject(button, testCase);
+        const title = findChild(pill, "title");
+        compare(pill.implicitWidth, title.implicitWidth + 20);
+        compare(pill.implicitHeight, title.implicitHeight + 10);
+    }
+
+    function test_symbolStandsFivePointsBeforeTheTitle() {
+        const bare = createTemporaryObject(button, testCase);
+        const marked = createTemporaryObject(button, testCase, { symbol: "plus" });
+        compare(marked.implicitWidth, bare.implicitWidth + 10 + 5);
+        compare(findChild(marked, "symbol").x, 0);
+        compare(findChild(marked, "title").x, 15);
+    }
+
+    function test_symbolAndTitleAreCentredOnEachOther() {
+        const marked = createTemporaryObject(button, testCase, { symbol: "plus" });
+        const symbol = findChild(marked, "symbol");
+        const title = findChild(marked, "title");
+        fuzzyCompare(symbol.y + symbol.height / 2, title.y + title.height / 2, 0.5);
+    }
+
+    function test_symbolIsBoldAndTenPoints() {
+        const symbol = findChild(createTemporaryObject(button, testCase, { symbol: "plus" }), "symbol");
+        compare(symbol.size, 10);
+        compare(symbol.weight, Font.Bold);
+        compare(symbol.color, "#ffffff");
+    }
+
+    function test_titleIsSemiboldAndElevenPoints() {
+        const title = findChild(createTemporaryObject(button, testCase), "title");
+        compare(title.size, 11);
+        compare(title.weight, Font.DemiBold);
+        compare(title.color, "#ffffff");
+    }
+
+    function test_withoutASymbolThereIsOnlyTheTitle() {
+        const pill = createTemporaryObject(button, testCase);
+        verify(!findChild(pill, "symbol").visible);
+        compare(findChild(pill, "title").x, 0);
+        compare(pill.leftPadding, 10);
+    }
+
+    function test_capsuleHasRoundEndsAndTheFill() {
+        const pill = createTemporaryObject(button, testCase, { fill: Brand.live });
+        const capsule = findChild(pill, "capsule");
+        compare(capsule.color, Brand.live);
+        compare(capsule.radius, pill.height / 2);
+        compare(capsule.width, pill.width);
+    }
+
+    function test_lightsUpUnderThePointerAtOnce() {
+        const pill = createTemporaryObject(button, testCase);
+        const capsule = findChild(pill, "capsule");
+        compare(capsule.opacity, 0.85);
+        mouseMove(pill);
+        compare(capsule.opacity, 1.0);
+        mouseMove(testCase, 190, 90);
+        compare(capsule.opacity, 0.85);
+    }
+
+    function test_saysThatItWasClicked() {
+        clicks.target = createTemporaryObject(button, testCase);
+        mouseClick(clicks.target);
+        compare(clicks.count, 1);
+    }
+}

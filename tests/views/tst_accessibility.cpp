@@ -1,0 +1,184 @@
+#include <QAccessible>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// What somebody is told who does not see the panel.
+class AccessibilityTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void control_saysWhatItIs_data();
+    void control_saysWhatItIs();
+    void partOfAButton_saysNothingOfItsOwn();
+    void button_canBePressed_data();
+    void button_canBePressed();
+    void chip_saysWhetherItIsSelected();
+    void field_givesItsText();
+    void help_describesWhatIsNotNamedByIt();
+    void menu_saysWhatItsEntriesAre();
+
+private:
+    QQuickItem* make(const QByteArray& control);
+
+    QQmlEngine m_engine;
+    QQuickWindow m_window;
+    std::unique_ptr<QObject> m_made;
+};
+
+namespace {
+
+/// Those below an item that a reader is told of, in order.
+QList<QAccessibleInterface*> told(QQuickItem* item)
+{
+    QList<QAccessibleInterface*> found;
+    auto* self = QAccessible::queryAccessibleInterface(item);
+    for (int i = 0; self && i < self->childCount(); ++i) {
+        found << self->child(i);
+    }
+    return found;
+}
+
+} // namespace
+
+void AccessibilityTest::initTestCase()
+{
+    QAccessible::setActive(true);
+    m_engine.addImportPath(u"qrc:/qt/qml"_s);
+    m_window.resize(400, 300);
+    m_window.show();
+}
+
+QQuickItem* AccessibilityTest::make(const QByteArray& control)
+{
+    QQmlComponent component(&m_engine);
+    component.setData("import QtQuick\nimport Quib.Views\n" + control, {});
+    m_made.reset(component.create());
+    auto* item = qobject_cast<QQuickItem*>(m_made.get());
+    if (item) {
+        item->setParentItem(m_window.contentItem());
+    } else {
+        qWarning() << component.errorString();
+    }
+    return item;
+}
+
+void AccessibilityTest::control_saysWhatItIs_data()
+{
+    QTest::addColumn<QByteArray>("control");
+    QTest::addColumn<int>("role");
+    QTest::addColumn<QString>("name");
+
+    QTest::addRow("text") << "QuibText { text: 'Track time' }"_ba << int(QAccessible::StaticText)
+                          << u"Track time"_s;
+    QTest::addRow("heading") << "SectionLabel { text: 'Today' }"_ba << int(QAccessible::StaticText)
+                             << u"Today"_s;
+    QTest::addRow("digits") << "DigitsText { text: '1:02:05' }"_ba << int(QAccessible::StaticText)
+                            << u"1:02:05"_s;
+    QTest::addRow("pill") << "PillButton { title: 'Start' }"_ba << int(QAccessible::Button)
+                          << u"Start"_s;
+    QTest::addRow("icon") << "IconButton { symbol: 'xmark'; help: 'Remove' }"_ba
+                          << int(QAccessible::Button) << u"Remove"_s;
+    QTest::addRow("chip") << "FilterChip { title: 'All' }"_ba << int(QAccessible::Button)
+                          << u"All"_s;
+}
+
+void AccessibilityTest::control_saysWhatItIs()
+{
+    QFETCH(QByteArray, control);
+    QFETCH(int, role);
+    QFETCH(QString, name);
+
+    auto* interface = QAccessible::queryAccessibleInterface(make(control));
+
+    QVERIFY(interface);
+    QCOMPARE(int(interface->role()), role);
+    QCOMPARE(interface->text(QAccessible::Name), name);
+}
+
+void AccessibilityTest::partOfAButton_saysNothingOfItsOwn()
+{
+    QVERIFY(told(make("PillButton { title: 'Start'; symbol: 'plus' }")).isEmpty());
+    QVERIFY(told(make("DigitsText { text: '1:02:05' }")).isEmpty());
+}
+
+void AccessibilityTest::button_canBePressed_data()
+{
+    QTest::addColumn<QByteArray>("control");
+
+    QTest::addRow("pill") << "PillButton { title: 'Start' }"_ba;
+    QTest::addRow("icon") << "IconButton { symbol: 'xmark'; help: 'Remove' }"_ba;
+    QTest::addRow("chip") << "FilterChip { title: 'All' }"_ba;
+}
+
+void AccessibilityTest::button_canBePressed()
+{
+    QFETCH(QByteArray, control);
+    auto* item = make(control);
+    const auto* type = item->metaObject();
+    const QSignalSpy clicks(item, type->method(type->indexOfSignal("clicked()")));
+    auto* interface = QAccessible::queryAccessibleInterface(item);
+    QVERIFY(interface && interface->actionInterface());
+
+    interface->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+
+    QCOMPARE(clicks.count(), 1);
+}
+
+void AccessibilityTest::chip_saysWhetherItIsSelected()
+{
+    const auto* chosen = QAccessible::queryAccessibleInterface(
+        make("FilterChip { title: 'All'; selected: true }"));
+    QVERIFY(chosen->state().checkable);
+    QVERIFY(chosen->state().checked);
+
+    const auto* other = QAccessible::queryAccessibleInterface(make("FilterChip { title: 'All' }"));
+    QVERIFY(!other->state().checked);
+}
+
+void AccessibilityTest::field_givesItsText()
+{
+    auto* item = make("QuibField { placeholder: 'Add a task'; text: 'Buy milk' }");
+
+    auto* interface = QAccessible::queryAccessibleInterface(
+        item->findChild<QQuickItem*>(u"input"_s));
+
+    QVERIFY(interface);
+    QCOMPARE(interface->role(), QAccessible::EditableText);
+    QCOMPARE(interface->text(QAccessible::Name), u"Add a task"_s);
+    QVERIFY(interface->textInterface());
+    QCOMPARE(interface->textInterface()->text(0, 8), u"Buy milk"_s);
+}
+
+void AccessibilityTest::help_describesWhatIsNotNamedByIt()
+{
+    const auto* pill = QAccessible::queryAccessibleInterface(
+        make("PillButton { title: 'Korvel'; help: 'https://korvel.org' }"));
+    QCOMPARE(pill->text(QAccessible::Description), u"https://korvel.org"_s);
+
+    const auto* icon
+        = QAccessible::queryAccessibleInterface(make("IconButton { symbol: 'xmark'; help: 'Go' }"));
+    QCOMPARE(icon->text(QAccessible::Description), QString());
+}
+
+void AccessibilityTest::menu_saysWhatItsEntriesAre()
+{
+    auto* list = make("MenuList { width: 200; height: 100; Accessible.role: Accessible.PopupMenu\n"
+                      "model: [{ title: 'No client', checked: true }, { separator: true }] }");
+    QCOMPARE(QAccessible::queryAccessibleInterface(list)->role(), QAccessible::PopupMenu);
+
+    QTRY_COMPARE(told(list).size(), 1); // The line between groups is none.
+    const auto* entry = told(list).first();
+    QCOMPARE(entry->role(), QAccessible::MenuItem);
+    QCOMPARE(entry->text(QAccessible::Name), u"No client"_s);
+    QVERIFY(entry->state().checked);
+}
+
+QTEST_MAIN(AccessibilityTest)
+#include "tst_accessibility.moc"

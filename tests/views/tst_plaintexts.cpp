@@ -1,0 +1,82 @@
+#include "support/plaintexts.h"
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// Texts from outside must never be read as markup: Qt would fetch their pictures, or crash.
+class PlainTextsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyTextOfTheControls_isPlain();
+    void theWalk_tellsATextThatIsNot();
+};
+
+namespace {
+
+const auto Hostile = u"<img src='x'>"_s;
+
+constexpr auto Controls = R"(
+    import QtQuick
+    import Quib.Views
+
+    Window {
+        property string hostile
+
+        visible: true
+        width: 760
+        height: 330
+
+        Column {
+            QuibText { text: hostile }
+            SectionLabel { text: hostile }
+            DigitsText { text: hostile }
+            PillButton { title: hostile }
+            IconButton { symbol: hostile; help: hostile; Component.onCompleted: { prepareToolTip(); toolTip.open() } }
+            FilterChip { title: hostile }
+            Card { QuibText { text: hostile } }
+            QuibField { placeholder: hostile }
+            Item { QuibMenu { model: [{ title: hostile }]; visible: true } }
+        }
+    }
+)";
+
+} // namespace
+
+void PlainTextsTest::everyTextOfTheControls_isPlain()
+{
+    QQmlEngine engine;
+    engine.addImportPath(u"qrc:/qt/qml"_s);
+    QQmlComponent component(&engine);
+    component.setData(Controls, {});
+    const std::unique_ptr<QObject> made(
+        component.createWithInitialProperties({{u"hostile"_s, Hostile}}));
+    const auto* window = qobject_cast<QQuickWindow*>(made.get());
+    QVERIFY2(window, qPrintable(component.errorString()));
+
+    const auto ofOneCharacter = Hostile.size();
+    QTRY_COMPARE(textItems(*window->contentItem()).size(), 8 + ofOneCharacter);
+    for (const auto* text : textItems(*window->contentItem())) {
+        QVERIFY2(isPlain(*text), qPrintable(text->property("text").toString()));
+    }
+}
+
+void PlainTextsTest::theWalk_tellsATextThatIsNot()
+{
+    QQmlEngine engine;
+    QQmlComponent component(&engine);
+    component.setData("import QtQuick; Item { Item { Text { text: 'auto' } } }", {});
+    const std::unique_ptr<QObject> root(component.create());
+
+    const auto texts = textItems(*qobject_cast<QQuickItem*>(root.get()));
+
+    QCOMPARE(texts.size(), 1);
+    QVERIFY(!isPlain(*texts.front()));
+}
+
+QTEST_MAIN(PlainTextsTest)
+#include "tst_plaintexts.moc"
