@@ -16,13 +16,14 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Looks again and again, for ten seconds at most.
-bool waitUntil(const std::function<bool()>& isSo)
+/// Looks again and again, for ten seconds at most; then says what did not come.
+bool waitFor(const char* what, const std::function<bool()>& isSo)
 {
     QElapsedTimer timer;
     timer.start();
     while (!isSo()) {
         if (timer.hasExpired(10'000)) {
+            qWarning("waited in vain for %s", what);
             return false;
         }
         std::this_thread::sleep_for(5ms); // Between two looks at another program.
@@ -155,7 +156,8 @@ void Desk::startServer()
     const auto display = u':' + QString::fromLatin1(m_server->readAllStandardOutput().trimmed());
     setVariable(u"DISPLAY"_s, display);
     m_connection = std::make_unique<Connection>(display);
-    start(u"xsetroot"_s, {u"-solid"_s, u"#406080"_s})->waitForFinished(); // Not black like the panel.
+    start(u"xsetroot"_s, {u"-solid"_s, u"#406080"_s})
+        ->waitForFinished(); // Not black like the panel.
 }
 
 void Desk::startBus()
@@ -170,13 +172,14 @@ void Desk::startBus()
 void Desk::startWindowManager()
 {
     m_programs.push_back(start(u"openbox"_s));
-    waitUntil([this] { return m_connection->hasProperty("_NET_SUPPORTING_WM_CHECK"); });
+    waitFor("the window manager",
+            [this] { return m_connection->hasProperty("_NET_SUPPORTING_WM_CHECK"); });
 }
 
 void Desk::startCompositor()
 {
     m_programs.push_back(start(u"xcompmgr"_s));
-    waitUntil([this] { return m_connection->hasOwner("_NET_WM_CM_S0"); });
+    waitFor("the compositor", [this] { return m_connection->hasOwner("_NET_WM_CM_S0"); });
 }
 
 void Desk::writeData(const QByteArray& json) const
@@ -224,10 +227,8 @@ Program Desk::start(const QString& program, const QStringList& arguments)
 Program Desk::startQuib()
 {
     auto program = start(quib());
-    waitUntil([this] {
-        return !xdotool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"^Korvel Quib$"_s})
-                    .isEmpty()
-            && pixel({800, 12}) == QColor(Qt::black);
+    waitFor("the panel", [this] {
+        return isShown(u"Korvel Quib"_s) && pixel({800, 12}) == QColor(Qt::black);
     });
     return program;
 }
@@ -248,9 +249,9 @@ Program Desk::startListener()
     auto listener = start(
         u"xev"_s,
         {u"-geometry"_s, u"1600x900+0+0"_s, u"-event"_s, u"button"_s, u"-event"_s, u"keyboard"_s});
-    xdotool({u"search"_s, u"--sync"_s, u"--onlyvisible"_s, u"--name"_s, u"^Event Tester$"_s});
+    waitFor("the listener", [this] { return isShown(u"Event Tester"_s); });
     click(FarAway); // Gives it the keyboard.
-    waitUntil([&] {
+    waitFor("the listener's first click", [&] {
         listener->waitForReadyRead(50);
         return listener->peek(1 << 20).contains("ButtonRelease");
     });
@@ -296,7 +297,7 @@ void Desk::key(const QString& name) const
 void Desk::showTab(int number) const
 {
     click({800 - 350 + 22 + 20 + 15 + 32 * number, 23});
-    waitUntil([&] { return selectedTab() == number; });
+    waitFor("the tab", [&] { return selectedTab() == number; });
 }
 
 void Desk::openWithPointer() const
@@ -337,7 +338,13 @@ int Desk::selectedTab() const
 
 bool Desk::waitForExpanded(bool expanded) const
 {
-    return waitUntil([&] { return isExpanded() == expanded; });
+    return waitFor(expanded ? "the panel to expand" : "the panel to collapse",
+                   [&] { return isExpanded() == expanded; });
+}
+
+bool Desk::isShown(const QString& title) const
+{
+    return !xdotool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u'^' + title + u'$'}).isEmpty();
 }
 
 void Desk::killServer()

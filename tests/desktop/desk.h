@@ -28,7 +28,7 @@ public:
     static constexpr QPoint InTheCard{800, 200};
     static constexpr QPoint FarAway{300, 700};
     static constexpr QPoint TaskField{600, 60};
-    static constexpr QPoint BesideTheNotch{660, 12};
+    static constexpr QPoint BesideTheNotch{660, 25};
     static constexpr QPoint Pin{1102, 23};
 
     explicit Desk(Options options);
@@ -78,6 +78,7 @@ private:
     void startBus();
     void startWindowManager();
     void startCompositor();
+    bool isShown(const QString& title) const;
     QString xdotool(const QStringList& arguments) const;
 
     Options m_options;

@@ -35,8 +35,21 @@ PlainButton {
         clientID: root.selection
     }
 
+    ClientChoiceModel {
+        id: choices
+
+        store: root.store
+        placeholder: root.placeholder
+        selection: root.selection
+    }
+
     QuibMenu {
         id: menu
+
+        model: choices
+        startIndex: choices.selectedRow
+
+        onActivated: index => root.chosen(choices.clientAt(index))
     }
 
     background: ContinuousRectangle {

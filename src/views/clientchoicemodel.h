@@ -1,0 +1,70 @@
+#pragma once
+
+#include "model/recordlistmodel.h"
+#include "model/store.h"
+
+#include <QPointer>
+
+#include <qqmlintegration.h>
+
+namespace quib {
+
+/// One entry of a menu of clients.
+struct ClientChoice {
+    QUuid id; ///< Of the entry.
+    QUuid clientID; ///< Null where it stands for no client.
+    QString title;
+    bool isChecked = false;
+    bool isSeparator = false;
+
+    bool operator==(const ClientChoice&) const = default;
+};
+
+/// The entries of a menu in which a client is chosen: the placeholder for none, a separator, then
+/// every client in display order.
+class ClientChoiceModel : public quib::RecordListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(quib::Store* store READ store WRITE setStore NOTIFY storeChanged REQUIRED)
+    Q_PROPERTY(QString placeholder READ placeholder WRITE setPlaceholder NOTIFY placeholderChanged)
+    Q_PROPERTY(QUuid selection READ selection WRITE setSelection NOTIFY selectionChanged)
+    Q_PROPERTY(int selectedRow READ selectedRow NOTIFY choicesChanged)
+
+public:
+    enum Role { TitleRole = Qt::UserRole, CheckedRole, SeparatorRole };
+
+    using RecordListModel::RecordListModel;
+
+    Store* store() const { return m_store; }
+    QString placeholder() const { return m_placeholder; }
+    QUuid selection() const { return m_selection; } ///< Null for no client.
+    int selectedRow() const; ///< The placeholder's where the selected client is gone.
+    /// The client of a row; null for the placeholder and for what is no row.
+    Q_INVOKABLE QUuid clientAt(int row) const;
+
+    /// Borrowed: only the placeholder is left once the store is gone.
+    void setStore(Store* store);
+    void setPlaceholder(const QString& placeholder);
+    void setSelection(const QUuid& selection);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void storeChanged();
+    void placeholderChanged();
+    void selectionChanged();
+    void choicesChanged();
+
+private:
+    void follow();
+    QList<ClientChoice> wanted() const;
+
+    QPointer<Store> m_store;
+    QString m_placeholder;
+    QUuid m_selection;
+    QList<ClientChoice> m_choices;
+};
+
+} // namespace quib
