@@ -40,6 +40,7 @@ NotchPanel::NotchPanel(NotchModel& model, Store& store, PanelHost& host)
     engine()->addImportPath(u"qrc:/qt/qml"_s);
     setInitialProperties(rootProperties(model, store));
     setSource(rootSource());
+    rootObject()->setFocus(true); // The view does not hand it on.
     m_host.adopt(*this);
     const auto* shape = rootObject()->findChild<NotchShape*>();
     const auto follow = [this, shape] { m_host.setVisibleShape(shape->pathInScene()); };

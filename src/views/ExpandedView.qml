@@ -63,6 +63,7 @@ FocusScope {
             view: TasksView {
                 objectName: "tasksView"
                 anchors.fill: parent
+                focus: true
                 store: root.store
             }
         }

@@ -73,13 +73,6 @@ struct Desk::Connection {
         return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
     }
 
-    bool hasProperty(const QByteArray& name) const
-    {
-        const auto cookie = xcb_get_property(xcb, 0, root, atom(name), XCB_ATOM_ANY, 0, 1);
-        const auto reply = own(xcb_get_property_reply(xcb, cookie, nullptr));
-        return reply && reply->type != XCB_ATOM_NONE;
-    }
-
     bool hasOwner(const QByteArray& selection) const
     {
         const auto cookie = xcb_get_selection_owner(xcb, atom(selection));
@@ -171,9 +164,12 @@ void Desk::startBus()
 
 void Desk::startWindowManager()
 {
-    m_programs.push_back(start(u"openbox"_s));
-    waitFor("the window manager",
-            [this] { return m_connection->hasProperty("_NET_SUPPORTING_WM_CHECK"); });
+    // It announces itself before it is ready, and then overlooks windows.
+    const auto ready = folder(u"window manager is ready"_s);
+    m_programs.push_back(start(u"openbox"_s, {u"--startup"_s, u"touch '%1'"_s.arg(ready)}));
+    waitFor("the window manager", [&] { return QFile::exists(ready); });
+            [this] {
+        return m_connection->hasProperty("_NET_SUPPORTING_WM_CHECK"); });
 }
 
 void Desk::startCompositor()

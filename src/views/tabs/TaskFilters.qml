@@ -50,6 +50,7 @@ Item {
         }
 
         delegate: FilterChip {
+            required property int index
             required property uuid clientID
             required property string name
 
@@ -57,6 +58,13 @@ Item {
             selected: root.filter === clientID
 
             onClicked: root.chosen(clientID)
+            onActiveFocusChanged: chips.positionViewAtIndex(index, ListView.Contain)
+        }
+
+        WheelHandler {
+            target: null
+
+            onWheel: event => chips.flick(8 * (event.angleDelta.y + event.angleDelta.x), 0)
         }
     }
 

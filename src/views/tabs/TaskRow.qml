@@ -6,7 +6,7 @@ import Quib.Views
 /*!
     One task: ticked off by its circle, deleted by the button that the pointer brings.
 */
-Item {
+FocusScope {
     id: root
 
     required property uuid taskID
@@ -16,7 +16,7 @@ Item {
     required property string clientStatus
 
     readonly property bool hasTag: root.clientStatus !== ""
-    readonly property bool isActive: hover.hovered || tick.activeFocus || remove.activeFocus
+    readonly property bool isActive: hover.hovered || root.activeFocus
 
     signal toggled
     signal deleted
@@ -33,6 +33,7 @@ Item {
         id: tick
 
         objectName: "tick"
+        focus: true
         anchors.verticalCenter: parent.verticalCenter
         Accessible.role: Accessible.CheckBox
         Accessible.name: (root.done ? "Mark open: %1" : "Mark done: %1").arg(root.title)

@@ -101,10 +101,18 @@ FocusScope {
         Accessible.name: "Tasks"
 
         delegate: TaskRow {
+            required property int index
+
             width: list.width
+
+            onActiveFocusChanged: list.positionViewAtIndex(index, ListView.Contain)
 
             onToggled: root.store.toggleTask(taskID)
             onDeleted: root.store.deleteTask(taskID)
+        }
+
+        ScrollThumb {
+            flickable: list
         }
 
         QuibText {
