@@ -26,14 +26,12 @@ public:
     void activateOther(const QString& busName) const;
 
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): slots are what the bus sees
-    Q_SCRIPTABLE void Activate(
-        const QVariantMap& platformData); // NOLINT(readability-identifier-naming): the bus's name
-    Q_SCRIPTABLE void
-    Open(const QStringList& uris,
-         const QVariantMap& platformData); // NOLINT(readability-identifier-naming): the bus's name
-    Q_SCRIPTABLE void ActivateAction(
-        const QString& action, const QVariantList& parameter,
-        const QVariantMap& platformData); // NOLINT(readability-identifier-naming): the bus's name
+    // NOLINTBEGIN(readability-identifier-naming): the names are the bus's
+    Q_SCRIPTABLE void Activate(const QVariantMap& platformData);
+    Q_SCRIPTABLE void Open(const QStringList& uris, const QVariantMap& platformData);
+    Q_SCRIPTABLE void ActivateAction(const QString& action, const QVariantList& parameter,
+                                     const QVariantMap& platformData);
+    // NOLINTEND(readability-identifier-naming)
 
 Q_SIGNALS:
     void activated();

@@ -29,11 +29,11 @@ bool isPrivate(const QByteArray& folder)
 
 QByteArray runtimeFolder()
 {
-    const auto given = qgetenv("XDG_RUNTIME_DIR");
+    auto given = qgetenv("XDG_RUNTIME_DIR");
     if (given.startsWith('/') && isPrivate(given)) {
         return given;
     }
-    const auto own = QFile::encodeName(QDir::tempPath() + "/quib-"_L1 + QString::number(geteuid()));
+    auto own = QFile::encodeName(QDir::tempPath() + "/quib-"_L1 + QString::number(geteuid()));
     mkdir(own.constData(), S_IRWXU);
     return isPrivate(own) ? own : QByteArray();
 }

@@ -22,7 +22,7 @@ public:
 private Q_SLOTS:
     void takeSetting(const QString& space, const QString& key, const QDBusVariant& value);
 
-private:
+private: // NOLINT(readability-redundant-access-specifiers): ends the slots
     void readSettings();
 
     QDBusConnection m_bus;

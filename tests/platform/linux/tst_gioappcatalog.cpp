@@ -44,7 +44,7 @@ void GioAppCatalogTest::initTestCase()
 
 QString GioAppCatalogTest::install(const QString& folder, const QString& id, const QString& lines)
 {
-    const auto path = m_folder.filePath(folder + u"/applications/"_s + id + u".desktop"_s);
+    auto path = m_folder.filePath(folder + u"/applications/"_s + id + u".desktop"_s);
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     if (file.open(QIODevice::WriteOnly)) {

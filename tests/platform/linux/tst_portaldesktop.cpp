@@ -50,6 +50,7 @@ public Q_SLOTS:
     }
 
 Q_SIGNALS:
+    // NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): moc has its own names
     Q_SCRIPTABLE void SettingChanged(const QString& space, const QString& key,
                                      const QDBusVariant& value);
 

@@ -6,6 +6,9 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include <algorithm>
+#include <utility>
+
 using namespace std::chrono_literals;
 
 namespace quib {
@@ -26,16 +29,16 @@ XcbScreenSource::XcbScreenSource()
     m_settle.setInterval(0ms);
     connect(&m_settle, &QTimer::timeout, this, &XcbScreenSource::settle);
 
-    connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](QScreen* screen) {
-        follow(*screen);
-        noteRearranged();
-    });
+    const auto follow = [this](const QScreen* screen) {
+        connect(screen, &QScreen::geometryChanged, this, &XcbScreenSource::noteRearranged);
+        connect(screen, &QScreen::availableGeometryChanged, this, &XcbScreenSource::noteRearranged);
+    };
+    std::ranges::for_each(QGuiApplication::screens(), follow);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, follow);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, &XcbScreenSource::noteRearranged);
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &XcbScreenSource::noteRearranged);
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this,
             &XcbScreenSource::noteRearranged);
-    for (auto* screen : QGuiApplication::screens()) {
-        follow(*screen);
-    }
     if (hasSeveralScreens()) {
         m_struts = m_docks.topStruts();
     }
@@ -68,12 +71,6 @@ bool XcbScreenSource::nativeEventFilter(const QByteArray& type, void* message, q
         m_settle.start();
     }
     return false;
-}
-
-void XcbScreenSource::follow(QScreen& screen)
-{
-    connect(&screen, &QScreen::geometryChanged, this, &XcbScreenSource::noteRearranged);
-    connect(&screen, &QScreen::availableGeometryChanged, this, &XcbScreenSource::noteRearranged);
 }
 
 void XcbScreenSource::noteRearranged()

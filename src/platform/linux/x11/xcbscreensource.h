@@ -6,8 +6,6 @@
 #include <QAbstractNativeEventFilter>
 #include <QTimer>
 
-class QScreen;
-
 namespace quib {
 
 /// Qt's screens. Of several, Qt 6.4 does not know what docks leave free: their struts tell. X11
@@ -22,7 +20,6 @@ public:
 
 private:
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
-    void follow(QScreen& screen);
     void noteRearranged();
     void settle();
 

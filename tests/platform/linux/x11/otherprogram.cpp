@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -46,7 +47,7 @@ OtherProgram::OtherProgram(const QRect& geometry, Placing placing)
     : m_connection(xcb_connect(nullptr, nullptr))
     , m_window(xcb_generate_id(m_connection.get()))
 {
-    const uint32_t values[]{
+    const std::array<uint32_t, 2> values{
         placing == Placing::ByItself,
         XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_KEY_PRESS,
     };
@@ -54,7 +55,7 @@ OtherProgram::OtherProgram(const QRect& geometry, Placing placing)
                       rootWindow(m_connection.get()), int16_t(geometry.x()), int16_t(geometry.y()),
                       uint16_t(geometry.width()), uint16_t(geometry.height()), 0,
                       XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
-                      XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
+                      XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values.data());
     finish(m_connection.get());
 }
 
@@ -70,6 +71,7 @@ void OtherProgram::setProperty(const char* name, xcb_atom_t type,
 void OtherProgram::setAtoms(const char* name, const std::vector<std::string_view>& atoms) const
 {
     std::vector<uint32_t> values;
+    values.reserve(atoms.size());
     for (const auto atom : atoms) {
         values.push_back(atomNamed(m_connection.get(), atom));
     }

@@ -97,7 +97,7 @@ void KeyboardWithWindowManagerTest::giveBackKeyboard_pointerLeft_returnsIt()
 void KeyboardWithWindowManagerTest::giveBackKeyboard_clickedAnotherWindow_leavesItThere()
 {
     const QSignalSpy clicks(m_pointer.get(), &PointerSource::clicked);
-    for (int round = 1; round <= 10; ++round) {
+    for (qsizetype round = 1; round <= 10; ++round) {
         click({200, 500});
         QTRY_COMPARE(keyboardOwner(), m_lender->window());
         m_host->takeKeyboard();
