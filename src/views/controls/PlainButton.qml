@@ -8,6 +8,7 @@ import Quib.Views
 /*!
     A button that draws nothing of its own but a ring when the keyboard has come to it, and its help
     as a tooltip. A click leaves the focus where it is, so that a half-typed field goes on.
+    Readers are told of a button whatever role is attached: Qt 6.4 asks the template for it.
 */
 T.AbstractButton {
     id: root
@@ -22,7 +23,6 @@ T.AbstractButton {
     opacity: root.down ? 0.75 : 1
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
-    Accessible.role: Accessible.Button
     Accessible.description: root.help
 
     onHoveredChanged: root.prepareToolTip()
