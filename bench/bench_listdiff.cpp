@@ -54,7 +54,7 @@ void moveFirstToLast(benchmark::State& state)
 {
     const auto shown = someIds(state);
     auto wanted = shown;
-    std::ranges::rotate(wanted, wanted.begin() + 1);
+    std::rotate(wanted.begin(), wanted.begin() + 1, wanted.end());
     measure(state, shown, wanted);
 }
 BENCHMARK(moveFirstToLast)->Apply(rowCounts);
