@@ -33,7 +33,7 @@ void rowCounts(benchmark::internal::Benchmark* bench)
 void baselineCompare(benchmark::State& state)
 {
     const auto shown = someIds(state);
-    const auto wanted = shown;
+    const Ids wanted(shown.begin(), shown.end());
     for (auto _ : state) {
         benchmark::DoNotOptimize(std::ranges::equal(shown, wanted));
     }
@@ -54,7 +54,7 @@ void moveFirstToLast(benchmark::State& state)
 {
     const auto shown = someIds(state);
     auto wanted = shown;
-    std::ranges::rotate(wanted, wanted.begin() + 1);
+    std::rotate(wanted.begin(), wanted.begin() + 1, wanted.end());
     measure(state, shown, wanted);
 }
 BENCHMARK(moveFirstToLast)->Apply(rowCounts);

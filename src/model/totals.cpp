@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <utility>
 
 namespace quib {
@@ -11,6 +12,14 @@ namespace quib {
 namespace {
 
 constexpr double MillisecondsPerSecond = 1000;
+
+using Bits = std::array<quint64, 2>;
+
+/// An id as two numbers, which compare faster than its eleven fields.
+Bits bitsOf(const QUuid& id)
+{
+    return std::bit_cast<Bits>(id);
+}
 
 std::optional<Client> clientOf(const std::optional<QUuid>& id, const QList<Client>& clients)
 {
@@ -30,17 +39,17 @@ public:
             return *m_unassigned;
         }
         auto& recent = m_recent[clientID->data1 % m_recent.size()];
-        if (!recent.row || recent.id != *clientID) {
+        if (!recent.row || recent.id != bitsOf(*clientID)) {
             auto& row = m_rows[*clientID];
             row = row.value_or(next);
-            recent = {*clientID, row};
+            recent = {bitsOf(*clientID), row};
         }
         return *recent.row;
     }
 
 private:
     struct Recent {
-        QUuid id;
+        Bits id;
         std::optional<std::size_t> row;
     };
 

@@ -11,7 +11,7 @@ namespace {
 QByteArray firstSet(const std::array<const char*, 3>& variables)
 {
     for (const auto* variable : variables) {
-        if (const auto value = qgetenv(variable); !value.isEmpty()) {
+        if (auto value = qgetenv(variable); !value.isEmpty()) {
             return value;
         }
     }

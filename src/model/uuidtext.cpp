@@ -41,7 +41,7 @@ using Bytes = std::array<uchar, BytePlaces.size()>;
 Bytes bytesOf(const QUuid& id)
 {
     Bytes bytes{};
-    qToBigEndian<quint32>(id.data1, &bytes[0]);
+    qToBigEndian<quint32>(id.data1, bytes.data());
     qToBigEndian<quint16>(id.data2, &bytes[4]);
     qToBigEndian<quint16>(id.data3, &bytes[6]);
     std::ranges::copy(id.data4, &bytes[8]);
@@ -51,7 +51,7 @@ Bytes bytesOf(const QUuid& id)
 QUuid idOf(const Bytes& bytes)
 {
     QUuid id;
-    id.data1 = qFromBigEndian<quint32>(&bytes[0]);
+    id.data1 = qFromBigEndian<quint32>(bytes.data());
     id.data2 = qFromBigEndian<quint16>(&bytes[4]);
     id.data3 = qFromBigEndian<quint16>(&bytes[6]);
     std::copy(&bytes[8], bytes.data() + bytes.size(), id.data4);

@@ -113,10 +113,10 @@ void DataFileReadingTest::missingRequiredMember_isUnreadable_data()
     for (const auto& key : file.keys()) {
         QTest::addRow("%s", qPrintable(key)) << with(key, Missing);
         const auto record = file[key].toArray().first().toObject();
-        for (const auto& member : record.keys()) {
-            if (member != "clientID"_L1 && member != "end"_L1) {
-                QTest::addRow("%s of %s", qPrintable(member), qPrintable(key))
-                    << with(key, member, Missing);
+        for (const auto& required : record.keys()) {
+            if (required != "clientID"_L1 && required != "end"_L1) {
+                QTest::addRow("%s of %s", qPrintable(required), qPrintable(key))
+                    << with(key, required, Missing);
             }
         }
     }
@@ -224,7 +224,7 @@ void DataFileReadingTest::malformedFile_isUnreadable_data()
     QTest::addRow("twice") << file + file;
     QTest::addRow("UTF-16") << QByteArray("{\0}\0", 4);
     QTest::addRow("a megabyte of [") << QByteArray(1 << 20, '[');
-    QTest::addRow("a megabyte of {\"a\":") << QByteArray("{\"a\":").repeated(1 << 18);
+    QTest::addRow("a megabyte of {\"a\":") << QByteArray(R"({"a":)").repeated(1 << 18);
     QTest::addRow("a rate of 1e400") << QByteArray(file).replace(": 35", ": 1e400");
     QTest::addRow("a rate of NaN") << QByteArray(file).replace(": 35", ": NaN");
     QTest::addRow("a byte that is no UTF-8") << QByteArray(file).replace("all of it", "\xFF");
@@ -258,7 +258,7 @@ void DataFileReadingTest::unknownMembers_areIgnored()
 void DataFileReadingTest::repeatedKey_countsTheFirst()
 {
     auto file = QJsonDocument(wholeFile()).toJson();
-    file.replace("\"all of it\"", "\"first\", \"notes\": \"second\"");
+    file.replace(R"("all of it")", R"("first", "notes": "second")");
 
     QCOMPARE(decodeQuibData(file)->notes, u"first"_s);
 }

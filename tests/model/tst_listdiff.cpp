@@ -15,7 +15,7 @@ using Ids = std::vector<QUuid>;
 
 QUuid idOf(int number)
 {
-    return QUuid(static_cast<uint>(number), 0, 0, 0, 0, 0, 0, 0, 0, 0, 1);
+    return {static_cast<uint>(number), 0, 0, 0, 0, 0, 0, 0, 0, 0, 1};
 }
 
 Ids ids(const QString& letters)
@@ -178,7 +178,7 @@ void ListDiffTest::manyRows_areQuick()
     } else if (change == "remove"_L1) {
         wanted.erase(wanted.begin() + 50'000);
     } else if (change == "move"_L1) {
-        std::ranges::rotate(wanted, wanted.begin() + 1);
+        std::rotate(wanted.begin(), wanted.begin() + 1, wanted.end());
     } else {
         std::ranges::reverse(wanted);
     }

@@ -156,7 +156,7 @@ void SaveKilledTest::nextStart_removesWhatAKilledSaveLeft()
 int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
-    if (application.arguments().contains(QLatin1StringView(SaveOnce))) {
+    if (QCoreApplication::arguments().contains(QLatin1StringView(SaveOnce))) {
         return saveOnce();
     }
     SaveKilledTest test;

@@ -12,6 +12,7 @@ private Q_SLOTS:
     void addTask_trimsTheTitle_data();
     void addTask_trimsTheTitle();
     void addTask_blankTitle_addsNothing();
+    void toggleTask_twice_isAsBefore();
     void toggleTask_idTwice_flipsTheFirst();
     void toggleTask_unknownId_saysNothing();
     void deleteTask_idTwice_removesBoth();
@@ -71,6 +72,18 @@ void StoreTasksTest::addTask_blankTitle_addsNothing()
     QVERIFY(f.store.data().tasks.isEmpty());
     QCOMPARE(f.announced(), QString());
     QCOMPARE(f.hands.scheduled, 0);
+}
+
+void StoreTasksTest::toggleTask_twice_isAsBefore()
+{
+    StoreFixture f;
+    f.startWith({.tasks = {{.id = idOf(1)}}});
+
+    f.store.toggleTask(idOf(1));
+    f.store.toggleTask(idOf(1));
+
+    QVERIFY(!f.store.data().tasks.front().done);
+    QCOMPARE(f.hands.scheduled, 2);
 }
 
 void StoreTasksTest::toggleTask_idTwice_flipsTheFirst()

@@ -138,18 +138,18 @@ void TimesheetTest::numbers_haveTwoDecimals_data()
     QTest::addColumn<double>("rate");
     QTest::addColumn<QByteArray>("end"); // Of the line.
 
-    QTest::addRow("an eighth of an hour") << qint64(450'000) << 0.0 << ",0.12,0.00,0.00,\"\""_ba;
-    QTest::addRow("five eighths") << qint64(2'250'000) << 0.0 << ",0.62,0.00,0.00,\"\""_ba;
+    QTest::addRow("an eighth of an hour") << qint64(450'000) << 0.0 << R"(,0.12,0.00,0.00,"")"_ba;
+    QTest::addRow("five eighths") << qint64(2'250'000) << 0.0 << R"(,0.62,0.00,0.00,"")"_ba;
     QTest::addRow("just more than an eighth")
-        << qint64(450'001) << 0.0 << ",0.13,0.00,0.00,\"\""_ba;
+        << qint64(450'001) << 0.0 << R"(,0.13,0.00,0.00,"")"_ba;
     QTest::addRow("amount of the exact hours")
-        << qint64(1'200'000) << 100.0 << ",0.33,100.00,33.33,\"\""_ba;
+        << qint64(1'200'000) << 100.0 << R"(,0.33,100.00,33.33,"")"_ba;
     QTest::addRow("no grouping") << qint64(3'600'000) * 1500 << 1000.0
-                                 << ",1500.00,1000.00,1500000.00,\"\""_ba;
+                                 << R"(,1500.00,1000.00,1500000.00,"")"_ba;
     QTest::addRow("end before start")
-        << qint64(-3'600'000) << 35.5 << ",-1.00,35.50,-35.50,\"\""_ba;
-    QTest::addRow("hardly before it") << qint64(-1000) << 35.0 << ",-0.00,35.00,-0.01,\"\""_ba;
-    QTest::addRow("a rate without measure") << qint64(3'600'000) << 1e300 << QByteArray("\"\"");
+        << qint64(-3'600'000) << 35.5 << R"(,-1.00,35.50,-35.50,"")"_ba;
+    QTest::addRow("hardly before it") << qint64(-1000) << 35.0 << R"(,-0.00,35.00,-0.01,"")"_ba;
+    QTest::addRow("a rate without measure") << qint64(3'600'000) << 1e300 << R"("")"_ba;
 }
 
 void TimesheetTest::numbers_haveTwoDecimals()

@@ -5,7 +5,6 @@
 #include <optional>
 
 using namespace Qt::StringLiterals;
-using quib::totals;
 
 namespace {
 
