@@ -168,8 +168,6 @@ void Desk::startWindowManager()
     const auto ready = folder(u"window manager is ready"_s);
     m_programs.push_back(start(u"openbox"_s, {u"--startup"_s, u"touch '%1'"_s.arg(ready)}));
     waitFor("the window manager", [&] { return QFile::exists(ready); });
-            [this] {
-        return m_connection->hasProperty("_NET_SUPPORTING_WM_CHECK"); });
 }
 
 void Desk::startCompositor()
