@@ -85,7 +85,8 @@ void SpringValue::snap()
 {
     m_rest.reset();
     m_frames->stop();
-    const bool moves = m_state.value != m_target || m_state.velocity != 0;
+    // On the way a step may have been taken back to the target without a word.
+    const bool moves = m_isRunning || m_state.value != m_target || m_state.velocity != 0;
     m_state = {.value = m_target};
     if (moves) {
         Q_EMIT valueChanged();

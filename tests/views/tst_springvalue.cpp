@@ -18,6 +18,7 @@ private Q_SLOTS:
     void newShape_inTheSameBreath_countsFromTheFirstStep();
     void newTarget_onTheWay_keepsPlaceAndVelocity();
     void newShape_onTheWay_keepsPlaceAndVelocity();
+    void turningRoundInTheFirstFrame_tellsWhereItEnds();
     void itSettlesOnTheTargetAndStops();
     void sameTarget_startsNothing();
     void snap_endsTheMovementOnTheTarget();
@@ -91,6 +92,23 @@ void SpringValueTest::newShape_onTheWay_keepsPlaceAndVelocity()
 
     QCOMPARE(spring.value(), value);
     QCOMPARE(spring.velocity(), velocity);
+}
+
+void SpringValueTest::turningRoundInTheFirstFrame_tellsWhereItEnds()
+{
+    SpringValue spring;
+    double told = 0;
+    connect(&spring, &SpringValue::valueChanged, this, [&] { told = spring.value(); });
+    connect(&spring, &SpringValue::targetChanged, this, [&] {
+        spring.setResponse(spring.target() == 1 ? Expanding.response : Collapsing.response);
+    });
+
+    spring.setTarget(1);
+    QVERIFY(told > 0);
+    spring.setTarget(0);
+
+    QTRY_VERIFY(!spring.isRunning());
+    QCOMPARE(told, 0.0);
 }
 
 void SpringValueTest::itSettlesOnTheTargetAndStops()
