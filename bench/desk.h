@@ -1,0 +1,34 @@
+#pragma once
+
+#include "screen.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <vector>
+
+using Milliseconds = std::chrono::duration<double, std::milli>;
+using Samples = std::vector<double>;
+
+// Where things are on a screen of 1600 pixels, at scale 1.
+constexpr Point Notch{800, 4};
+constexpr Point InTheNotch{800, 12};
+constexpr Point BelowTheNotch{800, 26};
+constexpr Point InTheCard{800, 280};
+constexpr Point FarAway{300, 700};
+constexpr Point Field{600, 60};
+constexpr Point FieldCorner{460, 50};
+constexpr int TabCount = 7;
+constexpr int TasksTab = 3;
+
+/// Nothing is left of starting by then.
+constexpr std::chrono::seconds Settled{3};
+/// Nor of a spring.
+constexpr std::chrono::milliseconds SprungBack{400};
+
+inline double percentile(Samples samples, double share)
+{
+    std::ranges::sort(samples);
+    const auto last = static_cast<double>(samples.size() - 1);
+    return samples.at(static_cast<std::size_t>(share * last + 0.5));
+}
