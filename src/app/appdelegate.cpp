@@ -70,6 +70,9 @@ void AppDelegate::layout()
 
 void AppDelegate::checkHover()
 {
+    if (m_screen.frame.isEmpty()) {
+        return; // There has been no screen yet.
+    }
     switch (decideHover(tickAt(m_platform.pointer->state()))) {
     case HoverAction::None: return;
     case HoverAction::Expand: expand(false); return;
@@ -124,6 +127,7 @@ void AppDelegate::followExpansion()
 {
     auto& host = *m_platform.panelHost;
     if (m_model.isExpanded()) {
+        host.orderFront(); // Some window managers raise full-screen windows above everything.
         host.setInputRegion(CardInPanel.toRect());
         return;
     }

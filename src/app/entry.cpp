@@ -39,24 +39,26 @@ int say(const QString& text)
     return 0;
 }
 
-int runSnapshot(int argc, char* argv[], const QString& folder)
+int runSnapshot(char** argv, const QString& folder)
 {
     prepareToDraw("offscreen");
-    const QGuiApplication app(argc, argv);
+    int ours = 1; // Qt's own options are not ours: what is not known is passed over.
+    const QGuiApplication app(ours, argv);
     AppDelegate delegate(makePlatformWithoutDisplay());
     useFont(*delegate.platform().desktop);
     Snapshot::run(folder, delegate);
     return 0;
 }
 
-int runPanel(int argc, char* argv[])
+int runPanel(char** argv)
 {
     if (!hasDisplay()) {
         QTextStream(stderr) << u"quib: there is no X display to show the panel on\n"_s;
         return 1;
     }
     prepareToDraw("xcb");
-    const QGuiApplication app(argc, argv);
+    int ours = 1; // Qt's own options are not ours: what is not known is passed over.
+    const QGuiApplication app(ours, argv);
     auto platform = makePlatform();
     if (!platform.instance->claim(Store::folder())) {
         return 0; // The panel that is open already has been called.
@@ -69,7 +71,7 @@ int runPanel(int argc, char* argv[])
     return QGuiApplication::exec();
 }
 
-QStringList argumentsOf(int argc, char* argv[])
+QStringList argumentsOf(int argc, char** argv)
 {
     QStringList arguments;
     for (int i = 1; i < argc; ++i) {
@@ -80,14 +82,14 @@ QStringList argumentsOf(int argc, char* argv[])
 
 } // namespace
 
-int runQuib(int argc, char* argv[])
+int runQuib(int argc, char** argv)
 {
     const auto line = parseArguments(argumentsOf(argc, argv));
     switch (line.action) {
-    case CommandLine::Action::Snapshot: return runSnapshot(argc, argv, line.folder);
+    case CommandLine::Action::Snapshot: return runSnapshot(argv, line.folder);
     case CommandLine::Action::Help: return say(helpText());
     case CommandLine::Action::Version: return say(versionText());
-    case CommandLine::Action::Start: return runPanel(argc, argv);
+    case CommandLine::Action::Start: return runPanel(argv);
     }
     Q_UNREACHABLE();
 }

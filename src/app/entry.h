@@ -3,6 +3,6 @@
 namespace quib {
 
 /// The whole program, from its arguments to its exit status.
-int runQuib(int argc, char* argv[]);
+int runQuib(int argc, char** argv);
 
 } // namespace quib

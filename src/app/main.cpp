@@ -1,6 +1,6 @@
 #include "app/entry.h"
 
-int main(int argc, char* argv[])
+int main(int argc, char** argv)
 {
     return quib::runQuib(argc, argv);
 }

@@ -5,7 +5,6 @@
 namespace quib {
 
 class NotchModel;
-class NotchShape;
 class PanelHost;
 class Store;
 

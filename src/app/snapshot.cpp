@@ -52,8 +52,12 @@ public:
         }
     }
 
+    /// Null where there is no view to draw.
     QImage picture()
     {
+        if (!m_root) {
+            return {};
+        }
         const auto scale = qGuiApp->devicePixelRatio();
         QImage image((PanelSize * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);

@@ -266,7 +266,8 @@ void AppDelegateTest::expansion_takesClicksAndCollapseLetsThemThrough()
     move(u"nooooo"_s);
 
     QCOMPARE(m_shell->asked,
-             (QStringList{u"take clicks"_s, u"let clicks through"_s, u"give back keyboard 0"_s}));
+             (QStringList{u"order front"_s, u"take clicks"_s, u"let clicks through"_s,
+                          u"give back keyboard 0"_s}));
 }
 
 void AppDelegateTest::secondStart_opensPinsAndTakesTheKeyboard()
@@ -277,7 +278,7 @@ void AppDelegateTest::secondStart_opensPinsAndTakesTheKeyboard()
 
     QVERIFY(model.isExpanded());
     QVERIFY(model.isPinned());
-    QCOMPARE(m_shell->asked, (QStringList{u"take clicks"_s, u"take keyboard"_s}));
+    QCOMPARE(m_shell->asked, (QStringList{u"order front"_s, u"take clicks"_s, u"take keyboard"_s}));
 }
 
 void AppDelegateTest::screensChanged_movesThePanelAndMeasuresTheNotch()
