@@ -66,6 +66,7 @@ Item {
         anchors.right: parent.right
         width: 92
         height: parent.height
+        clip: true
 
         DigitsText {
             objectName: "elapsed"

@@ -27,6 +27,14 @@ FocusScope {
         urls.forEach(url => root.store.addToShelf([url]));
     }
 
+    /// Only files light the notch up.
+    function takeDrag(drag) {
+        drag.accepted = drag.urls.some(url => url.toString().startsWith("file:"));
+        if (drag.accepted) {
+            drag.accept(Qt.CopyAction);
+        }
+    }
+
     /// Between two numbers as far as the spring has come; it may overshoot.
     function mix(collapsed: real, expanded: real): real {
         return Math.max(0, collapsed + (expanded - collapsed) * spring.value);
@@ -102,7 +110,7 @@ FocusScope {
         keys: ["text/uri-list"]
 
         // The copy action again on every move, or the source is told of a move and may delete.
-        onEntered: drag => drag.accept(Qt.CopyAction)
+        onEntered: drag => root.takeDrag(drag)
         onPositionChanged: drag => drag.accept(Qt.CopyAction)
         onContainsDragChanged: root.model.isDropTargeted = dropArea.containsDrag
         onDropped: drop => {

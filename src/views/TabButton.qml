@@ -20,6 +20,7 @@ PlainButton {
     help: Tabs.title(root.tab)
     Accessible.role: Accessible.PageTab
     Accessible.name: root.help
+    Accessible.description: ""
     Accessible.selectable: true
     Accessible.selected: root.selected
 

@@ -67,6 +67,7 @@ Item {
             help: "Keep open"
             Accessible.role: Accessible.CheckBox
             Accessible.name: help
+            Accessible.description: ""
             Accessible.checkable: true
             Accessible.checked: root.model.isPinned
 

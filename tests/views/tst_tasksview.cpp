@@ -2,6 +2,7 @@
 
 #include "brand/brand.h"
 
+#include <QAccessible>
 #include <QFont>
 
 using namespace Qt::StringLiterals;
@@ -40,6 +41,7 @@ private Q_SLOTS:
     void row_hasItsSizes_data();
     void row_hasItsSizes();
     void longTitleAndName_leaveRoomForEachOther();
+    void names_tellWhatPressingDoes();
 
 private:
     QQuickItem* item(const QString& name) { return m_panel->item(name); }
@@ -432,6 +434,26 @@ void TasksViewTest::longTitleAndName_leaveRoomForEachOther()
     QVERIFY(text.right() < tag.left());
     QVERIFY(tag.right() <= remove.left());
     QVERIFY(text.width() > 300);
+}
+
+void TasksViewTest::names_tellWhatPressingDoes()
+{
+    m_panel->workspace.task(u"Call Ann"_s);
+    const auto nameOf = [](QObject* object) {
+        auto* interface = QAccessible::queryAccessibleInterface(object);
+        return interface ? interface->text(QAccessible::Name) : QString();
+    };
+
+    QCOMPARE(nameOf(part(row(0), u"tick"_s)), u"Mark done: Call Ann"_s);
+    QCOMPARE(nameOf(part(row(0), u"remove"_s)), u"Delete: Call Ann"_s);
+    QCOMPARE(nameOf(item(u"newClient"_s)), u"Client: No client"_s);
+    QCOMPARE(nameOf(item(u"pin"_s)), u"Keep open"_s);
+    QCOMPARE(nameOf(item(u"date"_s)), item(u"date"_s)->property("text").toString());
+    QCOMPARE(nameOf(item(u"tabs"_s)->childItems().front()), u"Home"_s);
+    QCOMPARE(nameOf(item(u"list"_s)), u"Tasks"_s);
+
+    store().toggleTask(store().data().tasks.front().id);
+    QCOMPARE(nameOf(part(row(0), u"tick"_s)), u"Mark open: Call Ann"_s);
 }
 
 QTEST_MAIN(TasksViewTest)

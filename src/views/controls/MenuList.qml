@@ -32,7 +32,7 @@ ListView {
         isSeparator: entry.separator ?? false
         isHighlighted: root.currentIndex === index
 
-        onHoveredChanged: root.currentIndex = hovered ? index : -1
+        onHoveredChanged: root.follow(index, hovered)
         onClicked: root.activated(index)
     }
 
@@ -45,6 +45,13 @@ ListView {
         event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
         if (event.accepted) {
             root.highlight(event.key === Qt.Key_Home ? 0 : root.count - 1, event.key === Qt.Key_Home ? 1 : -1);
+        }
+    }
+
+    // A row may be left only after the next one has been entered.
+    function follow(index, hovered) {
+        if (hovered || root.currentIndex === index) {
+            root.currentIndex = hovered ? index : -1;
         }
     }
 

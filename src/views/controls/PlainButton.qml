@@ -30,8 +30,15 @@ T.AbstractButton {
 
     Accessible.onPressAction: root.clicked()
 
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
+    Keys.onReturnPressed: event => root.pressByKey(event)
+    Keys.onEnterPressed: event => root.pressByKey(event)
+
+    // A key that is held down presses once.
+    function pressByKey(event) {
+        if (!event.isAutoRepeat) {
+            root.clicked();
+        }
+    }
 
     // Most buttons never meet the pointer.
     function prepareToolTip() {

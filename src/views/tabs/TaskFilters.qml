@@ -37,7 +37,7 @@ Item {
         anchors.left: allChip.right
         anchors.leftMargin: 4
         anchors.right: clearDone.visible ? clearDone.left : parent.right
-        anchors.rightMargin: clearDone.visible ? 4 : 0
+        anchors.rightMargin: clearDone.visible ? 8 : 0
         height: parent.height
         orientation: ListView.Horizontal
         spacing: 4
@@ -58,7 +58,7 @@ Item {
             selected: root.filter === clientID
 
             onClicked: root.chosen(clientID)
-            onActiveFocusChanged: chips.positionViewAtIndex(index, ListView.Contain)
+            onActiveFocusChanged: if (activeFocus) chips.positionViewAtIndex(index, ListView.Contain)
         }
 
         WheelHandler {

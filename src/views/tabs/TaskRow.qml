@@ -63,6 +63,7 @@ FocusScope {
         color: root.done ? Brand.muted2 : "white"
         strikeout: root.done
         elide: Text.ElideRight
+        Accessible.ignored: true
     }
 
     Item {

@@ -105,10 +105,15 @@ FocusScope {
 
             width: list.width
 
-            onActiveFocusChanged: list.positionViewAtIndex(index, ListView.Contain)
+            onActiveFocusChanged: if (activeFocus) list.positionViewAtIndex(index, ListView.Contain)
 
             onToggled: root.store.toggleTask(taskID)
-            onDeleted: root.store.deleteTask(taskID)
+            onDeleted: {
+                if (activeFocus) {
+                    field.forceActiveFocus(); // Or keys would go nowhere.
+                }
+                root.store.deleteTask(taskID);
+            }
         }
 
         ScrollThumb {
