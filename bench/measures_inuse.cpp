@@ -4,6 +4,8 @@
 #include "program.h"
 
 #include <cstdio>
+#include <iterator>
+#include <numeric>
 #include <random>
 #include <thread>
 
@@ -84,6 +86,22 @@ Samples frameGaps(Screen& screen)
     return gaps;
 }
 
+void leave(Screen& screen, int scale, uint32_t empty)
+{
+    screen.moveTo(FarAway);
+    screen.waitUntil("the collapse",
+                     [&] { return screen.pixel(scaled(BelowTheNotch, scale)) == empty; });
+    sleep_for(SprungBack);
+}
+
+void expandTo(Screen& screen, Point button)
+{
+    screen.moveTo(Notch);
+    sleep_for(SprungBack);
+    screen.click(button);
+    sleep_for(SprungBack);
+}
+
 } // namespace
 
 void measureHover(int rounds, Words commands)
@@ -154,21 +172,18 @@ void measureSpring(int rounds, int scale, Words commands)
     screen.moveTo(FarAway);
     const Program program(commands.front());
     sleep_for(Settled);
+    const auto empty = screen.pixel(scaled(BelowTheNotch, scale));
     for (int tab = 0; tab < TabCount; ++tab) {
-        screen.moveTo(Notch);
-        sleep_for(SprungBack);
-        screen.click(scaled(tabButton(tab), scale));
-        sleep_for(SprungBack);
+        expandTo(screen, scaled(tabButton(tab), scale));
+        leave(screen, scale, empty);
         Samples gaps;
         for (int round = 0; round < rounds; ++round) {
-            screen.moveTo(FarAway);
-            sleep_for(SprungBack);
             std::ranges::copy(frameGaps(screen), std::back_inserter(gaps));
+            leave(screen, scale, empty);
         }
-        screen.moveTo(FarAway);
-        sleep_for(SprungBack);
         const auto late = std::ranges::count_if(gaps, [](double gap) { return gap > 33; });
-        std::printf("%.1f %.0f %td %zu\n", 1000 / percentile(gaps, 0.5), percentile(gaps, 1), late,
-                    gaps.size());
+        const auto time = std::accumulate(gaps.begin(), gaps.end(), 0.0);
+        std::printf("%.1f %.0f %td %zu\n", static_cast<double>(gaps.size()) * 1000 / time,
+                    percentile(gaps, 1), late, gaps.size());
     }
 }

@@ -22,8 +22,9 @@ Owned<Reply> own(Reply* reply)
     return Owned<Reply>(reply, &std::free);
 }
 
-/// Drawings closer than this belong together: a frame comes as several rectangles.
-constexpr auto OneFrame = 5ms;
+/// Drawings closer than this belong together: a frame comes as several rectangles and, where there
+/// is no compositor, with a new shape of its window.
+constexpr auto OneFrame = 10ms;
 
 } // namespace
 
