@@ -73,15 +73,20 @@ FocusScope {
             outline: root.model.isDropTargeted ? Brand.glow : Brand.white(root.mix(0, 0.06))
         }
 
-        CollapsedTimerWings {
-            objectName: "wings"
+        LazyView {
             anchors.horizontalCenter: parent.horizontalCenter
             width: root.collapsedSize.width
             height: root.collapsedSize.height
-            opacity: 1 - Math.min(1, spring.value)
-            timer: timer
-            shown: !root.model.isExpanded
-            isMotionReduced: root.model.isMotionReduced
+            shown: timer.isRunning
+
+            view: CollapsedTimerWings {
+                objectName: "wings"
+                anchors.fill: parent
+                opacity: 1 - Math.min(1, spring.value)
+                timer: timer
+                shown: !root.model.isExpanded
+                isMotionReduced: root.model.isMotionReduced
+            }
         }
 
         LazyView {
