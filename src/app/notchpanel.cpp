@@ -10,7 +10,6 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QSurfaceFormat>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -41,6 +40,8 @@ NotchPanel::NotchPanel(NotchModel& model, Store& store, PanelHost& host)
     setInitialProperties(rootProperties(model, store));
     setSource(rootSource());
     rootObject()->setFocus(true); // The view does not hand it on.
+    m_afterPress.setSingleShot(true);
+    connect(&m_afterPress, &QTimer::timeout, this, [this] { takeKeyboardForText(m_press); });
     m_host.adopt(*this);
     const auto* shape = rootObject()->findChild<NotchShape*>();
     const auto follow = [this, shape] { m_host.setVisibleShape(shape->pathInScene()); };
@@ -51,8 +52,8 @@ NotchPanel::NotchPanel(NotchModel& model, Store& store, PanelHost& host)
 void NotchPanel::mousePressEvent(QMouseEvent* event)
 {
     QQuickView::mousePressEvent(event);
-    // Once the press has moved the focus.
-    QTimer::singleShot(0, this, [this, press = event->position()] { takeKeyboardForText(press); });
+    m_press = event->position();
+    m_afterPress.start();
 }
 
 /// Pressing plain buttons leaves the keyboard where it is.
@@ -75,7 +76,7 @@ QVariantMap rootProperties(NotchModel& model, Store& store)
 
 QUrl rootSource()
 {
-    return QUrl(u"qrc:/qt/qml/Quib/Views/NotchRootView.qml"_s);
+    return {u"qrc:/qt/qml/Quib/Views/NotchRootView.qml"_s};
 }
 
 } // namespace quib

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QQuickView>
+#include <QTimer>
 
 namespace quib {
 
@@ -24,6 +25,8 @@ private:
     void takeKeyboardForText(QPointF press);
 
     PanelHost& m_host;
+    QPointF m_press;
+    QTimer m_afterPress; ///< Due once the press has moved the focus.
 };
 
 /// What the root view of every panel and picture is made with.

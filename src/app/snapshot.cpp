@@ -29,7 +29,10 @@ constexpr auto SettlingTime = 400ms;
 void runLoop(std::chrono::milliseconds time)
 {
     QEventLoop loop;
-    QTimer::singleShot(time, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    QTimer timer;
+    timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+    timer.start(time);
     loop.exec();
 }
 
