@@ -25,7 +25,8 @@ QList<TaskItem> visibleTasks(const QList<TaskItem>& tasks, const std::optional<Q
     QList<TaskItem> visible;
     std::ranges::copy_if(tasks, std::back_inserter(visible),
                          [&](const TaskItem& task) { return !filter || task.clientID == filter; });
-    std::ranges::stable_partition(visible, [](const TaskItem& task) { return !task.done; });
+    std::stable_partition(visible.begin(), visible.end(),
+                          [](const TaskItem& task) { return !task.done; });
     return visible;
 }
 
