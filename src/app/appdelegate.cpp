@@ -1,6 +1,7 @@
 #include "app/appdelegate.h"
 
 #include "app/notchpanel.h"
+#include "shortcuts/shortcuts.h"
 
 #include <QRegion>
 
@@ -22,13 +23,22 @@ AppDelegate::AppDelegate(Platform platform, Clock clock, Scheduler schedule)
     , m_schedule(schedule)
     , m_store({.clock = std::move(clock),
                .schedule = std::move(schedule),
-               .findApplication = [this](const QString& name) {
-                   return m_platform.applications->applicationNamed(name);
-               }})
+               .findApplication =
+                   [this](const QString& name) {
+                       return m_platform.applications->applicationNamed(name);
+                   }})
+    , m_actions(*m_platform.opener, *m_platform.applications)
 {
+    connect(&m_menu, &StatusMenu::aboutToOpen, this, [this] { rebuildMenuStates(m_menu); });
+    connect(&m_menu, &StatusMenu::chosen, this, &AppDelegate::runCommand);
 }
 
 AppDelegate::~AppDelegate() = default;
+
+ViewContext AppDelegate::viewContext()
+{
+    return {.model = m_model, .store = m_store, .actions = m_actions, .commands = *this};
+}
 
 QRectF AppDelegate::collapsedRect() const
 {
@@ -37,7 +47,8 @@ QRectF AppDelegate::collapsedRect() const
 
 void AppDelegate::applicationDidFinishLaunching()
 {
-    m_panel = std::make_unique<NotchPanel>(m_model, m_store, *m_platform.panelHost);
+    Shortcuts::shared().reload();
+    m_panel = std::make_unique<NotchPanel>(viewContext(), *m_platform.panelHost);
     layout();
     m_platform.panelHost->setInputRegion({});
     m_platform.panelHost->orderFront();
@@ -48,6 +59,7 @@ void AppDelegate::applicationDidFinishLaunching()
     connect(m_platform.desktop.get(), &Desktop::isMotionReducedChanged, this,
             &AppDelegate::followDesktop);
     followDesktop();
+    setupStatusItem();
 }
 
 void AppDelegate::applicationWillTerminate()

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "app/notch/commands.h"
 #include "app/notch/geometry.h"
 #include "app/notch/hover.h"
 #include "app/notch/notchmodel.h"
+#include "app/notch/statusmenu.h"
+#include "integrations/actions.h"
 #include "model/clock.h"
 #include "model/scheduler.h"
 #include "model/store.h"
@@ -17,10 +20,11 @@
 namespace quib {
 
 class NotchPanel;
+struct ViewContext;
 
 /// The owner of everything that lives as long as the process. It reads the world through the
 /// seams, asks the pure functions of app/notch what to do, and does it.
-class AppDelegate : public QObject {
+class AppDelegate : public Commands {
     Q_OBJECT
 
 public:
@@ -31,6 +35,8 @@ public:
     const Platform& platform() const { return m_platform; }
     NotchModel& model() { return m_model; }
     Store& store() { return m_store; }
+    /// What every view is made with; borrowed from the delegate.
+    ViewContext viewContext();
     /// Where the pointer opens the card, in global points.
     QRectF collapsedRect() const;
 
@@ -46,8 +52,23 @@ public:
     /// Opens the panel and pins it, or it would collapse at once: the pointer is elsewhere.
     void openQuib();
 
+    void setupStatusItem();
+    void rebuildMenu();
+    void rebuildMenuStates(StatusMenu& menu) const;
+    void togglePin();
+    void toggleLogin();
+    void editShortcuts() override;
+    void showData();
+    void quit() override;
+    void pick(bool directories, const std::optional<QUrl>& startIn, Completion completion) override;
+    void takeKeyboard() override;
+    StatusMenu* menu() override { return &m_menu; }
+    bool isMenuInStatusBar() const override;
+
 private:
     void cancelCollapse();
+    void followMenu();
+    void runCommand(const QString& title);
     void installMouseMonitors();
     void followExpansion();
     void followDesktop();
@@ -59,6 +80,8 @@ private:
     Scheduler m_schedule;
     NotchModel m_model;
     Store m_store;
+    Actions m_actions;
+    StatusMenu m_menu;
     std::unique_ptr<NotchPanel> m_panel;
     Screen m_screen; ///< As of the last layout.
     QTimer m_hoverTimer;

@@ -1,8 +1,10 @@
 #include "app/notchpanel.h"
 
+#include "app/notch/commands.h"
 #include "app/notch/geometry.h"
 #include "app/notch/notchmodel.h"
 #include "app/notch/panelhost.h"
+#include "integrations/actions.h"
 #include "model/store.h"
 #include "views/notchshape.h"
 
@@ -26,7 +28,7 @@ const QQuickItem* focusedItem(const QQuickItem* scope)
 
 } // namespace
 
-NotchPanel::NotchPanel(NotchModel& model, Store& store, PanelHost& host)
+NotchPanel::NotchPanel(const ViewContext& context, PanelHost& host)
     : m_host(host)
 {
     auto format = requestedFormat();
@@ -37,7 +39,7 @@ NotchPanel::NotchPanel(NotchModel& model, Store& store, PanelHost& host)
     setResizeMode(SizeRootObjectToView);
     resize(PanelSize.toSize());
     engine()->addImportPath(u"qrc:/qt/qml"_s);
-    setInitialProperties(rootProperties(model, store));
+    setInitialProperties(rootProperties(context));
     setSource(rootSource());
     rootObject()->setFocus(true); // The view does not hand it on.
     m_afterPress.setSingleShot(true);
@@ -66,11 +68,13 @@ void NotchPanel::takeKeyboardForText(QPointF press)
     }
 }
 
-QVariantMap rootProperties(NotchModel& model, Store& store)
+QVariantMap rootProperties(const ViewContext& context)
 {
     return {
-        {u"model"_s, QVariant::fromValue(&model)},
-        {u"store"_s, QVariant::fromValue(&store)},
+        {u"model"_s, QVariant::fromValue(&context.model)},
+        {u"store"_s, QVariant::fromValue(&context.store)},
+        {u"actions"_s, QVariant::fromValue(&context.actions)},
+        {u"commands"_s, QVariant::fromValue(&context.commands)},
     };
 }
 

@@ -5,9 +5,19 @@
 
 namespace quib {
 
+class Actions;
+class Commands;
 class NotchModel;
 class PanelHost;
 class Store;
+
+/// What every view is made with. Everything is borrowed and outlives the views.
+struct ViewContext {
+    NotchModel& model;
+    Store& store;
+    Actions& actions;
+    Commands& commands;
+};
 
 /// The transparent window over the notch. Its size never changes; the shape inside does. It takes
 /// the keyboard when a text is pressed, and keeps the window system told of what is drawn.
@@ -15,8 +25,8 @@ class NotchPanel : public QQuickView {
     Q_OBJECT
 
 public:
-    /// Everything is borrowed and outlives the panel.
-    NotchPanel(NotchModel& model, Store& store, PanelHost& host);
+    /// The host is borrowed too.
+    NotchPanel(const ViewContext& context, PanelHost& host);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -30,7 +40,7 @@ private:
 };
 
 /// What the root view of every panel and picture is made with.
-QVariantMap rootProperties(NotchModel& model, Store& store);
+QVariantMap rootProperties(const ViewContext& context);
 
 /// Where the root view lies.
 QUrl rootSource();

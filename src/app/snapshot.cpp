@@ -40,7 +40,7 @@ void runLoop(std::chrono::milliseconds time)
 /// scene graph needs no graphics device.
 class OffscreenPanel {
 public:
-    OffscreenPanel(NotchModel& model, Store& store)
+    explicit OffscreenPanel(const ViewContext& context)
     {
         m_window.setColor(Qt::transparent);
         m_window.setGeometry(QRect({}, PanelSize.toSize()));
@@ -48,7 +48,7 @@ public:
         m_engine.addImportPath(u"qrc:/qt/qml"_s);
         QQmlComponent component(&m_engine, rootSource());
         m_root.reset(qobject_cast<QQuickItem*>(
-            component.createWithInitialProperties(rootProperties(model, store))));
+            component.createWithInitialProperties(rootProperties(context))));
         if (m_root) {
             m_root->setParentItem(m_window.contentItem());
             m_root->setSize(PanelSize);
@@ -91,7 +91,7 @@ void run(const QString& folder, AppDelegate& delegate)
     for (const auto tab : AllTabs) {
         delegate.model().setTab(tab);
         delegate.model().setExpanded(true);
-        OffscreenPanel panel(delegate.model(), delegate.store());
+        OffscreenPanel panel(delegate.viewContext());
         runLoop(SettlingTime);
         panel.picture().save(QDir(folder).filePath(rawText(tab) + u".png"_s), "PNG");
     }

@@ -1,10 +1,44 @@
 #include "brand/brand.h"
 
 #include <QHash>
+#include <QStringView>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace quib {
+
+namespace {
+
+QStringView withoutHashes(QStringView word)
+{
+    while (word.startsWith(u'#')) {
+        word = word.sliced(1);
+    }
+    while (word.endsWith(u'#')) {
+        word.chop(1);
+    }
+    return word;
+}
+
+bool isHexDigit(QChar c)
+{
+    return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f');
+}
+
+} // namespace
+
+QColor Brand::named(const std::optional<QString>& word)
+{
+    const auto lower = word.value_or(QString()).toLower();
+    if (lower == u"gold"_s) {
+        return gold();
+    }
+    const auto digits = withoutHashes(lower);
+    const bool isColor = digits.size() == 6 && std::ranges::all_of(digits, isHexDigit);
+    return isColor ? QColor::fromRgb(digits.toUInt(nullptr, 16)) : glow(); // "purple" too.
+}
 
 QColor Brand::color(const QString& status)
 {

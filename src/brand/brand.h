@@ -3,6 +3,8 @@
 #include <QColor>
 #include <QObject>
 
+#include <optional>
+
 #include <qqmlintegration.h>
 
 namespace quib {
@@ -21,6 +23,7 @@ class Brand : public QObject {
     Q_PROPERTY(QColor card READ card CONSTANT)
     Q_PROPERTY(QColor cardStroke READ cardStroke CONSTANT)
     Q_PROPERTY(QColor popup READ popup CONSTANT)
+    Q_PROPERTY(QColor gold READ gold CONSTANT)
 
 public:
     static QColor purple() { return {139, 92, 246}; }
@@ -34,6 +37,11 @@ public:
     /// What lies over the card and its texts, and so lets nothing through.
     static QColor popup() { return {30, 27, 38}; }
 
+    static QColor gold() { return {245, 197, 66}; }
+
+    /// The colour that a word means, in any case: "purple", "gold" or six hexadecimal digits with
+    /// or without "#" around them. Glow for no word and for any other.
+    static QColor named(const std::optional<QString>& word);
     /// The colour of a client's status, given its raw text; muted2 for any other text.
     Q_INVOKABLE static QColor color(const QString& status);
     /// White at an opacity from 0 to 1: the surfaces that lie on the card.

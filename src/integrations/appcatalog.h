@@ -1,10 +1,19 @@
 #pragma once
 
+#include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
 namespace quib {
+
+/// An installed application that the user may see.
+struct Application {
+    QString path; ///< Full path of the bundle or of the desktop entry.
+    QString name; ///< In the user's language.
+    QString icon; ///< A name in the icon theme, or the full path of a picture; empty without one.
+};
 
 /// The applications installed on this desktop. Implemented once per platform.
 class AppCatalog {
@@ -17,6 +26,11 @@ public:
     /// Full path of the visible application of exactly that unlocalised name; absent when there is
     /// none.
     virtual std::optional<QString> applicationNamed(const QString& name) const = 0;
+    /// Full path of the first of these ids whose application is installed; absent when none is. An
+    /// id is a bundle's path or a desktop entry's file name. Read anew each time.
+    virtual std::optional<QString> firstInstalled(const QStringList& ids) const = 0;
+    /// The visible ones, by name as the user's language sorts. Read anew each time.
+    virtual QList<Application> applications() const = 0;
 };
 
 } // namespace quib

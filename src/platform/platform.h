@@ -1,11 +1,15 @@
 #pragma once
 
 #include "app/notch/desktop.h"
+#include "app/notch/filepicker.h"
+#include "app/notch/loginitem.h"
 #include "app/notch/panelhost.h"
 #include "app/notch/pointersource.h"
 #include "app/notch/screensource.h"
 #include "app/notch/singleinstance.h"
+#include "app/notch/statusitem.h"
 #include "integrations/appcatalog.h"
+#include "integrations/opener.h"
 
 #include <memory>
 
@@ -19,6 +23,10 @@ struct Platform {
     std::unique_ptr<SingleInstance> instance;
     std::unique_ptr<Desktop> desktop;
     std::unique_ptr<AppCatalog> applications;
+    std::unique_ptr<Opener> opener;
+    std::unique_ptr<StatusItem> statusItem;
+    std::unique_ptr<LoginItem> loginItem;
+    std::unique_ptr<FilePicker> filePicker;
     /// Ends the event loop in order when the system asks the process to end.
     std::unique_ptr<QObject> quitSignals;
 };
@@ -30,7 +38,8 @@ bool hasDisplay();
 /// QGuiApplication on that desktop.
 Platform makePlatform();
 
-/// What remains where nothing is shown: `desktop` and `applications`; the rest is null.
+/// What remains where nothing is shown: `desktop`, `applications` and `opener`; the rest is
+/// null.
 Platform makePlatformWithoutDisplay();
 
 } // namespace quib

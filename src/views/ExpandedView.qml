@@ -14,6 +14,8 @@ FocusScope {
 
     required property NotchModel model
     required property Store store
+    required property Actions actions
+    required property Commands commands
     required property real arrival
 
     visible: root.opacity > 0

@@ -15,6 +15,8 @@ FocusScope {
 
     required property NotchModel model
     required property Store store
+    required property Actions actions
+    required property Commands commands
 
     readonly property size shapeSize: root.model.isExpanded ? root.cardSize : root.collapsedSize
     readonly property size cardSize: Qt.size(700, 290)
@@ -102,6 +104,8 @@ FocusScope {
                 focus: true
                 model: root.model
                 store: root.store
+                actions: root.actions
+                commands: root.commands
                 arrival: spring.value
             }
         }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "integrations/actions.h"
 #include "model/store.h"
 
 #include <QtQml/qqml.h>
@@ -11,6 +12,13 @@ struct StoreType {
     Q_GADGET
     QML_FOREIGN(quib::Store)
     QML_NAMED_ELEMENT(Store)
+    QML_UNCREATABLE("Created by the application delegate")
+};
+
+struct ActionsType {
+    Q_GADGET
+    QML_FOREIGN(quib::Actions)
+    QML_NAMED_ELEMENT(Actions)
     QML_UNCREATABLE("Created by the application delegate")
 };
 

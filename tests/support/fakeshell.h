@@ -61,19 +61,96 @@ public:
 class FakeDesktop final : public quib::Desktop {
 public:
     bool reduced = false;
+    int beeps = 0;
 
     bool isMotionReduced() const override { return reduced; }
     QString fontFamily() const override { return QStringLiteral("Inter"); }
+    void beep() override { ++beeps; }
 };
 
 /// Nothing is installed, unless a test says otherwise.
 class FakeAppCatalog final : public quib::AppCatalog {
 public:
-    QHash<QString, QString> paths;
+    QHash<QString, QString> paths; ///< Of names, and of ids.
+    QList<quib::Application> list;
 
     std::optional<QString> applicationNamed(const QString& name) const override
     {
         return paths.contains(name) ? std::optional(paths.value(name)) : std::nullopt;
+    }
+    std::optional<QString> firstInstalled(const QStringList& ids) const override
+    {
+        for (const auto& id : ids) {
+            if (paths.contains(id)) {
+                return paths.value(id);
+            }
+        }
+        return std::nullopt;
+    }
+    QList<quib::Application> applications() const override { return list; }
+};
+
+/// Writes down what it was asked to open.
+class FakeOpener final : public quib::Opener {
+public:
+    QStringList asked;
+
+    void openPath(const QString& path) override { asked << QStringLiteral("open ") + path; }
+    void openAddress(const QUrl& address) override
+    {
+        asked << QStringLiteral("browse ") + QString::fromLatin1(address.toEncoded());
+    }
+    void openWith(const QString& path, const QString& application) override
+    {
+        asked << QStringLiteral("open %1 with %2").arg(path, application);
+    }
+    void openInTextEditor(const QString& path) override { asked << QStringLiteral("edit ") + path; }
+    void reveal(const QString& path) override { asked << QStringLiteral("reveal ") + path; }
+};
+
+class FakeStatusItem final : public quib::StatusItem {
+public:
+    quib::StatusIcon icon;
+    QList<quib::MenuItem> menu;
+    bool shown = true;
+
+    void install(const quib::StatusIcon& installed) override { icon = installed; }
+    void setMenu(const QList<quib::MenuItem>& items) override { menu = items; }
+    bool isShown() const override { return shown; }
+};
+
+class FakeLoginItem final : public quib::LoginItem {
+public:
+    bool enabled = false;
+    bool fails = false;
+
+    bool isEnabled() const override { return enabled; }
+    bool enable() override { return change(true); }
+    bool disable() override { return change(false); }
+
+private:
+    bool change(bool wanted)
+    {
+        enabled = fails ? enabled : wanted;
+        return !fails;
+    }
+};
+
+/// Leaves every choice open until the test answers it.
+class FakeFilePicker final : public quib::FilePicker {
+public:
+    QStringList asked;
+    QList<Answer> open;
+
+    void chooseFolder(const std::optional<QUrl>& startIn, Answer answer) override
+    {
+        asked << QStringLiteral("folder in %1").arg(startIn.value_or(QUrl()).toLocalFile());
+        open << std::move(answer);
+    }
+    void chooseApplication(Answer answer) override
+    {
+        asked << QStringLiteral("application");
+        open << std::move(answer);
     }
 };
 
@@ -85,10 +162,19 @@ struct FakeShell {
                             .panelHost = std::make_unique<FakePanelHost>(asked),
                             .instance = std::make_unique<FakeSingleInstance>(),
                             .desktop = std::make_unique<FakeDesktop>(),
-                            .applications = std::make_unique<FakeAppCatalog>()};
+                            .applications = std::make_unique<FakeAppCatalog>(),
+                            .opener = std::make_unique<FakeOpener>(),
+                            .statusItem = std::make_unique<FakeStatusItem>(),
+                            .loginItem = std::make_unique<FakeLoginItem>(),
+                            .filePicker = std::make_unique<FakeFilePicker>()};
     FakeScreenSource& screens = static_cast<FakeScreenSource&>(*platform.screens);
     FakePointerSource& pointer = static_cast<FakePointerSource&>(*platform.pointer);
     FakePanelHost& host = static_cast<FakePanelHost&>(*platform.panelHost);
     FakeSingleInstance& instance = static_cast<FakeSingleInstance&>(*platform.instance);
     FakeDesktop& desktop = static_cast<FakeDesktop&>(*platform.desktop);
+    FakeAppCatalog& applications = static_cast<FakeAppCatalog&>(*platform.applications);
+    FakeOpener& opener = static_cast<FakeOpener&>(*platform.opener);
+    FakeStatusItem& statusItem = static_cast<FakeStatusItem&>(*platform.statusItem);
+    FakeLoginItem& loginItem = static_cast<FakeLoginItem&>(*platform.loginItem);
+    FakeFilePicker& filePicker = static_cast<FakeFilePicker&>(*platform.filePicker);
 };

@@ -2,6 +2,8 @@
 
 #include "app/notch/notchmodel.h"
 #include "app/notchpanel.h"
+#include "integrations/actions.h"
+#include "support/fakecommands.h"
 #include "support/fakeshell.h"
 #include "support/workspace.h"
 
@@ -16,6 +18,10 @@ struct ShownPanel {
     quib::NotchModel model;
     QStringList asked;
     FakePanelHost host{asked};
+    FakeOpener opener;
+    FakeAppCatalog applications;
+    quib::Actions actions{opener, applications};
+    FakeCommands commands;
     std::unique_ptr<quib::NotchPanel> window;
 
     explicit ShownPanel(const quib::QuibData& data = {}, quib::Store::Surroundings around = {})
@@ -23,7 +29,11 @@ struct ShownPanel {
     {
         model.setMotionReduced(true);
         model.setNotchSize({188, 37});
-        window = std::make_unique<quib::NotchPanel>(model, *workspace.store, host);
+        window = std::make_unique<quib::NotchPanel>(quib::ViewContext{.model = model,
+                                                                      .store = *workspace.store,
+                                                                      .actions = actions,
+                                                                      .commands = commands},
+                                                    host);
         window->show();
         [[maybe_unused]] const bool isExposed = QTest::qWaitForWindowExposed(window.get());
     }

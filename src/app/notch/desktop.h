@@ -14,6 +14,8 @@ public:
     virtual bool isMotionReduced() const = 0;
     /// The family that the desktop writes its interface in.
     virtual QString fontFamily() const = 0;
+    /// The alert sound.
+    virtual void beep() = 0;
 
 Q_SIGNALS:
     void isMotionReducedChanged();

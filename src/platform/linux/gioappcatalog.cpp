@@ -58,4 +58,14 @@ std::optional<QString> GioAppCatalog::applicationNamed(const QString& name) cons
     return found == m_pathOfName->cend() ? std::nullopt : std::optional(*found);
 }
 
+std::optional<QString> GioAppCatalog::firstInstalled(const QStringList& /*ids*/) const
+{
+    return std::nullopt;
+}
+
+QList<Application> GioAppCatalog::applications() const
+{
+    return {};
+}
+
 } // namespace quib

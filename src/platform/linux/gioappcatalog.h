@@ -6,10 +6,12 @@
 
 namespace quib {
 
-/// The desktop entries that GIO finds, listed once, when first asked.
+/// The desktop entries that GIO finds. Names are listed once, when first asked for.
 class GioAppCatalog final : public AppCatalog {
 public:
     std::optional<QString> applicationNamed(const QString& name) const override;
+    std::optional<QString> firstInstalled(const QStringList& ids) const override;
+    QList<Application> applications() const override;
 
 private:
     mutable std::optional<QHash<QString, QString>> m_pathOfName;

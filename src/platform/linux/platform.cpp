@@ -1,9 +1,13 @@
 #include "platform/platform.h"
 
+#include "platform/linux/autostartentry.h"
 #include "platform/linux/gioappcatalog.h"
+#include "platform/linux/gioopener.h"
 #include "platform/linux/linuxinstance.h"
+#include "platform/linux/pickerprogram.h"
 #include "platform/linux/portaldesktop.h"
 #include "platform/linux/quitsignals.h"
+#include "platform/linux/statusnotifier.h"
 #include "platform/linux/x11/xcbpanelhost.h"
 #include "platform/linux/x11/xcbpointersource.h"
 #include "platform/linux/x11/xcbscreensource.h"
@@ -23,6 +27,9 @@ Platform makePlatform()
     platform.pointer = std::make_unique<XcbPointerSource>();
     platform.panelHost = std::make_unique<XcbPanelHost>();
     platform.instance = std::make_unique<LinuxInstance>();
+    platform.statusItem = std::make_unique<StatusNotifier>();
+    platform.loginItem = std::make_unique<AutostartEntry>();
+    platform.filePicker = std::make_unique<PickerProgram>();
     platform.quitSignals = std::make_unique<QuitSignals>();
     return platform;
 }
@@ -30,7 +37,8 @@ Platform makePlatform()
 Platform makePlatformWithoutDisplay()
 {
     return {.desktop = std::make_unique<PortalDesktop>(),
-            .applications = std::make_unique<GioAppCatalog>()};
+            .applications = std::make_unique<GioAppCatalog>(),
+            .opener = std::make_unique<GioOpener>()};
 }
 
 } // namespace quib

@@ -1,6 +1,7 @@
 #include "platform/linux/portaldesktop.h"
 
 #include "platform/linux/sessionbus.h"
+#include "platform/linux/x11/xserver.h"
 
 #include <QDBusMessage>
 #include <QDBusMetaType>
@@ -60,6 +61,11 @@ QString PortalDesktop::fontFamily() const
     const auto isChosen
         = family != "Sans Serif"_L1 && QGuiApplication::platformName() != "offscreen"_L1;
     return isChosen || !QFontDatabase::hasFamily(inter) ? family : inter;
+}
+
+void PortalDesktop::beep()
+{
+    ringBell();
 }
 
 void PortalDesktop::readSettings()

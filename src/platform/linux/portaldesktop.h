@@ -18,6 +18,7 @@ public:
 
     bool isMotionReduced() const override { return m_wantsLessMotion || !m_allowsAnimations; }
     QString fontFamily() const override;
+    void beep() override;
 
 private Q_SLOTS:
     void takeSetting(const QString& space, const QString& key, const QDBusVariant& value);

@@ -51,6 +51,14 @@ xcb_atom_t atomNamed(xcb_connection_t* connection, std::string_view name)
     return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
 }
 
+void ringBell()
+{
+    if (auto* connection = qtConnection()) {
+        xcb_bell(connection, 0);
+        xcb_flush(connection);
+    }
+}
+
 const xcb_generic_event_t* xcbEvent(const QByteArray& eventType, const void* message)
 {
     const auto isXcb = eventType == "xcb_generic_event_t";

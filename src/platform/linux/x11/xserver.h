@@ -39,6 +39,9 @@ xcb_window_t rootWindow(xcb_connection_t* connection);
 /// Asks the server: for start-up.
 xcb_atom_t atomNamed(xcb_connection_t* connection, std::string_view name);
 
+/// As loud as the user has set it; nothing where Qt shows its windows in another way.
+void ringBell();
+
 /// The kind of an event, whether the server or another program sent it.
 inline int eventKind(const xcb_generic_event_t& event)
 {

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QObject>
+#include <QUrl>
+
+#include <optional>
+
+namespace quib {
+
+class AppCatalog;
+class Opener;
+
+/// The only way to open web addresses, files, folders and applications. On the main thread; nothing
+/// waits and nothing is reported.
+class Actions : public QObject {
+    Q_OBJECT
+
+public:
+    /// Both are borrowed and outlive this.
+    Actions(Opener& opener, const AppCatalog& catalog);
+
+    /// A path, with "~" for the home folder, or a web address, with or without its scheme.
+    Q_INVOKABLE void open(const QString& target);
+    /// The folder as a project in a code editor; in the file manager where none is installed.
+    Q_INVOKABLE void openInEditor(const QString& path);
+    /// Shows the thing selected in its folder.
+    Q_INVOKABLE void reveal(const QString& path);
+
+private:
+    Opener& m_opener;
+    const AppCatalog& m_catalog;
+};
+
+/// What a target means: the location of a file, or a web address. Absent when it can be neither.
+std::optional<QUrl> locationOf(const QString& target, const QString& home);
+
+} // namespace quib

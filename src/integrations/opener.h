@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+#include <QUrl>
+
+namespace quib {
+
+/// Hands things to the programs of the desktop. Implemented once per platform. Every call is on the
+/// main thread and returns at once; what can't be opened is passed over in silence. Names reach the
+/// programs as they stand and never pass through a shell. Paths are absolute.
+class Opener {
+public:
+    Opener() = default;
+    virtual ~Opener() = default;
+    Opener(const Opener&) = delete;
+    Opener& operator=(const Opener&) = delete;
+
+    /// A folder in the file manager, a document in its default application; an application is
+    /// launched.
+    virtual void openPath(const QString& path) = 0;
+    /// In the default application of its scheme.
+    virtual void openAddress(const QUrl& address) = 0;
+    /// With an application as the catalog names it, or with a program file.
+    virtual void openWith(const QString& path, const QString& application) = 0;
+    /// In the editor for plain text, whatever the file's own type is.
+    virtual void openInTextEditor(const QString& path) = 0;
+    /// Shows the thing itself, selected in the folder that holds it.
+    virtual void reveal(const QString& path) = 0;
+};
+
+} // namespace quib

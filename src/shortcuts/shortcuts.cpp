@@ -1,0 +1,82 @@
+#include "shortcuts/shortcuts.h"
+
+#include "model/atomicfile.h"
+#include "model/datafolder.h"
+#include "shortcuts/startertext.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace quib {
+
+namespace {
+
+constexpr qint64 LargestFile = 16 * 1024 * 1024; // No hand writes as much; more may be endless.
+
+const auto Problem = u"shortcuts.json has a typo, so these are the last working buttons. Check for "
+                     "a missing comma or quote."_s;
+
+std::optional<ShortcutConfig> load(const QString& path)
+{
+    QFile file(path);
+    const bool isFile = QFileInfo(path).isFile() && file.size() <= LargestFile;
+    return isFile && file.open(QIODevice::ReadOnly) ? decodeShortcuts(file.readAll())
+                                                    : std::nullopt;
+}
+
+} // namespace
+
+Shortcuts& Shortcuts::shared()
+{
+    static Shortcuts shortcuts;
+    return shortcuts;
+}
+
+QString Shortcuts::file()
+{
+    return QDir(dataFolder()).filePath(u"shortcuts.json"_s);
+}
+
+void Shortcuts::reload()
+{
+    const auto path = file();
+    if (!QFileInfo::exists(path)) {
+        replaceFile(path, starterShortcuts());
+    }
+    if (const auto config = load(path)) {
+        setGroups(config->groups);
+        setProblem(std::nullopt);
+        return;
+    }
+    if (m_groups.isEmpty()) {
+        setGroups(decodeShortcuts(starterShortcuts()).value_or(ShortcutConfig()).groups);
+    }
+    setProblem(Problem);
+}
+
+void Shortcuts::edit(const std::function<void(const QString& file)>& openInTextEditor)
+{
+    shared().reload();
+    openInTextEditor(QFileInfo(file()).absoluteFilePath());
+}
+
+void Shortcuts::setGroups(const QList<ShortcutGroup>& groups)
+{
+    if (m_groups != groups) {
+        m_groups = groups;
+        Q_EMIT groupsChanged();
+    }
+}
+
+void Shortcuts::setProblem(const std::optional<QString>& problem)
+{
+    if (m_problem != problem) {
+        m_problem = problem;
+        Q_EMIT problemChanged();
+    }
+}
+
+} // namespace quib

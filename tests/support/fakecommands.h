@@ -1,0 +1,29 @@
+#pragma once
+
+#include "app/notch/commands.h"
+
+#include <QStringList>
+
+#include <utility>
+
+/// Writes down what the views ask for. A choice stays open until the test answers it.
+class FakeCommands final : public quib::Commands {
+public:
+    QStringList asked;
+    QList<Completion> choices;
+    quib::StatusMenu statusMenu;
+    bool inStatusBar = true;
+
+    void pick(bool directories, const std::optional<QUrl>& startIn, Completion completion) override
+    {
+        asked << QStringLiteral("pick %1 in %2")
+                     .arg(directories ? QStringLiteral("folder") : QStringLiteral("application"),
+                          startIn.value_or(QUrl()).toLocalFile());
+        choices << std::move(completion);
+    }
+    void takeKeyboard() override { asked << QStringLiteral("take keyboard"); }
+    void editShortcuts() override { asked << QStringLiteral("edit shortcuts"); }
+    void quit() override { asked << QStringLiteral("quit"); }
+    quib::StatusMenu* menu() override { return &statusMenu; }
+    bool isMenuInStatusBar() const override { return inStatusBar; }
+};
