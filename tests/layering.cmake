@@ -1,6 +1,6 @@
 # Run by CTest: what the files of each folder may include, of ours, of Qt and of other libraries.
 # Linking alone is no fence: where only Qt Core is linked <QColor> fails, but <QtGui/QColor> compiles.
-set(folders model brand shortcuts integrations app/notch app views platform)
+set(folders model brand shortcuts integrations app/notch app views platform picker)
 
 set(ours_model        "model")
 set(ours_brand        "brand")
@@ -9,8 +9,10 @@ set(ours_integrations "integrations|model")
 set(ours_app/notch    "app/notch|model")
 set(ours_views        "views|app/notch|shortcuts|integrations|brand|model")
 set(ours_platform     "platform|platform/.*|app/notch|integrations|brand|model")
+set(ours_picker       "picker|platform|integrations|brand")
 set(ours_app          "app|app/notch|views|integrations|shortcuts|brand|model|platform")
 
+set(scene_without_widgets "Qt(Qml|Quick|DBus)/|Q(Qml|Quick|DBus|SG)[A-Z]")
 set(scene "Qt(Qml|Quick|DBus|Widgets)/|Q(Qml|Quick|DBus|SG)[A-Z]")
 set(desktop "xcb/|gio/|glib")
 set(json_and_icu "simdjson|rapidjson|unicode/")
@@ -21,6 +23,7 @@ set(never_in_integrations "${scene}|${desktop}|${json_and_icu}")
 set(never_in_app/notch    "${scene}|${desktop}|${json_and_icu}")
 set(never_in_views        "Qt(DBus|Widgets)/|QDBus[A-Z]|${desktop}|${json_and_icu}")
 set(never_in_platform     "QtQml/|QQml[A-Z]|${json_and_icu}")
+set(never_in_picker       "${scene_without_widgets}|${desktop}|${json_and_icu}")
 set(never_in_app          "Qt(DBus|Widgets)/|QDBus[A-Z]|${desktop}|${json_and_icu}")
 
 foreach(folder IN LISTS folders)

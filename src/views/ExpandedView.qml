@@ -31,6 +31,7 @@ FocusScope {
         anchors.topMargin: 8
         height: Math.max(30, root.model.notchSize.height)
         model: root.model
+        commands: root.commands
     }
 
     FocusScope {

@@ -42,6 +42,12 @@ FocusScope {
         return Math.max(0, collapsed + (expanded - collapsed) * spring.value);
     }
 
+    Shortcut {
+        sequences: [StandardKey.Quit]
+
+        onActivated: root.commands.quit()
+    }
+
     RunningTimer {
         id: timer
 

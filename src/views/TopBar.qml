@@ -13,6 +13,28 @@ Item {
     id: root
 
     required property NotchModel model
+    required property Commands commands
+
+    // Where no status bar offers the menu.
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        enabled: !root.commands.isMenuInStatusBar
+
+        onTapped: point => {
+            root.commands.menu.open();
+            menu.x = point.position.x;
+            menu.open();
+        }
+    }
+
+    QuibMenu {
+        id: menu
+
+        objectName: "statusMenu"
+        model: root.commands.menu
+
+        onActivated: row => root.commands.menu.choose(row)
+    }
 
     Row {
         id: tabs

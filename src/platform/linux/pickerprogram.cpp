@@ -1,15 +1,121 @@
 #include "platform/linux/pickerprogram.h"
 
+#include "platform/linux/x11/xcbpanelhost.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
 namespace quib {
 
-void PickerProgram::chooseFolder(const std::optional<QUrl>& /*startIn*/, Answer answer)
+namespace {
+
+QString program()
 {
-    answer({});
+    return QCoreApplication::applicationDirPath() + u"/quib-picker"_s;
+}
+
+/// What the panel set for itself is not meant for others.
+QProcessEnvironment environment()
+{
+    auto variables = QProcessEnvironment::systemEnvironment();
+    variables.remove(u"QT_QPA_UPDATE_IDLE_TIME"_s);
+    return variables;
+}
+
+QString rectText(const QRect& rect)
+{
+    return u"%1,%2,%3,%4"_s.arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
+}
+
+} // namespace
+
+/// One run of the program. Its answer is given exactly once, unless we end first.
+class PickerProgram::Choice : public QObject {
+public:
+    Choice(XcbPanelHost& host, Answer answer, QObject* parent)
+        : QObject(parent)
+        , m_host(host)
+        , m_answer(std::move(answer))
+    {
+        connect(&m_process, &QProcess::readyReadStandardOutput, this, &Choice::read);
+        connect(&m_process, &QProcess::finished, this, &Choice::end);
+        connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+            if (error == QProcess::FailedToStart) {
+                QMetaObject::invokeMethod(this, &Choice::end, Qt::QueuedConnection);
+            }
+        });
+    }
+
+    void start(const QStringList& arguments)
+    {
+        m_process.setProcessEnvironment(environment());
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.start(program(), arguments);
+    }
+
+    /// The answer comes once the program has ended.
+    void cancel()
+    {
+        m_isCancelled = true;
+        m_process.kill();
+    }
+
+private:
+    void read()
+    {
+        while (m_process.canReadLine()) {
+            const auto line = m_process.readLine().trimmed();
+            if (line.startsWith("shown ")) {
+                m_host.placeBelow(line.mid(6).toUInt());
+            } else if (line.startsWith("chosen ")) {
+                m_chosen = QUrl::fromEncoded(line.mid(7), QUrl::StrictMode);
+            }
+        }
+    }
+
+    void end()
+    {
+        read();
+        m_host.orderFront();
+        deleteLater();
+        if (const auto answer = std::exchange(m_answer, nullptr)) {
+            answer(m_isCancelled ? std::nullopt : m_chosen);
+        }
+    }
+
+    XcbPanelHost& m_host;
+    Answer m_answer;
+    QProcess m_process;
+    std::optional<QUrl> m_chosen;
+    bool m_isCancelled = false;
+};
+
+PickerProgram::PickerProgram(XcbPanelHost& host)
+    : m_host(host)
+{
+}
+
+void PickerProgram::chooseFolder(const std::optional<QUrl>& startIn, Answer answer)
+{
+    choose({u"--folder"_s, startIn.value_or(QUrl()).toLocalFile()}, std::move(answer));
 }
 
 void PickerProgram::chooseApplication(Answer answer)
 {
-    answer({});
+    choose({u"--application"_s}, std::move(answer));
+}
+
+void PickerProgram::choose(const QStringList& arguments, Answer answer)
+{
+    for (auto* open : m_open.children()) {
+        static_cast<Choice*>(open)->cancel();
+    }
+    auto* choice = new Choice(m_host, std::move(answer), &m_open);
+    choice->start(QStringList(arguments) << u"--clear-of"_s << rectText(m_host.cardFrame()));
 }
 
 } // namespace quib

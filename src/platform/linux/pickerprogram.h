@@ -2,13 +2,30 @@
 
 #include "app/notch/filepicker.h"
 
+#include <QObject>
+#include <QStringList>
+
 namespace quib {
 
-/// Shows the choice in a program of its own: its end, however it comes, ends the choice.
+class XcbPanelHost;
+
+/// Shows the choice in a program of its own: whatever befalls its window, this one goes on, and its
+/// end, however it comes, ends the choice.
 class PickerProgram final : public FilePicker {
 public:
+    /// The host is borrowed and outlives this.
+    explicit PickerProgram(XcbPanelHost& host);
+
     void chooseFolder(const std::optional<QUrl>& startIn, Answer answer) override;
     void chooseApplication(Answer answer) override;
+
+private:
+    class Choice;
+
+    void choose(const QStringList& arguments, Answer answer);
+
+    XcbPanelHost& m_host;
+    QObject m_open; ///< Parent of the choices that have not ended.
 };
 
 } // namespace quib

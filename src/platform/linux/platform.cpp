@@ -25,11 +25,12 @@ Platform makePlatform()
     auto platform = makePlatformWithoutDisplay();
     platform.screens = std::make_unique<XcbScreenSource>();
     platform.pointer = std::make_unique<XcbPointerSource>();
-    platform.panelHost = std::make_unique<XcbPanelHost>();
+    auto panelHost = std::make_unique<XcbPanelHost>();
+    platform.filePicker = std::make_unique<PickerProgram>(*panelHost);
+    platform.panelHost = std::move(panelHost);
     platform.instance = std::make_unique<LinuxInstance>();
     platform.statusItem = std::make_unique<StatusNotifier>();
     platform.loginItem = std::make_unique<AutostartEntry>();
-    platform.filePicker = std::make_unique<PickerProgram>();
     platform.quitSignals = std::make_unique<QuitSignals>();
     return platform;
 }

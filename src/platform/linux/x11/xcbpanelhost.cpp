@@ -5,6 +5,8 @@
 #include <QPlatformSurfaceEvent>
 #include <QTransform>
 
+#include <array>
+
 namespace quib {
 
 namespace {
@@ -28,6 +30,21 @@ QRegion toPixels(const QPainterPath& points, double scale)
         pixels += QRegion(polygon.toPolygon(), points.fillRule());
     }
     return pixels;
+}
+
+/// The window itself, or the frame of a window manager around it; none when it is gone.
+xcb_window_t topLevelOf(xcb_window_t window)
+{
+    auto* connection = qtConnection();
+    while (window != XCB_NONE && connection != nullptr) {
+        const XcbOwned<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
+        if (!tree || tree->parent == tree->root) {
+            return tree ? window : xcb_window_t(XCB_NONE);
+        }
+        window = tree->parent;
+    }
+    return XCB_NONE;
 }
 
 } // namespace
@@ -94,6 +111,23 @@ void XcbPanelHost::giveBackKeyboard(std::optional<quint32> click)
     if (nativeWindow() != XCB_NONE) {
         m_keyboard.giveBack(nativeWindow(), click);
     }
+}
+
+QRect XcbPanelHost::cardFrame() const
+{
+    return m_window ? m_inputRegion.boundingRect().translated(m_window->position()) : QRect();
+}
+
+void XcbPanelHost::placeBelow(xcb_window_t window)
+{
+    const auto above = topLevelOf(window);
+    if (nativeWindow() == XCB_NONE || above == XCB_NONE) {
+        return;
+    }
+    const std::array<uint32_t, 2> values{above, XCB_STACK_MODE_BELOW};
+    xcb_configure_window(qtConnection(), nativeWindow(),
+                         XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, values.data());
+    xcb_flush(qtConnection());
 }
 
 bool XcbPanelHost::eventFilter(QObject* object, QEvent* event)

@@ -27,6 +27,11 @@ public:
     void takeKeyboard() override;
     void giveBackKeyboard(std::optional<quint32> click) override;
 
+    /// Where clicks stay with the panel, in global points.
+    QRect cardFrame() const;
+    /// Right beneath that window of another program, so that all of that one is seen.
+    void placeBelow(xcb_window_t window);
+
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
