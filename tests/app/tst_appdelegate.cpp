@@ -1,5 +1,6 @@
 #include "app/appdelegate.h"
 
+#include "shortcuts/shortcuts.h"
 #include "support/fakeshell.h"
 #include "support/handclock.h"
 
@@ -251,12 +252,18 @@ void AppDelegateTest::collapse_keepsTheTab()
 void AppDelegateTest::launch_goesInOrder()
 {
     m_shell->asked.clear();
+    QFile shortcuts(m_folder->filePath(u"shortcuts.json"_s));
+    QVERIFY(shortcuts.open(QIODevice::WriteOnly));
+    shortcuts.write(R"({"groups": [{"title": "Only here", "buttons": []}]})");
+    shortcuts.close();
+    connect(&quib::Shortcuts::shared(), &quib::Shortcuts::groupsChanged, m_delegate.get(),
+            [this] { m_shell->asked << u"reload shortcuts"_s; });
 
     m_delegate->applicationDidFinishLaunching();
 
-    QCOMPARE(
-        m_shell->asked,
-        (QStringList{u"adopt"_s, u"place at 580,0"_s, u"let clicks through"_s, u"order front"_s}));
+    QCOMPARE(m_shell->asked,
+             (QStringList{u"reload shortcuts"_s, u"adopt"_s, u"place at 580,0"_s,
+                          u"let clicks through"_s, u"order front"_s, u"install status item"_s}));
 }
 
 void AppDelegateTest::expansion_takesClicksAndCollapseLetsThemThrough()

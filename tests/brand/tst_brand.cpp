@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include <cmath>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 using quib::Brand;
@@ -20,6 +21,8 @@ private Q_SLOTS:
     void color_ofNoStatus_isTheDarkerGrey_data();
     void color_ofNoStatus_isTheDarkerGrey();
     void white_takesItsOpacity();
+    void named_meansThatColour_data();
+    void named_meansThatColour();
 };
 
 namespace {
@@ -43,6 +46,7 @@ void BrandTest::opaqueColours_areByteValues_data()
     QTest::addRow("live") << Brand::live() << u"#10b981"_s;
     QTest::addRow("muted") << Brand::muted() << u"#a8a4b8"_s;
     QTest::addRow("muted2") << Brand::muted2() << u"#7a7588"_s;
+    QTest::addRow("gold") << Brand::gold() << u"#f5c542"_s;
 }
 
 void BrandTest::opaqueColours_areByteValues()
@@ -115,6 +119,56 @@ void BrandTest::white_takesItsOpacity()
 {
     QCOMPARE(Brand::white(0.12).name(), u"#ffffff"_s);
     QVERIFY(isNear(Brand::white(0.12).alphaF(), 0.12));
+}
+
+void BrandTest::named_meansThatColour_data()
+{
+    QTest::addColumn<std::optional<QString>>("word");
+    QTest::addColumn<QColor>("wanted");
+
+    const QColor green(0x22, 0xC5, 0x5E);
+    QTest::addRow("no word") << std::optional<QString>() << Brand::glow();
+    const auto add = [](const char* word, const QColor& wanted) {
+        QTest::addRow("'%s'", word) << std::optional(QString::fromUtf8(word)) << wanted;
+    };
+    add("", Brand::glow());
+    add("purple", Brand::glow());
+    add("PURPLE", Brand::glow());
+    add("gold", Brand::gold());
+    add("Gold", Brand::gold());
+    add("#gold", Brand::glow());
+    add("#22c55e", green);
+    add("22c55e", green);
+    add("#22C55E", green);
+    add("##22C55E##", green);
+    add("22c55e#", green);
+    add("#22c55", Brand::glow());
+    add("#22c55e80", Brand::glow());
+    add("22#c55e", Brand::glow());
+    add("22#55e", Brand::glow());
+    add(" 22c55e", Brand::glow());
+    add("22c55 ", Brand::glow());
+    add("0x22c5", Brand::glow());
+    add("+22c55", Brand::glow());
+    add("-22c55", Brand::glow());
+    add("22c55g", Brand::glow());
+    add("abc", Brand::glow());
+    add("red", Brand::glow());
+    add("######", Brand::glow());
+    add("000000", QColor(0, 0, 0));
+    add("ffffff", QColor(255, 255, 255));
+    add("\xEF\xBC\x91\xEF\xBC\x91\xEF\xBC\x91\xEF\xBC\x91\xEF\xBC\x91\xEF\xBC\x91", Brand::glow());
+}
+
+void BrandTest::named_meansThatColour()
+{
+    QFETCH(std::optional<QString>, word);
+    QFETCH(QColor, wanted);
+
+    const auto color = Brand::named(word);
+
+    QCOMPARE(color.name(), wanted.name());
+    QCOMPARE(color.alphaF(), 1.0F);
 }
 
 QTEST_GUILESS_MAIN(BrandTest)

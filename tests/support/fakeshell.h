@@ -110,13 +110,25 @@ public:
 
 class FakeStatusItem final : public quib::StatusItem {
 public:
+    explicit FakeStatusItem(QStringList& asked)
+        : m_asked(asked)
+    {
+    }
+
     quib::StatusIcon icon;
     QList<quib::MenuItem> menu;
     bool shown = true;
 
-    void install(const quib::StatusIcon& installed) override { icon = installed; }
+    void install(const quib::StatusIcon& installed) override
+    {
+        m_asked << QStringLiteral("install status item");
+        icon = installed;
+    }
     void setMenu(const QList<quib::MenuItem>& items) override { menu = items; }
     bool isShown() const override { return shown; }
+
+private:
+    QStringList& m_asked;
 };
 
 class FakeLoginItem final : public quib::LoginItem {
@@ -164,7 +176,7 @@ struct FakeShell {
                             .desktop = std::make_unique<FakeDesktop>(),
                             .applications = std::make_unique<FakeAppCatalog>(),
                             .opener = std::make_unique<FakeOpener>(),
-                            .statusItem = std::make_unique<FakeStatusItem>(),
+                            .statusItem = std::make_unique<FakeStatusItem>(asked),
                             .loginItem = std::make_unique<FakeLoginItem>(),
                             .filePicker = std::make_unique<FakeFilePicker>()};
     FakeScreenSource& screens = static_cast<FakeScreenSource&>(*platform.screens);

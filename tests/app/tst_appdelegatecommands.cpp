@@ -1,0 +1,296 @@
+#include "app/appdelegate.h"
+
+#include "support/fakeshell.h"
+#include "support/handclock.h"
+
+#include <QFileInfo>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using quib::AppDelegate;
+
+/// The menu and what it does, among fakes.
+class AppDelegateCommandsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void menu_hasItsLines();
+    void icon_isThereAtEachSize();
+    void openQuib_opensPinsAndTakesTheKeyboard();
+    void pressedItem_opensQuib();
+    void pin_isCheckedWhenTheMenuOpensNext();
+    void pin_expands();
+    void unpinning_collapsesWhenThePointerIsOutside();
+    void login_isSwitched();
+    void login_failing_beepsAndTellsTheTruth();
+    void login_changedElsewhere_isCheckedWhenTheMenuOpens();
+    void editShortcuts_writesTheFileAndOpensIt();
+    void showData_opensTheDataFolder();
+    void quit_endsTheEventLoop();
+
+    void pick_startsWhereItIsTold();
+    void pick_holdsTheCardOpenUntilItEnds_data();
+    void pick_holdsTheCardOpenUntilItEnds();
+    void picks_holdTheCardUntilTheLastOneEnds();
+    void pick_givesTheKeyboardAway();
+    void pick_endingAfterTheDelegate_touchesNothing();
+
+private:
+    void choose(const QString& title);
+    quib::MenuItem line(const QString& title) const;
+
+    HandClock m_hands;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<FakeShell> m_shell;
+    std::unique_ptr<AppDelegate> m_delegate;
+};
+
+void AppDelegateCommandsTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    qputenv("QUIB_DATA_DIR", m_folder->path().toLocal8Bit());
+    m_shell = std::make_unique<FakeShell>();
+    m_shell->pointer.now.position = {960, 700};
+    m_delegate = std::make_unique<AppDelegate>(std::move(m_shell->platform), m_hands.clock(),
+                                               m_hands.scheduler());
+    m_delegate->applicationDidFinishLaunching();
+    m_shell->asked.clear();
+}
+
+void AppDelegateCommandsTest::cleanup()
+{
+    m_delegate.reset();
+    m_shell.reset();
+}
+
+/// As the user does: the menu opens, then a line of it is pressed.
+void AppDelegateCommandsTest::choose(const QString& title)
+{
+    auto& item = m_shell->statusItem;
+    Q_EMIT item.menuWillOpen();
+    for (int row = 0; row < item.menu.size(); ++row) {
+        if (item.menu[row].title == title) {
+            Q_EMIT item.chosen(row);
+            return;
+        }
+    }
+    QFAIL("the menu has no such line");
+}
+
+quib::MenuItem AppDelegateCommandsTest::line(const QString& title) const
+{
+    Q_EMIT m_shell->statusItem.menuWillOpen();
+    for (const auto& item : std::as_const(m_shell->statusItem.menu)) {
+        if (item.title == title) {
+            return item;
+        }
+    }
+    return {};
+}
+
+void AppDelegateCommandsTest::menu_hasItsLines()
+{
+    const QList<quib::MenuItem> wanted{{.title = u"Open Quib"_s},
+                                       {.title = u"Keep Open (Pin)"_s, .isCheckable = true},
+                                       {},
+                                       {.title = u"Launch at Login"_s, .isCheckable = true},
+                                       {.title = u"Edit Shortcuts\u2026"_s},
+                                       {.title = u"Show Data Folder"_s},
+                                       {},
+                                       {.title = u"Quit Korvel Quib"_s, .keyEquivalent = u"q"_s}};
+
+    QVERIFY(m_shell->statusItem.menu == wanted);
+    QVERIFY(m_delegate->menu()->items() == wanted);
+}
+
+void AppDelegateCommandsTest::icon_isThereAtEachSize()
+{
+    const auto& icon = m_shell->statusItem.icon;
+
+    QCOMPARE(icon.accessibleName, u"Korvel Quib"_s);
+    QVERIFY(icon.images.size() >= 3);
+    for (const auto& image : icon.images) {
+        QVERIFY(!image.isNull());
+        QVERIFY(qAlpha(image.pixel(image.rect().center())) > 0);
+    }
+}
+
+void AppDelegateCommandsTest::openQuib_opensPinsAndTakesTheKeyboard()
+{
+    choose(u"Open Quib"_s);
+
+    QVERIFY(m_delegate->model().isExpanded());
+    QVERIFY(line(u"Keep Open (Pin)"_s).isChecked);
+    QVERIFY(m_shell->asked.contains(u"take keyboard"_s));
+}
+
+void AppDelegateCommandsTest::pressedItem_opensQuib()
+{
+    Q_EMIT m_shell->statusItem.pressed();
+
+    QVERIFY(m_delegate->model().isExpanded());
+    QVERIFY(m_delegate->model().isPinned());
+}
+
+void AppDelegateCommandsTest::pin_isCheckedWhenTheMenuOpensNext()
+{
+    QVERIFY(!line(u"Keep Open (Pin)"_s).isChecked);
+
+    m_delegate->model().setPinned(true);
+    QVERIFY(line(u"Keep Open (Pin)"_s).isChecked);
+
+    m_delegate->model().setPinned(false);
+    QVERIFY(!line(u"Keep Open (Pin)"_s).isChecked);
+}
+
+void AppDelegateCommandsTest::pin_expands()
+{
+    choose(u"Keep Open (Pin)"_s);
+
+    QVERIFY(m_delegate->model().isPinned());
+    QVERIFY(m_delegate->model().isExpanded());
+}
+
+void AppDelegateCommandsTest::unpinning_collapsesWhenThePointerIsOutside()
+{
+    choose(u"Keep Open (Pin)"_s);
+
+    choose(u"Keep Open (Pin)"_s);
+    QVERIFY(m_delegate->model().isExpanded());
+    m_delegate->checkHover();
+    m_hands.advance(60ms);
+
+    QVERIFY(!m_delegate->model().isExpanded());
+}
+
+void AppDelegateCommandsTest::login_isSwitched()
+{
+    choose(u"Launch at Login"_s);
+    QVERIFY(m_shell->loginItem.enabled);
+    QVERIFY(line(u"Launch at Login"_s).isChecked);
+
+    choose(u"Launch at Login"_s);
+    QVERIFY(!m_shell->loginItem.enabled);
+    QVERIFY(!line(u"Launch at Login"_s).isChecked);
+    QCOMPARE(m_shell->desktop.beeps, 0);
+}
+
+void AppDelegateCommandsTest::login_failing_beepsAndTellsTheTruth()
+{
+    m_shell->loginItem.fails = true;
+
+    choose(u"Launch at Login"_s);
+
+    QCOMPARE(m_shell->desktop.beeps, 1);
+    QVERIFY(!line(u"Launch at Login"_s).isChecked);
+}
+
+void AppDelegateCommandsTest::login_changedElsewhere_isCheckedWhenTheMenuOpens()
+{
+    m_shell->loginItem.enabled = true;
+
+    QVERIFY(line(u"Launch at Login"_s).isChecked);
+}
+
+void AppDelegateCommandsTest::editShortcuts_writesTheFileAndOpensIt()
+{
+    const auto file = m_folder->filePath(u"shortcuts.json"_s);
+    QVERIFY(QFile::remove(file));
+
+    choose(u"Edit Shortcuts…"_s);
+
+    QVERIFY(QFileInfo::exists(file));
+    QCOMPARE(m_shell->opener.asked, QStringList{u"edit "_s + file});
+}
+
+void AppDelegateCommandsTest::showData_opensTheDataFolder()
+{
+    choose(u"Show Data Folder"_s);
+
+    QCOMPARE(m_shell->opener.asked, QStringList{u"open "_s + m_folder->path()});
+}
+
+void AppDelegateCommandsTest::quit_endsTheEventLoop()
+{
+    QTimer::singleShot(0, this, [this] { choose(u"Quit Korvel Quib"_s); });
+
+    QCOMPARE(QCoreApplication::exec(), 0); // Runs into the time limit where nothing quits.
+}
+
+void AppDelegateCommandsTest::pick_startsWhereItIsTold()
+{
+    m_delegate->pick(true, QUrl::fromLocalFile(u"/srv/work"_s), {});
+    m_delegate->pick(true, {}, {});
+    m_delegate->pick(false, {}, {});
+
+    QCOMPARE(m_shell->filePicker.asked,
+             (QStringList{u"folder in /srv/work"_s, u"folder in "_s, u"application"_s}));
+}
+
+void AppDelegateCommandsTest::pick_holdsTheCardOpenUntilItEnds_data()
+{
+    QTest::addColumn<std::optional<QUrl>>("answer");
+    QTest::addColumn<int>("completions");
+
+    QTest::addRow("chosen") << std::optional(QUrl(u"file:///srv"_s)) << 1;
+    QTest::addRow("cancelled") << std::optional<QUrl>() << 0;
+}
+
+void AppDelegateCommandsTest::pick_holdsTheCardOpenUntilItEnds()
+{
+    QFETCH(std::optional<QUrl>, answer);
+    QList<QUrl> completed;
+    m_delegate->expand(false);
+
+    m_delegate->pick(true, {}, [&](const QUrl& chosen) { completed << chosen; });
+    m_delegate->checkHover();
+    m_hands.advance(1s);
+    QVERIFY(m_delegate->model().isExpanded());
+    QCOMPARE(m_delegate->model().holdOpen, 1);
+
+    m_shell->filePicker.open[0](answer);
+    QCOMPARE(m_delegate->model().holdOpen, 0);
+    QTEST(int(completed.size()), "completions");
+    m_delegate->checkHover();
+    m_hands.advance(60ms);
+    QVERIFY(!m_delegate->model().isExpanded());
+}
+
+void AppDelegateCommandsTest::picks_holdTheCardUntilTheLastOneEnds()
+{
+    m_delegate->pick(true, {}, {});
+    m_delegate->pick(false, {}, {});
+    QCOMPARE(m_delegate->model().holdOpen, 2);
+
+    m_shell->filePicker.open[0](std::nullopt);
+    QCOMPARE(m_delegate->model().holdOpen, 1);
+    m_shell->filePicker.open[1](std::nullopt);
+    QCOMPARE(m_delegate->model().holdOpen, 0);
+}
+
+void AppDelegateCommandsTest::pick_givesTheKeyboardAway()
+{
+    m_delegate->pick(true, {}, {});
+
+    QCOMPARE(m_shell->asked, QStringList{u"give back keyboard 0"_s});
+}
+
+void AppDelegateCommandsTest::pick_endingAfterTheDelegate_touchesNothing()
+{
+    m_delegate->pick(true, {}, {});
+    const auto answer = m_shell->filePicker.open[0];
+
+    m_delegate.reset();
+
+    answer(std::nullopt); // The sanitizers tell when this reaches what is gone.
+    QVERIFY(!m_delegate);
+}
+
+QTEST_MAIN(AppDelegateCommandsTest)
+#include "tst_appdelegatecommands.moc"
