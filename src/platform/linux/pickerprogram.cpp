@@ -13,7 +13,7 @@ namespace quib {
 
 namespace {
 
-QString program()
+QString programBesideOurs()
 {
     return QCoreApplication::applicationDirPath() + u"/quib-picker"_s;
 }
@@ -50,11 +50,11 @@ public:
         });
     }
 
-    void start(const QStringList& arguments)
+    void start(const QString& program, const QStringList& arguments)
     {
         m_process.setProcessEnvironment(environment());
-        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(program(), arguments);
+        m_process.setStandardErrorFile(QProcess::nullDevice());
+        m_process.start(program, arguments);
     }
 
     /// The answer comes once the program has ended.
@@ -94,8 +94,9 @@ private:
     bool m_isCancelled = false;
 };
 
-PickerProgram::PickerProgram(XcbPanelHost& host)
+PickerProgram::PickerProgram(XcbPanelHost& host, QString program)
     : m_host(host)
+    , m_program(program.isEmpty() ? programBesideOurs() : std::move(program))
 {
 }
 
@@ -115,7 +116,8 @@ void PickerProgram::choose(const QStringList& arguments, Answer answer)
         static_cast<Choice*>(open)->cancel();
     }
     auto* choice = new Choice(m_host, std::move(answer), &m_open);
-    choice->start(QStringList(arguments) << u"--clear-of"_s << rectText(m_host.cardFrame()));
+    choice->start(m_program,
+                  QStringList(arguments) << u"--clear-of"_s << rectText(m_host.cardFrame()));
 }
 
 } // namespace quib

@@ -3,6 +3,7 @@
 #include "app/notch/filepicker.h"
 
 #include <QObject>
+#include <QString>
 #include <QStringList>
 
 namespace quib {
@@ -13,8 +14,8 @@ class XcbPanelHost;
 /// end, however it comes, ends the choice.
 class PickerProgram final : public FilePicker {
 public:
-    /// The host is borrowed and outlives this.
-    explicit PickerProgram(XcbPanelHost& host);
+    /// The host is borrowed and outlives this. The program stands beside ours unless told.
+    explicit PickerProgram(XcbPanelHost& host, QString program = {});
 
     void chooseFolder(const std::optional<QUrl>& startIn, Answer answer) override;
     void chooseApplication(Answer answer) override;
@@ -25,6 +26,7 @@ private:
     void choose(const QStringList& arguments, Answer answer);
 
     XcbPanelHost& m_host;
+    QString m_program;
     QObject m_open; ///< Parent of the choices that have not ended.
 };
 

@@ -32,21 +32,6 @@ QRegion toPixels(const QPainterPath& points, double scale)
     return pixels;
 }
 
-/// The window itself, or the frame of a window manager around it; none when it is gone.
-xcb_window_t topLevelOf(xcb_window_t window)
-{
-    auto* connection = qtConnection();
-    while (window != XCB_NONE && connection != nullptr) {
-        const XcbOwned<xcb_query_tree_reply_t> tree(
-            xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
-        if (!tree || tree->parent == tree->root) {
-            return tree ? window : xcb_window_t(XCB_NONE);
-        }
-        window = tree->parent;
-    }
-    return XCB_NONE;
-}
-
 } // namespace
 
 XcbPanelHost::XcbPanelHost()

@@ -51,6 +51,20 @@ xcb_atom_t atomNamed(xcb_connection_t* connection, std::string_view name)
     return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
 }
 
+xcb_window_t topLevelOf(xcb_window_t window)
+{
+    auto* connection = qtConnection();
+    while (window != XCB_NONE && connection != nullptr) {
+        const XcbOwned<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
+        if (!tree || tree->parent == tree->root) {
+            return tree ? window : xcb_window_t(XCB_NONE);
+        }
+        window = tree->parent;
+    }
+    return XCB_NONE;
+}
+
 void ringBell()
 {
     if (auto* connection = qtConnection()) {

@@ -39,6 +39,9 @@ xcb_window_t rootWindow(xcb_connection_t* connection);
 /// Asks the server: for start-up.
 xcb_atom_t atomNamed(xcb_connection_t* connection, std::string_view name);
 
+/// The window itself, or the frame that a window manager has put around it; none when it is gone.
+xcb_window_t topLevelOf(xcb_window_t window);
+
 /// As loud as the user has set it; nothing where Qt shows its windows in another way.
 void ringBell();
 
