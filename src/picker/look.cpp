@@ -3,15 +3,33 @@
 #include "brand/brand.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QIcon>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
 
 using namespace Qt::StringLiterals;
 
 namespace quib {
 
 namespace {
+
+/// Buttons of words alone.
+class PlainStyle : public QProxyStyle {
+public:
+    PlainStyle()
+        : QProxyStyle(u"Fusion"_s)
+    {
+    }
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override
+    {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+            ? 0
+            : QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+};
 
 QPalette palette()
 {
@@ -33,10 +51,13 @@ QPalette palette()
 
 } // namespace
 
-void wearOurColors()
+void wearOurLook(const QString& fontFamily)
 {
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new PlainStyle); // The application takes it.
     QApplication::setPalette(palette());
+    auto font = QApplication::font();
+    font.setFamily(fontFamily);
+    QApplication::setFont(font);
     QIcon::setFallbackSearchPaths({u"/usr/share/pixmaps"_s});
     QIcon::setFallbackThemeName(u"Adwaita"_s);
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QString>
+
 namespace quib {
 
-/// Dresses the windows of this program in the colours of the panel, and finds icons where the
+/// Dresses the windows of this program in the colours and letters of the panel, and finds icons where the
 /// desktop names no theme. Needs a QApplication.
-void wearOurColors();
+void wearOurLook(const QString& fontFamily);
 
 } // namespace quib

@@ -71,12 +71,19 @@ std::unique_ptr<QDialog> folderDialog(const QString& start)
     dialog->setOption(QFileDialog::DontUseNativeDialog); // Others may start elsewhere.
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
+    for (const auto& ofTypes : {u"fileTypeLabel"_s, u"fileTypeCombo"_s}) {
+        if (auto* part = dialog->findChild<QWidget*>(ofTypes)) {
+            part->hide(); // There is one type only.
+        }
+    }
     return dialog;
 }
 
-std::unique_ptr<QDialog> applicationDialog()
+std::unique_ptr<QDialog> dialogFor(const QCommandLineParser& line, const Platform& platform)
 {
-    const auto platform = makePlatformWithoutDisplay();
+    if (line.isSet(u"folder"_s)) {
+        return folderDialog(line.value(u"folder"_s));
+    }
     return std::make_unique<ApplicationDialog>(platform.applications->applications());
 }
 
@@ -104,8 +111,9 @@ void show(QDialog& dialog, Announcer& announcer, const QRect& card)
 
 int run(const QCommandLineParser& line)
 {
-    const auto dialog
-        = line.isSet(u"folder"_s) ? folderDialog(line.value(u"folder"_s)) : applicationDialog();
+    const auto platform = makePlatformWithoutDisplay();
+    wearOurLook(platform.desktop->fontFamily());
+    const auto dialog = dialogFor(line, platform);
     QSocketNotifier asker(STDIN_FILENO, QSocketNotifier::Read);
     QObject::connect(&asker, &QSocketNotifier::activated, dialog.get(), &QDialog::reject);
     QObject::connect(dialog.get(), &QDialog::finished, qApp, &QCoreApplication::exit);
@@ -133,6 +141,5 @@ int main(int argc, char** argv)
     line.addOption({u"application"_s, u"choose an application"_s});
     line.addOption({u"clear-of"_s, u"where the window must not be"_s, u"x,y,width,height"_s});
     line.process(application);
-    quib::wearOurColors();
     return quib::run(line);
 }
