@@ -43,7 +43,7 @@ FocusScope {
     }
 
     Shortcut {
-        sequences: [StandardKey.Quit]
+        sequence: "Ctrl+Q" // Where Ctrl is the platform's command modifier.
 
         onActivated: root.commands.quit()
     }

@@ -14,6 +14,7 @@ class RootViewTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void quitKey_quits();
     void collapsed_overhangsTheNotchByFivePointsOnEachSide();
     void runningTimer_widensTheShapeByTheWings();
     void expanded_isTheCardAtTheTopCentre();
@@ -193,6 +194,18 @@ void RootViewTest::droppedFiles_areAddedOneCallEach()
     QCOMPARE(changes.count(), 2);
     QCOMPARE(panel.workspace.store->data().shelf.front().path, u"/tmp/second"_s);
     QCOMPARE(panel.workspace.store->data().shelf.size(), 2);
+}
+
+void RootViewTest::quitKey_quits()
+{
+    ShownPanel panel;
+    panel.open(Tab::Tasks);
+    panel.window->requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(panel.window.get()));
+
+    QTest::keyClick(panel.window.get(), Qt::Key_Q, Qt::ControlModifier);
+
+    QCOMPARE(panel.commands.asked, QStringList{u"quit"_s});
 }
 
 QTEST_MAIN(RootViewTest)

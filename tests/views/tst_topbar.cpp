@@ -33,10 +33,29 @@ private Q_SLOTS:
     void pin_standsEightPointsAfterTheDate();
     void pin_showsWhetherItKeepsOpen();
     void clickingThePin_invertsIt();
+    void rightClick_opensTheMenu();
+    void rightClick_whereAStatusBarHasTheMenu_opensNothing();
+    void menu_choosesByKeyboard();
 
 private:
     static QList<QQuickItem*> buttons(const ShownPanel& panel);
+    static void rightClick(const ShownPanel& panel);
+    static bool isMenuOpen(const ShownPanel& panel);
 };
+
+void TopBarTest::rightClick(const ShownPanel& panel)
+{
+    const auto beside = panel.rect(u"topBar"_s).center().toPoint() - QPoint(30, 0);
+    QTest::mouseClick(panel.window.get(), Qt::RightButton, {}, beside);
+}
+
+bool TopBarTest::isMenuOpen(const ShownPanel& panel)
+{
+    return panel.item(u"topBar"_s)
+        ->findChild<QObject*>(u"statusMenu"_s)
+        ->property("opened")
+        .toBool();
+}
 
 QList<QQuickItem*> TopBarTest::buttons(const ShownPanel& panel)
 {
@@ -180,6 +199,50 @@ void TopBarTest::clickingThePin_invertsIt()
     panel.click(panel.item(u"pin"_s));
 
     QVERIFY(!panel.model.isPinned());
+}
+
+void TopBarTest::rightClick_opensTheMenu()
+{
+    ShownPanel panel;
+    panel.commands.inStatusBar = false;
+    panel.commands.statusMenu.setItems({{.title = u"Open"_s}});
+    const QSignalSpy aboutToOpen(&panel.commands.statusMenu, &quib::StatusMenu::aboutToOpen);
+    panel.open(Tab::Home);
+
+    rightClick(panel);
+
+    QTRY_VERIFY(isMenuOpen(panel));
+    QCOMPARE(aboutToOpen.size(), 1); // So that its check marks are fresh.
+}
+
+void TopBarTest::rightClick_whereAStatusBarHasTheMenu_opensNothing()
+{
+    ShownPanel panel;
+    panel.open(Tab::Home);
+
+    rightClick(panel);
+    panel.settle();
+
+    QVERIFY(!isMenuOpen(panel));
+}
+
+void TopBarTest::menu_choosesByKeyboard()
+{
+    ShownPanel panel;
+    panel.commands.inStatusBar = false;
+    panel.commands.statusMenu.setItems({{.title = u"Open"_s}, {}, {.title = u"Quit"_s}});
+    const QSignalSpy chosen(&panel.commands.statusMenu, &quib::StatusMenu::chosen);
+    panel.open(Tab::Home);
+    panel.window->requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(panel.window.get()));
+    rightClick(panel);
+    QTRY_VERIFY(isMenuOpen(panel));
+
+    QTest::keyClick(panel.window.get(), Qt::Key_Up);
+    QTest::keyClick(panel.window.get(), Qt::Key_Return);
+
+    QTRY_COMPARE(chosen.size(), 1);
+    QCOMPARE(chosen[0][0].toString(), u"Quit"_s);
 }
 
 QTEST_MAIN(TopBarTest)
