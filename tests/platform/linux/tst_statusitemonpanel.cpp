@@ -1,0 +1,2 @@
+#include <QTest>
+QTEST_GUILESS_MAIN(QObject)
