@@ -8,6 +8,8 @@ namespace quib {
 
 namespace {
 
+const auto NoBus = u"none"_s;
+
 bool hasSessionBus()
 {
     if (!qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")) {
@@ -21,7 +23,14 @@ bool hasSessionBus()
 
 QDBusConnection sessionBus()
 {
-    return hasSessionBus() ? QDBusConnection::sessionBus() : QDBusConnection(u"none"_s);
+    return hasSessionBus() ? QDBusConnection::sessionBus() : QDBusConnection(NoBus);
+}
+
+QDBusConnection ownSessionBus(const QString& connectionName)
+{
+    return hasSessionBus()
+        ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName)
+        : QDBusConnection(NoBus);
 }
 
 } // namespace quib

@@ -1,0 +1,493 @@
+#include "platform/linux/itemonbus.h"
+
+#include <QDBusMetaType>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <algorithm>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+using namespace quib;
+
+/// The menu as a status bar reads and uses it. The first layout has the ids 1 to 8.
+class MenuServiceTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void properties_data();
+    void properties();
+    void layout_isTheMenuInFull();
+    void layout_doublesLowLines();
+    void layout_asDeepAsAskedFor_data();
+    void layout_asDeepAsAskedFor();
+    void layout_givesOnlyTheNamedProperties();
+    void groupProperties_ofTheNamedItems_data();
+    void groupProperties_ofTheNamedItems();
+    void property_isGivenAlone();
+    void aboutToShow_bringsCheckMarksUpToDate();
+    void aboutToShow_nothingChanged_isFalse();
+    void aboutToShow_ofAnItem_doesNotOpenTheMenu();
+    void aboutToShowGroup_tellsWhatChangedAndWhatIsUnknown();
+    void opened_bringsCheckMarksUpToDate();
+    void setMenu_checkMark_tellsOnlyThat();
+    void setMenu_otherLayout_tellsAGrowingRevision();
+    void setMenu_same_tellsNothing();
+    void clicked_choosesTheRow();
+    void clicked_isAnsweredBeforeTheCommand();
+    void clicked_theProgramQuits_isAnswered();
+    void clickedInAGroup_choosesTheRow();
+    void clicked_onAnEarlierLayout_choosesNothing();
+    void otherEvents_chooseNothing_data();
+    void otherEvents_chooseNothing();
+    void malformedCall_isRefused_data();
+    void malformedCall_isRefused();
+    void hugeLists_areAnsweredBriefly();
+
+    void hear(const QDBusMessage& message) { m_heard.append(message); }
+
+private:
+    MenuNode layout(int parent = 0, int depth = -1, const QStringList& names = {}) const;
+    void listen();
+    QStringList heard() const;
+
+    std::unique_ptr<ItemOnBus> m_item;
+    std::unique_ptr<QSignalSpy> m_choices;
+    QList<QDBusMessage> m_heard;
+};
+
+namespace {
+
+constexpr int QuitId = QuitRow + 1;
+constexpr int PinId = PinRow + 1;
+
+const auto Clicked = u"clicked"_s;
+
+QVariant noData()
+{
+    return QVariant::fromValue(QDBusVariant(0));
+}
+
+MenuNode nodeIn(const QDBusVariant& variant)
+{
+    return qdbus_cast<MenuNode>(variant.variant());
+}
+
+/// A line as its reader sees it.
+QString lineOf(const MenuNode& node)
+{
+    const auto& properties = node.properties;
+    if (properties.value(u"type"_s) == u"separator"_s) {
+        return u"--"_s;
+    }
+    auto line = properties.value(u"label"_s).toString();
+    if (properties.value(u"toggle-type"_s) == u"checkmark"_s) {
+        line += properties.value(u"toggle-state"_s) == 1 ? u" [x]"_s : u" [ ]"_s;
+    }
+    const auto shortcuts = qdbus_cast<QList<QStringList>>(properties.value(u"shortcut"_s));
+    for (const auto& keys : shortcuts) {
+        line += u" "_s + keys.join(u'+');
+    }
+    return line;
+}
+
+QStringList linesOf(const MenuNode& menu)
+{
+    QStringList lines;
+    for (const auto& child : menu.children) {
+        lines << lineOf(nodeIn(child));
+    }
+    return lines;
+}
+
+QList<int> idsOf(const QList<MenuProperties>& group)
+{
+    QList<int> ids;
+    std::ranges::transform(group, std::back_inserter(ids), &MenuProperties::id);
+    return ids;
+}
+
+} // namespace
+
+void MenuServiceTest::init()
+{
+    m_item = std::make_unique<ItemOnBus>();
+    m_choices = std::make_unique<QSignalSpy>(m_item->get(), &StatusItem::chosen);
+    m_heard.clear();
+}
+
+void MenuServiceTest::cleanup()
+{
+    m_choices.reset();
+    m_item.reset();
+}
+
+MenuNode MenuServiceTest::layout(int parent, int depth, const QStringList& names) const
+{
+    const auto reply = m_item->callMenu(u"GetLayout"_s, {parent, depth, names});
+    return qdbus_cast<MenuNode>(reply.arguments().value(1));
+}
+
+/// To the signals of the menu.
+void MenuServiceTest::listen()
+{
+    for (const auto& name : {u"LayoutUpdated"_s, u"ItemsPropertiesUpdated"_s}) {
+        QVERIFY(m_item->host().connect(m_item->name(), u"/MenuBar"_s, u"com.canonical.dbusmenu"_s,
+                                       name, this, SLOT(hear(QDBusMessage))));
+    }
+}
+
+/// The names of the signals that came so far.
+QStringList MenuServiceTest::heard() const
+{
+    m_item->finishReading(); // The signals come before the answer.
+    QStringList names;
+    std::ranges::transform(m_heard, std::back_inserter(names), &QDBusMessage::member);
+    return names;
+}
+
+void MenuServiceTest::properties_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QVariant>("value");
+
+    QTest::addRow("Version") << u"Version"_s << QVariant(3U);
+    QTest::addRow("Status") << u"Status"_s << QVariant(u"normal"_s);
+    QTest::addRow("TextDirection") << u"TextDirection"_s << QVariant(u"ltr"_s);
+    QTest::addRow("IconThemePath") << u"IconThemePath"_s << QVariant(QStringList());
+}
+
+void MenuServiceTest::properties()
+{
+    QFETCH(const QString, name);
+
+    const auto all = m_item->properties(u"/MenuBar"_s, u"com.canonical.dbusmenu"_s);
+
+    QTEST(all.value(name), "value");
+}
+
+void MenuServiceTest::layout_isTheMenuInFull()
+{
+    const auto menu = layout();
+
+    QCOMPARE(menu.id, 0);
+    QCOMPARE(menu.properties.value(u"children-display"_s), u"submenu"_s);
+    QCOMPARE(linesOf(menu),
+             QStringList({u"Open Quib"_s, u"Keep Open (Pin) [ ]"_s, u"--"_s,
+                          u"Launch at Login [ ]"_s, u"Edit Shortcuts…"_s, u"Show Data Folder"_s,
+                          u"--"_s, u"Quit Korvel Quib Control+q"_s}));
+    for (const auto& child : menu.children) {
+        QCOMPARE(nodeIn(child).properties.value(u"enabled"_s), true);
+        QCOMPARE(nodeIn(child).properties.value(u"visible"_s), true);
+    }
+}
+
+void MenuServiceTest::layout_doublesLowLines()
+{
+    (*m_item)->setMenu({{.title = u"a_b__c"_s}});
+
+    QCOMPARE(linesOf(layout()), QStringList(u"a__b____c"_s));
+}
+
+void MenuServiceTest::layout_asDeepAsAskedFor_data()
+{
+    QTest::addColumn<int>("parent");
+    QTest::addColumn<int>("depth");
+    QTest::addColumn<qsizetype>("lines");
+
+    QTest::addRow("the menu alone") << 0 << 0 << qsizetype(0);
+    QTest::addRow("its lines") << 0 << 1 << qsizetype(8);
+    QTest::addRow("everything") << 0 << -1 << qsizetype(8);
+    QTest::addRow("far below zero") << 0 << std::numeric_limits<int>::min() << qsizetype(8);
+    QTest::addRow("deeper than it is") << 0 << std::numeric_limits<int>::max() << qsizetype(8);
+    QTest::addRow("one line, which holds none") << QuitId << -1 << qsizetype(0);
+}
+
+void MenuServiceTest::layout_asDeepAsAskedFor()
+{
+    QFETCH(const int, parent);
+    QFETCH(const int, depth);
+
+    const auto menu = layout(parent, depth);
+
+    QCOMPARE(menu.id, parent);
+    QTEST(menu.children.size(), "lines");
+}
+
+void MenuServiceTest::layout_givesOnlyTheNamedProperties()
+{
+    const auto menu = layout(0, -1, {u"toggle-state"_s, u"unknown"_s});
+
+    QVERIFY(menu.properties.isEmpty());
+    QVERIFY(nodeIn(menu.children[0]).properties.isEmpty());
+    QCOMPARE(nodeIn(menu.children[PinRow]).properties, QVariantMap({{u"toggle-state"_s, 0}}));
+}
+
+void MenuServiceTest::groupProperties_ofTheNamedItems_data()
+{
+    QTest::addColumn<QList<int>>("asked");
+    QTest::addColumn<QList<int>>("given");
+
+    QTest::addRow("two") << QList<int>{2, 8} << QList<int>{2, 8};
+    QTest::addRow("all") << QList<int>{} << QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8};
+    QTest::addRow("one, again and again") << QList<int>{2, 2, 2} << QList<int>{2};
+    QTest::addRow("unknown ones") << QList<int>{-1, 9, 2, 1'000'000} << QList<int>{2};
+}
+
+void MenuServiceTest::groupProperties_ofTheNamedItems()
+{
+    QFETCH(const QList<int>, asked);
+
+    const auto reply = m_item->callMenu(u"GetGroupProperties"_s,
+                                        {QVariant::fromValue(asked), QStringList{u"label"_s}});
+    const auto group = qdbus_cast<QList<MenuProperties>>(reply.arguments().value(0));
+
+    QTEST(idsOf(group), "given");
+}
+
+void MenuServiceTest::property_isGivenAlone()
+{
+    const auto reply = m_item->callMenu(u"GetProperty"_s, {QuitId, u"label"_s});
+
+    QCOMPARE(qdbus_cast<QDBusVariant>(reply.arguments().value(0)).variant(), u"Quit Korvel Quib"_s);
+}
+
+void MenuServiceTest::aboutToShow_bringsCheckMarksUpToDate()
+{
+    connect(m_item->get(), &StatusItem::menuWillOpen, this,
+            [this] { (*m_item)->setMenu(pinnedMenu()); });
+
+    const auto reply = m_item->callMenu(u"AboutToShow"_s, {0});
+
+    QCOMPARE(reply.arguments(), QVariantList{true});
+    QCOMPARE(linesOf(layout())[PinRow], u"Keep Open (Pin) [x]"_s);
+}
+
+void MenuServiceTest::aboutToShow_nothingChanged_isFalse()
+{
+    const QSignalSpy openings(m_item->get(), &StatusItem::menuWillOpen);
+
+    const auto reply = m_item->callMenu(u"AboutToShow"_s, {0});
+
+    QCOMPARE(reply.arguments(), QVariantList{false});
+    QCOMPARE(openings.size(), 1);
+}
+
+void MenuServiceTest::aboutToShow_ofAnItem_doesNotOpenTheMenu()
+{
+    const QSignalSpy openings(m_item->get(), &StatusItem::menuWillOpen);
+
+    const auto reply = m_item->callMenu(u"AboutToShow"_s, {PinId});
+
+    QCOMPARE(reply.arguments(), QVariantList{false});
+    QCOMPARE(openings.size(), 0);
+}
+
+void MenuServiceTest::aboutToShowGroup_tellsWhatChangedAndWhatIsUnknown()
+{
+    connect(m_item->get(), &StatusItem::menuWillOpen, this,
+            [this] { (*m_item)->setMenu(pinnedMenu()); });
+
+    const auto reply
+        = m_item->callMenu(u"AboutToShowGroup"_s, {QVariant::fromValue(QList<int>{0, PinId, 99})});
+
+    QCOMPARE(qdbus_cast<QList<int>>(reply.arguments().value(0)), QList<int>{0});
+    QCOMPARE(qdbus_cast<QList<int>>(reply.arguments().value(1)), QList<int>{99});
+}
+
+void MenuServiceTest::opened_bringsCheckMarksUpToDate()
+{
+    connect(m_item->get(), &StatusItem::menuWillOpen, this,
+            [this] { (*m_item)->setMenu(pinnedMenu()); });
+
+    m_item->callMenu(u"Event"_s, {0, u"opened"_s, noData(), 0U});
+
+    QCOMPARE(linesOf(layout())[PinRow], u"Keep Open (Pin) [x]"_s);
+}
+
+void MenuServiceTest::setMenu_checkMark_tellsOnlyThat()
+{
+    listen();
+
+    (*m_item)->setMenu(pinnedMenu());
+
+    QCOMPARE(heard(), QStringList(u"ItemsPropertiesUpdated"_s));
+    const auto updated = qdbus_cast<QList<MenuProperties>>(m_heard.first().arguments().value(0));
+    QCOMPARE(idsOf(updated), QList<int>{PinId});
+    QCOMPARE(updated.first().properties, QVariantMap({{u"toggle-state"_s, 1}}));
+}
+
+void MenuServiceTest::setMenu_otherLayout_tellsAGrowingRevision()
+{
+    const auto before
+        = m_item->callMenu(u"GetLayout"_s, {0, 0, QStringList()}).arguments().value(0).toUInt();
+    listen();
+
+    (*m_item)->setMenu({{.title = u"One"_s}});
+    (*m_item)->setMenu({{.title = u"Two"_s}});
+
+    QCOMPARE(heard(), QStringList({u"LayoutUpdated"_s, u"LayoutUpdated"_s}));
+    QCOMPARE(m_heard[0].arguments(), QVariantList({before + 1, 0}));
+    QCOMPARE(m_heard[1].arguments(), QVariantList({before + 2, 0}));
+    QCOMPARE(linesOf(layout()), QStringList(u"Two"_s));
+}
+
+void MenuServiceTest::setMenu_same_tellsNothing()
+{
+    listen();
+
+    (*m_item)->setMenu(quibMenu());
+
+    QCOMPARE(heard(), QStringList());
+}
+
+void MenuServiceTest::clicked_choosesTheRow()
+{
+    const auto reply = m_item->callMenu(u"Event"_s, {QuitId, Clicked, noData(), 0U});
+
+    QCOMPARE(reply.type(), QDBusMessage::ReplyMessage);
+    QTRY_COMPARE(m_choices->size(), 1);
+    QCOMPARE(m_choices->first(), QVariantList{QuitRow});
+}
+
+void MenuServiceTest::clicked_isAnsweredBeforeTheCommand()
+{
+    auto click = QDBusMessage::createMethodCall(m_item->name(), u"/MenuBar"_s,
+                                                u"com.canonical.dbusmenu"_s, u"Event"_s);
+    click << QuitId << Clicked << noData() << 0U;
+    QDBusPendingCall call = m_item->host().asyncCall(click, 5000);
+    connect(m_item->get(), &StatusItem::chosen, this, [&call] { call.waitForFinished(); });
+
+    QTRY_COMPARE(m_choices->size(), 1);
+
+    QCOMPARE(call.reply().type(), QDBusMessage::ReplyMessage);
+}
+
+void MenuServiceTest::clicked_theProgramQuits_isAnswered()
+{
+    for (int round = 0; round < 10; ++round) {
+        QProcess program;
+        program.start(QStringLiteral(STATUS_PROGRAM), QStringList());
+        QVERIFY(program.waitForReadyRead());
+        const auto name = QString::fromLatin1(program.readLine().trimmed());
+        auto click = QDBusMessage::createMethodCall(name, u"/MenuBar"_s,
+                                                    u"com.canonical.dbusmenu"_s, u"Event"_s);
+        click << QuitId << Clicked << noData() << 0U;
+
+        const auto reply = m_item->host().call(click);
+
+        QCOMPARE(reply.type(), QDBusMessage::ReplyMessage);
+        QVERIFY(program.waitForFinished());
+    }
+}
+
+void MenuServiceTest::clickedInAGroup_choosesTheRow()
+{
+    const QList<MenuEvent> events{{PinId, Clicked, QDBusVariant(0), 0},
+                                  {99, Clicked, QDBusVariant(0), 0},
+                                  {QuitId, u"hovered"_s, QDBusVariant(0), 0}};
+
+    const auto reply = m_item->callMenu(u"EventGroup"_s, {QVariant::fromValue(events)});
+
+    QCOMPARE(qdbus_cast<QList<int>>(reply.arguments().value(0)), QList<int>{99});
+    QTRY_COMPARE(m_choices->size(), 1);
+    QCOMPARE(m_choices->first(), QVariantList{PinRow});
+}
+
+void MenuServiceTest::clicked_onAnEarlierLayout_choosesNothing()
+{
+    (*m_item)->setMenu({{.title = u"Quit"_s}, {.title = u"Open"_s}});
+
+    const auto reply = m_item->callMenu(u"Event"_s, {1, Clicked, noData(), 0U});
+    m_item->finishReading();
+
+    QCOMPARE(reply.type(), QDBusMessage::ErrorMessage);
+    QCOMPARE(m_choices->size(), 0);
+}
+
+void MenuServiceTest::otherEvents_chooseNothing_data()
+{
+    QTest::addColumn<int>("id");
+    QTest::addColumn<QString>("kind");
+
+    QTest::addRow("a click on a separator") << SeparatorRow + 1 << Clicked;
+    QTest::addRow("a click on the menu") << 0 << Clicked;
+    QTest::addRow("hovered") << QuitId << u"hovered"_s;
+    QTest::addRow("closed") << 0 << u"closed"_s;
+    QTest::addRow("opened, of a line") << QuitId << u"opened"_s;
+    QTest::addRow("in capitals") << QuitId << u"CLICKED"_s;
+    QTest::addRow("nothing") << QuitId << QString();
+}
+
+void MenuServiceTest::otherEvents_chooseNothing()
+{
+    QFETCH(const int, id);
+    QFETCH(const QString, kind);
+
+    const auto reply = m_item->callMenu(u"Event"_s, {id, kind, noData(), 0U});
+    m_item->finishReading();
+
+    QCOMPARE(reply.type(), QDBusMessage::ReplyMessage);
+    QCOMPARE(m_choices->size(), 0);
+}
+
+void MenuServiceTest::malformedCall_isRefused_data()
+{
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<QVariantList>("arguments");
+
+    const auto noIds = QVariant::fromValue(QList<int>());
+    QTest::addRow("layout of nobody") << u"GetLayout"_s << QVariantList{9, -1, QStringList()};
+    QTest::addRow("layout of a negative id")
+        << u"GetLayout"_s << QVariantList{std::numeric_limits<int>::min(), -1, QStringList()};
+    QTest::addRow("layout of a text") << u"GetLayout"_s << QVariantList{u"0"_s, -1, QStringList()};
+    QTest::addRow("layout of nothing") << u"GetLayout"_s << QVariantList{};
+    QTest::addRow("properties of texts")
+        << u"GetGroupProperties"_s << QVariantList{QStringList{u"1"_s}, QStringList()};
+    QTest::addRow("property of nobody") << u"GetProperty"_s << QVariantList{-1, u"label"_s};
+    QTest::addRow("unknown property") << u"GetProperty"_s << QVariantList{1, u"colour"_s};
+    QTest::addRow("property named by a number") << u"GetProperty"_s << QVariantList{1, 1};
+    QTest::addRow("event of nobody")
+        << u"Event"_s << QVariantList{std::numeric_limits<int>::max(), Clicked, noData(), 0U};
+    QTest::addRow("event without data") << u"Event"_s << QVariantList{QuitId, Clicked};
+    QTest::addRow("event in a wrong order")
+        << u"Event"_s << QVariantList{Clicked, QuitId, noData(), 0U};
+    QTest::addRow("group of bare numbers") << u"EventGroup"_s << QVariantList{noIds};
+    QTest::addRow("opening nobody") << u"AboutToShow"_s << QVariantList{-7};
+    QTest::addRow("opening a list") << u"AboutToShow"_s << QVariantList{noIds};
+    QTest::addRow("no such method") << u"Explode"_s << QVariantList{};
+}
+
+void MenuServiceTest::malformedCall_isRefused()
+{
+    QFETCH(const QString, method);
+    QFETCH(const QVariantList, arguments);
+
+    const auto reply = m_item->callMenu(method, arguments);
+
+    QCOMPARE(reply.type(), QDBusMessage::ErrorMessage);
+    QCOMPARE(linesOf(layout()).size(), 8);
+    QCOMPARE(m_choices->size(), 0);
+}
+
+void MenuServiceTest::hugeLists_areAnsweredBriefly()
+{
+    QList<int> ids;
+    for (int n = 0; n < 100'000; ++n) {
+        ids << n % 10;
+    }
+    const QSignalSpy openings(m_item->get(), &StatusItem::menuWillOpen);
+
+    const auto properties
+        = m_item->callMenu(u"GetGroupProperties"_s, {QVariant::fromValue(ids), QStringList()});
+    m_item->callMenu(u"AboutToShowGroup"_s, {QVariant::fromValue(ids)});
+
+    QCOMPARE(idsOf(qdbus_cast<QList<MenuProperties>>(properties.arguments().value(0))).size(), 9);
+    QCOMPARE(openings.size(), 1);
+}
+
+QTEST_MAIN(MenuServiceTest)
+#include "tst_menuservice.moc"
