@@ -46,6 +46,9 @@ public:
     /// in the use of it.
     static QString folder();
 
+    QDateTime now() const { return m_surroundings.clock(); }
+    const UserLocale& locale() const { return m_surroundings.locale; }
+
     const QuibData& data() const { return m_data; }
     void setData(const QuibData& data);
 

@@ -73,7 +73,14 @@ FocusScope {
 
         Page {
             tab: Tab.Time
-            view: EmptyTab { tab: Tab.Time }
+
+            view: TimeView {
+                objectName: "timeView"
+                anchors.fill: parent
+                focus: true
+                store: root.store
+                actions: root.actions
+            }
         }
 
         Page {

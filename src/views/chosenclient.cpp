@@ -1,5 +1,6 @@
 #include "views/chosenclient.h"
 
+#include "views/noclient.h"
 #include "views/storelink.h"
 
 namespace quib {
@@ -33,8 +34,7 @@ void ChosenClient::setClientID(const QUuid& id)
 
 void ChosenClient::follow()
 {
-    const auto chosen = m_clientID.isNull() ? std::nullopt : std::optional(m_clientID);
-    auto client = m_store ? m_store->client(chosen) : std::nullopt;
+    auto client = m_store ? m_store->client(clientOrNone(m_clientID)) : std::nullopt;
     if (m_client != client) {
         m_client = std::move(client);
         Q_EMIT changed();

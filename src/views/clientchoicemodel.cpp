@@ -1,5 +1,6 @@
 #include "views/clientchoicemodel.h"
 
+#include "views/noclient.h"
 #include "views/storelink.h"
 
 #include <algorithm>
@@ -89,7 +90,7 @@ QList<ClientChoice> ClientChoiceModel::wanted() const
     if (!m_store) {
         return choices;
     }
-    const auto chosen = m_selection.isNull() ? std::nullopt : std::optional(m_selection);
+    const auto chosen = clientOrNone(m_selection);
     for (const auto& client : m_store->data().clients) {
         choices.append({.id = client.id,
                         .clientID = client.id,

@@ -2,6 +2,7 @@
 
 #include "model/datetexts.h"
 #include "model/duration.h"
+#include "model/money.h"
 #include "model/userlocale.h"
 
 #include <QDateTime>
@@ -25,6 +26,9 @@ public:
         return quib::formatDuration(seconds, withSeconds);
     }
 
+    /// In the user's currency, without fractions.
+    Q_INVOKABLE QString formatMoney(double amount) const { return m_money.format(amount); }
+
     /// Of the tab bar: abbreviated weekday, month and day.
     Q_INVOKABLE QString weekdayAndDay(const QDateTime& moment) const
     {
@@ -33,6 +37,7 @@ public:
 
 private:
     DateTexts m_dates{UserLocale::fromEnvironment()};
+    MoneyFormatter m_money{UserLocale::fromEnvironment()};
 };
 
 } // namespace quib

@@ -5,6 +5,8 @@
 
 #include <qqmlintegration.h>
 
+#include <optional>
+
 namespace quib {
 
 /// The id that stands for no client, where QML knows no absent values.
@@ -19,5 +21,11 @@ public:
 
     static QUuid id() { return {}; }
 };
+
+/// What the id of a client in QML means to the core.
+inline std::optional<QUuid> clientOrNone(const QUuid& id)
+{
+    return id == NoClient::id() ? std::nullopt : std::optional(id);
+}
 
 } // namespace quib

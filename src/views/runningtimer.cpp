@@ -1,8 +1,7 @@
 #include "views/runningtimer.h"
 
+#include "views/noclient.h"
 #include "views/storelink.h"
-
-using namespace Qt::StringLiterals;
 
 namespace quib {
 
@@ -11,6 +10,23 @@ void RunningTimer::setStore(Store* store)
     if (followStore(m_store, store, this, &RunningTimer::follow, &Store::entriesChanged,
                     &Store::clientsChanged)) {
         Q_EMIT storeChanged();
+    }
+}
+
+void RunningTimer::setPlaceholder(const QString& placeholder)
+{
+    if (m_placeholder == placeholder) {
+        return;
+    }
+    m_placeholder = placeholder;
+    follow();
+    Q_EMIT placeholderChanged();
+}
+
+void RunningTimer::start(const QUuid& client, const QString& note)
+{
+    if (m_store) {
+        m_store->startTimer(clientOrNone(client), note);
     }
 }
 
@@ -31,8 +47,10 @@ RunningTimer::Shown RunningTimer::wanted() const
         return {};
     }
     const auto client = m_store->client(entry->clientID);
-    return {
-        .isRunning = true, .since = entry->start, .clientName = client ? client->name : u"Timer"_s};
+    return {.isRunning = true,
+            .since = entry->start,
+            .clientName = client ? client->name : m_placeholder,
+            .note = entry->note};
 }
 
 } // namespace quib

@@ -13,24 +13,32 @@ class RunningTimer : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(quib::Store* store READ store WRITE setStore NOTIFY storeChanged REQUIRED)
+    Q_PROPERTY(QString placeholder READ placeholder WRITE setPlaceholder NOTIFY placeholderChanged)
     Q_PROPERTY(bool isRunning READ isRunning NOTIFY changed)
     Q_PROPERTY(QDateTime since READ since NOTIFY changed)
     Q_PROPERTY(QString clientName READ clientName NOTIFY changed)
+    Q_PROPERTY(QString note READ note NOTIFY changed)
 
 public:
     using QObject::QObject;
 
     Store* store() const { return m_store; }
+    /// Stands for the client where the time belongs to none, or to one that is gone.
+    QString placeholder() const { return m_placeholder; }
     bool isRunning() const { return m_shown.isRunning; }
     QDateTime since() const { return m_shown.since; } ///< Invalid while no timer runs.
-    /// "Timer" where the time belongs to no client, or to one that is gone.
     QString clientName() const { return m_shown.clientName; }
+    QString note() const { return m_shown.note; }
 
     /// Borrowed: nothing runs once the store is gone.
     void setStore(Store* store);
+    void setPlaceholder(const QString& placeholder);
+    /// Starts another timer in the store. The null id stands for no client.
+    Q_INVOKABLE void start(const QUuid& client, const QString& note);
 
 Q_SIGNALS:
     void storeChanged();
+    void placeholderChanged();
     void changed();
 
 private:
@@ -38,6 +46,7 @@ private:
         bool isRunning = false;
         QDateTime since;
         QString clientName;
+        QString note;
 
         bool operator==(const Shown&) const = default;
     };
@@ -46,6 +55,7 @@ private:
     Shown wanted() const;
 
     QPointer<Store> m_store;
+    QString m_placeholder = QStringLiteral("Timer");
     Shown m_shown;
 };
 

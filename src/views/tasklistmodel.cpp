@@ -1,5 +1,6 @@
 #include "views/tasklistmodel.h"
 
+#include "views/noclient.h"
 #include "views/storelink.h"
 
 #include <QHash>
@@ -10,15 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace quib {
-
-namespace {
-
-std::optional<QUuid> clientOrNone(const QUuid& id)
-{
-    return id.isNull() ? std::nullopt : std::optional(id);
-}
-
-} // namespace
 
 QList<TaskItem> visibleTasks(const QList<TaskItem>& tasks, const std::optional<QUuid>& filter)
 {

@@ -1,0 +1,98 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+
+import Quib.Brand
+import Quib.Views
+
+/*!
+    A choice between a few, side by side in a capsule. The keyboard comes to the whole of it, and
+    arrows choose.
+*/
+T.Control {
+    id: root
+
+    required property list<string> titles
+    required property int selected
+    property string name
+
+    signal chosen(int index)
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    padding: 2
+    focusPolicy: Qt.TabFocus
+    Accessible.role: Accessible.Grouping
+    Accessible.name: "%1: %2".arg(root.name).arg(root.titles[root.selected])
+
+    Keys.onLeftPressed: root.choose(root.selected - 1)
+    Keys.onUpPressed: root.choose(root.selected - 1)
+    Keys.onRightPressed: root.choose(root.selected + 1)
+    Keys.onDownPressed: root.choose(root.selected + 1)
+
+    function choose(index) {
+        if (index !== root.selected && index >= 0 && index < root.titles.length) {
+            root.chosen(index);
+        }
+    }
+
+    background: ContinuousRectangle {
+        objectName: "surface"
+        radius: height / 2
+        color: Brand.white(0.07)
+
+        FocusRing {
+            objectName: "ring"
+            visible: root.visualFocus
+        }
+    }
+
+    contentItem: Row {
+        Repeater {
+            model: root.titles.length
+
+            Segment {
+                required property int index
+
+                width: root.availableWidth / root.titles.length
+                title: root.titles[index]
+                selected: root.selected === index
+
+                onClicked: root.choose(index)
+            }
+        }
+    }
+
+    component Segment: PlainButton {
+        id: segment
+
+        required property string title
+        required property bool selected
+
+        objectName: "segment"
+        horizontalPadding: 8
+        verticalPadding: 3
+        focusPolicy: Qt.NoFocus
+        Accessible.name: segment.title
+        Accessible.checkable: true
+        Accessible.checked: segment.selected
+
+        background: ContinuousRectangle {
+            objectName: "capsule"
+            radius: height / 2
+            color: segment.selected ? Brand.white(0.16) : "transparent"
+        }
+
+        contentItem: QuibText {
+            objectName: "title"
+            text: segment.title
+            size: 11
+            weight: Font.Medium
+            color: segment.selected || segment.hovered ? "white" : Brand.muted
+            horizontalAlignment: Text.AlignHCenter
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+    }
+}
