@@ -60,6 +60,29 @@ QString withTildeExpanded(const QString& text, const QString& home)
     return isHome ? home + text.mid(1) : text;
 }
 
+/// Some schemes name no host, as in "trash:///"; the web without one leads nowhere, and a file on
+/// another host can't be reached by its path.
+bool leadsSomewhere(const QUrl& url)
+{
+    if (!url.isValid() || url.scheme().isEmpty()) {
+        return false;
+    }
+    if (url.isLocalFile()) {
+        return url.host().isEmpty() && !url.path().isEmpty();
+    }
+    const bool isWeb = url.scheme() == u"http"_s || url.scheme() == u"https"_s;
+    return !isWeb || !url.host().isEmpty();
+}
+
+/// "file://localhost/" is the long way to write "file:///".
+QUrl withoutOwnHost(QUrl url)
+{
+    if (url.isLocalFile() && url.host() == u"localhost"_s) {
+        url.setHost({});
+    }
+    return url;
+}
+
 } // namespace
 
 std::optional<QUrl> locationOf(const QString& target, const QString& home)
@@ -69,10 +92,8 @@ std::optional<QUrl> locationOf(const QString& target, const QString& home)
         return QUrl::fromLocalFile(text);
     }
     const auto address = text.contains(u"://"_s) ? text : u"https://"_s + text;
-    QUrl url(address, QUrl::StrictMode);
-    // A file's address has no host; any other without one leads nowhere.
-    const bool leadsSomewhere = url.isValid() && (url.isLocalFile() || !url.host().isEmpty());
-    return leadsSomewhere ? std::optional(url) : std::nullopt;
+    const auto url = withoutOwnHost(QUrl(address, QUrl::StrictMode));
+    return leadsSomewhere(url) ? std::optional(url) : std::nullopt;
 }
 
 Actions::Actions(Opener& opener, const AppCatalog& catalog)
@@ -96,6 +117,9 @@ void Actions::open(const QString& target)
 
 void Actions::openInEditor(const QString& path)
 {
+    if (path.isEmpty()) {
+        return;
+    }
     const auto folder = QFileInfo(path).absoluteFilePath();
     if (const auto editor = installedEditor(m_catalog)) {
         m_opener.openWith(folder, *editor);
@@ -106,7 +130,9 @@ void Actions::openInEditor(const QString& path)
 
 void Actions::reveal(const QString& path)
 {
-    m_opener.reveal(QFileInfo(path).absoluteFilePath());
+    if (!path.isEmpty()) {
+        m_opener.reveal(QFileInfo(path).absoluteFilePath());
+    }
 }
 
 } // namespace quib

@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 
+#include <QHash>
 #include <QStringList>
 
 /// One screen with a bar of 30 points at its top, unless a test says otherwise.
