@@ -24,6 +24,7 @@ class Brand : public QObject {
     Q_PROPERTY(QColor cardStroke READ cardStroke CONSTANT)
     Q_PROPERTY(QColor popup READ popup CONSTANT)
     Q_PROPERTY(QColor gold READ gold CONSTANT)
+    Q_PROPERTY(QColor red READ red CONSTANT)
 
 public:
     static QColor purple() { return {139, 92, 246}; }
@@ -38,6 +39,8 @@ public:
     static QColor popup() { return {30, 27, 38}; }
 
     static QColor gold() { return {245, 197, 66}; }
+    /// Of what ends or deletes something.
+    static QColor red() { return {255, 69, 58}; }
 
     /// The colour that a word means, in any case: "purple", "gold" or six hexadecimal digits with
     /// or without "#" around them. Glow for no word and for any other.
