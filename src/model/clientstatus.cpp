@@ -19,6 +19,19 @@ QString rawText(ClientStatus status)
     Q_UNREACHABLE();
 }
 
+QString title(ClientStatus status)
+{
+    switch (status) {
+    case ClientStatus::Lead: return u"Lead"_s;
+    case ClientStatus::Design: return u"Design"_s;
+    case ClientStatus::Build: return u"Build"_s;
+    case ClientStatus::Review: return u"Review"_s;
+    case ClientStatus::Live: return u"Live"_s;
+    case ClientStatus::Care: return u"Care plan"_s;
+    }
+    Q_UNREACHABLE();
+}
+
 std::optional<ClientStatus> clientStatus(QStringView rawText)
 {
     const auto* found = std::ranges::find_if(

@@ -19,6 +19,9 @@ inline constexpr std::array AllClientStatuses{ClientStatus::Lead,  ClientStatus:
 /// The status as files and the palette spell it: "lead", "design" and so on.
 QString rawText(ClientStatus status);
 
+/// The status as menus name it: "Care plan".
+QString title(ClientStatus status);
+
 /// The status spelt exactly so; absent for any other text.
 std::optional<ClientStatus> clientStatus(QStringView rawText);
 

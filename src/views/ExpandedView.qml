@@ -56,8 +56,19 @@ FocusScope {
         }
 
         Page {
+            id: clientsPage
+
             tab: Tab.Clients
-            view: EmptyTab { tab: Tab.Clients }
+
+            view: ClientsView {
+                objectName: "clientsView"
+                anchors.fill: parent
+                focus: true
+                store: root.store
+                actions: root.actions
+                commands: root.commands
+                shown: clientsPage.shown
+            }
         }
 
         Page {

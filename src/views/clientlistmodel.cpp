@@ -2,12 +2,30 @@
 
 #include "views/storelink.h"
 
+#include <QHash>
 #include <QSet>
 
 #include <algorithm>
 #include <iterator>
 
+using namespace Qt::StringLiterals;
+
 namespace quib {
+
+namespace {
+
+QHash<QUuid, int> openTasksPerClient(const QList<TaskItem>& tasks)
+{
+    QHash<QUuid, int> counts;
+    for (const auto& task : tasks) {
+        if (task.clientID && !task.done) {
+            ++counts[*task.clientID];
+        }
+    }
+    return counts;
+}
+
+} // namespace
 
 QList<Client> clientsWithTasks(const QList<Client>& clients, const QList<TaskItem>& tasks)
 {
@@ -26,7 +44,7 @@ QList<Client> clientsWithTasks(const QList<Client>& clients, const QList<TaskIte
 void ClientListModel::setStore(Store* store)
 {
     if (followStore(m_store, store, this, &ClientListModel::follow, &Store::clientsChanged,
-                    &Store::tasksChanged)) {
+                    &Store::tasksChanged, &Store::entriesChanged)) {
         Q_EMIT storeChanged();
     }
 }
@@ -39,6 +57,22 @@ void ClientListModel::setSelection(Selection selection)
     m_selection = selection;
     follow();
     Q_EMIT selectionChanged();
+}
+
+QString ClientListModel::heading() const
+{
+    return u"%1 clients"_s.arg(count());
+}
+
+int ClientListModel::rowOf(const QUuid& id) const
+{
+    const auto found = std::ranges::find(m_clients, id, &ClientRecord::id);
+    return found == m_clients.end() ? -1 : static_cast<int>(found - m_clients.begin());
+}
+
+QUuid ClientListModel::clientAt(int row) const
+{
+    return m_clients.value(row).id;
 }
 
 int ClientListModel::rowCount(const QModelIndex& parent) const
@@ -55,25 +89,46 @@ QVariant ClientListModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case IdRole: return client.id;
     case NameRole: return client.name;
-    case StatusRole: return rawText(client.status);
+    case StatusRole: return client.status;
+    case TimedRole: return client.isTimed;
+    case OpenTasksRole: return client.openTasks;
     }
     return {};
 }
 
 QHash<int, QByteArray> ClientListModel::roleNames() const
 {
-    return {{IdRole, "clientID"}, {NameRole, "name"}, {StatusRole, "status"}};
+    return {{IdRole, "clientID"},
+            {NameRole, "name"},
+            {StatusRole, "status"},
+            {TimedRole, "isTimed"},
+            {OpenTasksRole, "openTasks"}};
 }
 
 void ClientListModel::follow()
 {
+    show(m_clients, wanted());
+}
+
+QList<ClientRecord> ClientListModel::wanted() const
+{
     if (!m_store) {
-        show(m_clients, QList<Client>());
-        return;
+        return {};
     }
     const auto& data = m_store->data();
-    show(m_clients,
-         m_selection == Selection::All ? data.clients : clientsWithTasks(data.clients, data.tasks));
+    const auto clients
+        = m_selection == Selection::All ? data.clients : clientsWithTasks(data.clients, data.tasks);
+    const auto openTasks = openTasksPerClient(data.tasks);
+    const auto running = m_store->runningEntry();
+    QList<ClientRecord> records;
+    for (const auto& client : clients) {
+        records.append({.id = client.id,
+                        .name = client.name,
+                        .status = rawText(client.status),
+                        .isTimed = running && running->clientID == client.id,
+                        .openTasks = openTasks.value(client.id)});
+    }
+    return records;
 }
 
 } // namespace quib

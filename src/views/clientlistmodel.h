@@ -10,15 +10,27 @@
 
 namespace quib {
 
+/// A client as lists show it.
+struct ClientRecord {
+    QUuid id;
+    QString name;
+    QString status; ///< Raw text.
+    bool isTimed = false; ///< The running timer counts for this client.
+    int openTasks = 0;
+
+    bool operator==(const ClientRecord&) const = default;
+};
+
 /// The clients of a store as rows, in display order.
 class ClientListModel : public quib::RecordListModel {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(quib::Store* store READ store WRITE setStore NOTIFY storeChanged REQUIRED)
     Q_PROPERTY(Selection selection READ selection WRITE setSelection NOTIFY selectionChanged)
+    Q_PROPERTY(QString heading READ heading NOTIFY countChanged)
 
 public:
-    enum Role { IdRole = Qt::UserRole, NameRole, StatusRole };
+    enum Role { IdRole = Qt::UserRole, NameRole, StatusRole, TimedRole, OpenTasksRole };
 
     /// Which clients of the store are rows.
     enum class Selection { All, WithTasks };
@@ -28,6 +40,10 @@ public:
 
     Store* store() const { return m_store; }
     Selection selection() const { return m_selection; }
+    QString heading() const; ///< "3 clients", and so with every number.
+    /// Of the first client of that id; -1 without one.
+    Q_INVOKABLE int rowOf(const QUuid& id) const;
+    Q_INVOKABLE QUuid clientAt(int row) const; ///< Null where there is no such row.
 
     /// Borrowed: the rows are empty once the store is gone.
     void setStore(Store* store);
@@ -43,10 +59,11 @@ Q_SIGNALS:
 
 private:
     void follow();
+    QList<ClientRecord> wanted() const;
 
     QPointer<Store> m_store;
     Selection m_selection = Selection::All;
-    QList<Client> m_clients;
+    QList<ClientRecord> m_clients;
 };
 
 /// The clients that at least one of the tasks names, in the order of the clients.

@@ -10,6 +10,7 @@ class ClientStatusTest : public QObject {
 
 private Q_SLOTS:
     void allStatuses_standInPipelineOrder();
+    void everyStatus_hasItsTitle();
     void everyRawText_isReadBack();
     void otherTexts_areNoStatus_data();
     void otherTexts_areNoStatus();
@@ -24,6 +25,18 @@ void ClientStatusTest::allStatuses_standInPipelineOrder()
 
     QCOMPARE(texts,
              (QStringList{u"lead"_s, u"design"_s, u"build"_s, u"review"_s, u"live"_s, u"care"_s}));
+}
+
+void ClientStatusTest::everyStatus_hasItsTitle()
+{
+    QStringList titles;
+    for (const auto status : AllClientStatuses) {
+        titles << quib::title(status);
+    }
+
+    QCOMPARE(
+        titles,
+        (QStringList{u"Lead"_s, u"Design"_s, u"Build"_s, u"Review"_s, u"Live"_s, u"Care plan"_s}));
 }
 
 void ClientStatusTest::everyRawText_isReadBack()

@@ -6,15 +6,21 @@ import Quib.Brand
 import Quib.Views
 
 /*!
-    A field for one line of text.
+    A field for one line of text. What is bound to `value` is what the field says until somebody edits
+    it, and again whenever that becomes another text; the cursor stays where it was.
 */
 FocusScope {
     id: root
 
     property alias text: input.text
     property alias readOnly: input.readOnly
+    property string value
+    property bool settles: false // A text that is edited stays as typed until the field is left.
     property string placeholder
     property real size: 12
+    property real horizontalPadding: 9
+    property real verticalPadding: 6
+    property color surfaceColor: Brand.white(0.07)
 
     readonly property bool isEditing: input.activeFocus
 
@@ -22,24 +28,39 @@ FocusScope {
     signal edited
 
     implicitWidth: 160
-    implicitHeight: input.implicitHeight / 2 + 12
+    implicitHeight: input.implicitHeight / 2 + 2 * root.verticalPadding
+
+    onValueChanged: if (!root.settles || !root.isEditing) root.settle()
+    onIsEditingChanged: if (root.settles && !root.isEditing) root.settle()
 
     function selectAll() {
         input.selectAll();
+    }
+
+    // Says the value again.
+    function settle() {
+        if (input.text === root.value) {
+            return;
+        }
+        const isReversed = input.cursorPosition === input.selectionStart;
+        const ends = [input.selectionStart, input.selectionEnd];
+        input.text = root.value;
+        const [first, last] = ends.map(end => root.isEditing ? Math.min(end, input.length) : 0);
+        input.select(isReversed ? last : first, isReversed ? first : last);
     }
 
     ContinuousRectangle {
         objectName: "surface"
         anchors.fill: parent
         radius: 8
-        color: Brand.white(0.07)
+        color: root.surfaceColor
     }
 
     QuibText {
         objectName: "placeholder"
-        x: 9
-        y: 6
-        width: root.width - 18
+        x: root.horizontalPadding
+        y: root.verticalPadding
+        width: root.width - 2 * root.horizontalPadding
         visible: input.length === 0 && input.preeditText === ""
         text: root.placeholder
         size: root.size
@@ -52,13 +73,13 @@ FocusScope {
     Item {
         id: opening
 
-        x: 9
-        width: root.width - 18
+        x: root.horizontalPadding
+        width: root.width - 2 * root.horizontalPadding
         height: root.height
         clip: true
         containmentMask: Item {
             parent: opening
-            x: -9
+            x: -root.horizontalPadding
             width: root.width
             height: root.height
         }
@@ -85,7 +106,7 @@ FocusScope {
 
             containmentMask: Item {
                 parent: input
-                x: -18
+                x: -2 * root.horizontalPadding
                 width: root.width * 2
                 height: root.height * 2
             }

@@ -1,0 +1,110 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Quib.Views
+
+/*!
+    Every client, below how many they are and a button that adds one. The selected row is the stop of
+    the keyboard, and the arrows select.
+*/
+Card {
+    id: root
+
+    required property Store store
+    required property uuid selection
+
+    signal chosen(client: uuid)
+    signal addClicked
+
+    padding: 8
+
+    onSelectionChanged: root.follow()
+
+    function follow() {
+        const row = clients.rowOf(root.selection);
+        if (row >= 0) {
+            list.currentIndex = row;
+            list.positionViewAtIndex(row, ListView.Contain);
+        }
+    }
+
+    function focusRow(reason) {
+        (list.currentItem ?? add).forceActiveFocus(reason);
+    }
+
+    function step(by) {
+        const client = clients.clientAt(list.currentIndex + by);
+        if (client !== NoClient.id) {
+            root.chosen(client);
+            root.focusRow(Qt.TabFocusReason);
+        }
+    }
+
+    FocusScope {
+        id: inside
+
+        anchors.fill: parent
+        focus: true
+
+        SectionLabel {
+            objectName: "heading"
+            anchors.left: parent.left
+            anchors.leftMargin: 6
+            anchors.verticalCenter: add.verticalCenter
+            text: clients.heading
+        }
+
+        IconButton {
+            id: add
+
+            objectName: "addClient"
+            anchors.right: parent.right
+            symbol: "plus"
+            size: 12
+            help: "Add client"
+
+            onClicked: root.addClicked()
+        }
+
+        ListView {
+            id: list
+
+            objectName: "clientList"
+            anchors.fill: parent
+            anchors.topMargin: add.height + 4
+            focus: true
+            boundsBehavior: Flickable.StopAtBounds
+            clip: true
+            highlightFollowsCurrentItem: false
+            keyNavigationEnabled: false
+            spacing: 2
+            Accessible.role: Accessible.List
+            Accessible.name: "Clients"
+
+            model: ClientListModel {
+                id: clients
+
+                store: root.store
+            }
+
+            delegate: ClientRow {
+                width: list.width
+                focusPolicy: ListView.isCurrentItem || activeFocus ? Qt.TabFocus : Qt.NoFocus
+                selected: clientID === root.selection
+
+                onClicked: {
+                    root.chosen(clientID);
+                    root.focusRow(Qt.MouseFocusReason);
+                }
+            }
+
+            Keys.onUpPressed: root.step(-1)
+            Keys.onDownPressed: root.step(1)
+
+            ScrollThumb {
+                flickable: list
+            }
+        }
+    }
+}
