@@ -31,6 +31,7 @@ Item {
         id: menu
 
         objectName: "statusMenu"
+        width: 200
         model: root.commands.menu
 
         onActivated: row => root.commands.menu.choose(row)
