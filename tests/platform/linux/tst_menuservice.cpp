@@ -1,17 +1,17 @@
-#include "platform/linux/itemonbus.h"
+#include "platform/linux/menuonbus.h"
 
 #include <QDBusMetaType>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <algorithm>
 #include <limits>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 using namespace quib;
 
-/// The menu as a status bar reads and uses it. The first layout has the ids 1 to 8.
+/// The menu as a status bar reads it.
 class MenuServiceTest : public QObject {
     Q_OBJECT
 
@@ -28,21 +28,9 @@ private Q_SLOTS:
     void groupProperties_ofTheNamedItems_data();
     void groupProperties_ofTheNamedItems();
     void property_isGivenAlone();
-    void aboutToShow_bringsCheckMarksUpToDate();
-    void aboutToShow_nothingChanged_isFalse();
-    void aboutToShow_ofAnItem_doesNotOpenTheMenu();
-    void aboutToShowGroup_tellsWhatChangedAndWhatIsUnknown();
-    void opened_bringsCheckMarksUpToDate();
     void setMenu_checkMark_tellsOnlyThat();
     void setMenu_otherLayout_tellsAGrowingRevision();
     void setMenu_same_tellsNothing();
-    void clicked_choosesTheRow();
-    void clicked_isAnsweredBeforeTheCommand();
-    void clicked_theProgramQuits_isAnswered();
-    void clickedInAGroup_choosesTheRow();
-    void clicked_onAnEarlierLayout_choosesNothing();
-    void otherEvents_chooseNothing_data();
-    void otherEvents_chooseNothing();
     void malformedCall_isRefused_data();
     void malformedCall_isRefused();
     void hugeLists_areAnsweredBriefly();
@@ -50,7 +38,6 @@ private Q_SLOTS:
     void hear(const QDBusMessage& message) { m_heard.append(message); }
 
 private:
-    MenuNode layout(int parent = 0, int depth = -1, const QStringList& names = {}) const;
     void listen();
     QStringList heard() const;
 
@@ -60,48 +47,6 @@ private:
 };
 
 namespace {
-
-constexpr int QuitId = QuitRow + 1;
-constexpr int PinId = PinRow + 1;
-
-const auto Clicked = u"clicked"_s;
-
-QVariant noData()
-{
-    return QVariant::fromValue(QDBusVariant(0));
-}
-
-MenuNode nodeIn(const QDBusVariant& variant)
-{
-    return qdbus_cast<MenuNode>(variant.variant());
-}
-
-/// A line as its reader sees it.
-QString lineOf(const MenuNode& node)
-{
-    const auto& properties = node.properties;
-    if (properties.value(u"type"_s) == u"separator"_s) {
-        return u"--"_s;
-    }
-    auto line = properties.value(u"label"_s).toString();
-    if (properties.value(u"toggle-type"_s) == u"checkmark"_s) {
-        line += properties.value(u"toggle-state"_s) == 1 ? u" [x]"_s : u" [ ]"_s;
-    }
-    const auto shortcuts = qdbus_cast<QList<QStringList>>(properties.value(u"shortcut"_s));
-    for (const auto& keys : shortcuts) {
-        line += u" "_s + keys.join(u'+');
-    }
-    return line;
-}
-
-QStringList linesOf(const MenuNode& menu)
-{
-    QStringList lines;
-    for (const auto& child : menu.children) {
-        lines << lineOf(nodeIn(child));
-    }
-    return lines;
-}
 
 QList<int> idsOf(const QList<MenuProperties>& group)
 {
@@ -123,12 +68,6 @@ void MenuServiceTest::cleanup()
 {
     m_choices.reset();
     m_item.reset();
-}
-
-MenuNode MenuServiceTest::layout(int parent, int depth, const QStringList& names) const
-{
-    const auto reply = m_item->callMenu(u"GetLayout"_s, {parent, depth, names});
-    return qdbus_cast<MenuNode>(reply.arguments().value(1));
 }
 
 /// To the signals of the menu.
@@ -171,7 +110,7 @@ void MenuServiceTest::properties()
 
 void MenuServiceTest::layout_isTheMenuInFull()
 {
-    const auto menu = layout();
+    const auto menu = layoutOf(*m_item);
 
     QCOMPARE(menu.id, 0);
     QCOMPARE(menu.properties.value(u"children-display"_s), u"submenu"_s);
@@ -189,7 +128,7 @@ void MenuServiceTest::layout_doublesLowLines()
 {
     (*m_item)->setMenu({{.title = u"a_b__c"_s}});
 
-    QCOMPARE(linesOf(layout()), QStringList(u"a__b____c"_s));
+    QCOMPARE(linesOf(layoutOf(*m_item)), QStringList(u"a__b____c"_s));
 }
 
 void MenuServiceTest::layout_asDeepAsAskedFor_data()
@@ -211,7 +150,7 @@ void MenuServiceTest::layout_asDeepAsAskedFor()
     QFETCH(const int, parent);
     QFETCH(const int, depth);
 
-    const auto menu = layout(parent, depth);
+    const auto menu = layoutOf(*m_item, parent, depth);
 
     QCOMPARE(menu.id, parent);
     QTEST(menu.children.size(), "lines");
@@ -219,7 +158,7 @@ void MenuServiceTest::layout_asDeepAsAskedFor()
 
 void MenuServiceTest::layout_givesOnlyTheNamedProperties()
 {
-    const auto menu = layout(0, -1, {u"toggle-state"_s, u"unknown"_s});
+    const auto menu = layoutOf(*m_item, 0, -1, {u"toggle-state"_s, u"unknown"_s});
 
     QVERIFY(menu.properties.isEmpty());
     QVERIFY(nodeIn(menu.children[0]).properties.isEmpty());
@@ -255,59 +194,6 @@ void MenuServiceTest::property_isGivenAlone()
     QCOMPARE(qdbus_cast<QDBusVariant>(reply.arguments().value(0)).variant(), u"Quit Korvel Quib"_s);
 }
 
-void MenuServiceTest::aboutToShow_bringsCheckMarksUpToDate()
-{
-    connect(m_item->get(), &StatusItem::menuWillOpen, this,
-            [this] { (*m_item)->setMenu(pinnedMenu()); });
-
-    const auto reply = m_item->callMenu(u"AboutToShow"_s, {0});
-
-    QCOMPARE(reply.arguments(), QVariantList{true});
-    QCOMPARE(linesOf(layout())[PinRow], u"Keep Open (Pin) [x]"_s);
-}
-
-void MenuServiceTest::aboutToShow_nothingChanged_isFalse()
-{
-    const QSignalSpy openings(m_item->get(), &StatusItem::menuWillOpen);
-
-    const auto reply = m_item->callMenu(u"AboutToShow"_s, {0});
-
-    QCOMPARE(reply.arguments(), QVariantList{false});
-    QCOMPARE(openings.size(), 1);
-}
-
-void MenuServiceTest::aboutToShow_ofAnItem_doesNotOpenTheMenu()
-{
-    const QSignalSpy openings(m_item->get(), &StatusItem::menuWillOpen);
-
-    const auto reply = m_item->callMenu(u"AboutToShow"_s, {PinId});
-
-    QCOMPARE(reply.arguments(), QVariantList{false});
-    QCOMPARE(openings.size(), 0);
-}
-
-void MenuServiceTest::aboutToShowGroup_tellsWhatChangedAndWhatIsUnknown()
-{
-    connect(m_item->get(), &StatusItem::menuWillOpen, this,
-            [this] { (*m_item)->setMenu(pinnedMenu()); });
-
-    const auto reply
-        = m_item->callMenu(u"AboutToShowGroup"_s, {QVariant::fromValue(QList<int>{0, PinId, 99})});
-
-    QCOMPARE(qdbus_cast<QList<int>>(reply.arguments().value(0)), QList<int>{0});
-    QCOMPARE(qdbus_cast<QList<int>>(reply.arguments().value(1)), QList<int>{99});
-}
-
-void MenuServiceTest::opened_bringsCheckMarksUpToDate()
-{
-    connect(m_item->get(), &StatusItem::menuWillOpen, this,
-            [this] { (*m_item)->setMenu(pinnedMenu()); });
-
-    m_item->callMenu(u"Event"_s, {0, u"opened"_s, noData(), 0U});
-
-    QCOMPARE(linesOf(layout())[PinRow], u"Keep Open (Pin) [x]"_s);
-}
-
 void MenuServiceTest::setMenu_checkMark_tellsOnlyThat()
 {
     listen();
@@ -332,7 +218,7 @@ void MenuServiceTest::setMenu_otherLayout_tellsAGrowingRevision()
     QCOMPARE(heard(), QStringList({u"LayoutUpdated"_s, u"LayoutUpdated"_s}));
     QCOMPARE(m_heard[0].arguments(), QVariantList({before + 1, 0}));
     QCOMPARE(m_heard[1].arguments(), QVariantList({before + 2, 0}));
-    QCOMPARE(linesOf(layout()), QStringList(u"Two"_s));
+    QCOMPARE(linesOf(layoutOf(*m_item)), QStringList(u"Two"_s));
 }
 
 void MenuServiceTest::setMenu_same_tellsNothing()
@@ -342,96 +228,6 @@ void MenuServiceTest::setMenu_same_tellsNothing()
     (*m_item)->setMenu(quibMenu());
 
     QCOMPARE(heard(), QStringList());
-}
-
-void MenuServiceTest::clicked_choosesTheRow()
-{
-    const auto reply = m_item->callMenu(u"Event"_s, {QuitId, Clicked, noData(), 0U});
-
-    QCOMPARE(reply.type(), QDBusMessage::ReplyMessage);
-    QTRY_COMPARE(m_choices->size(), 1);
-    QCOMPARE(m_choices->first(), QVariantList{QuitRow});
-}
-
-void MenuServiceTest::clicked_isAnsweredBeforeTheCommand()
-{
-    auto click = QDBusMessage::createMethodCall(m_item->name(), u"/MenuBar"_s,
-                                                u"com.canonical.dbusmenu"_s, u"Event"_s);
-    click << QuitId << Clicked << noData() << 0U;
-    QDBusPendingCall call = m_item->host().asyncCall(click, 5000);
-    connect(m_item->get(), &StatusItem::chosen, this, [&call] { call.waitForFinished(); });
-
-    QTRY_COMPARE(m_choices->size(), 1);
-
-    QCOMPARE(call.reply().type(), QDBusMessage::ReplyMessage);
-}
-
-void MenuServiceTest::clicked_theProgramQuits_isAnswered()
-{
-    for (int round = 0; round < 10; ++round) {
-        QProcess program;
-        program.start(QStringLiteral(STATUS_PROGRAM), QStringList());
-        QVERIFY(program.waitForReadyRead());
-        const auto name = QString::fromLatin1(program.readLine().trimmed());
-        auto click = QDBusMessage::createMethodCall(name, u"/MenuBar"_s,
-                                                    u"com.canonical.dbusmenu"_s, u"Event"_s);
-        click << QuitId << Clicked << noData() << 0U;
-
-        const auto reply = m_item->host().call(click);
-
-        QCOMPARE(reply.type(), QDBusMessage::ReplyMessage);
-        QVERIFY(program.waitForFinished());
-    }
-}
-
-void MenuServiceTest::clickedInAGroup_choosesTheRow()
-{
-    const QList<MenuEvent> events{{PinId, Clicked, QDBusVariant(0), 0},
-                                  {99, Clicked, QDBusVariant(0), 0},
-                                  {QuitId, u"hovered"_s, QDBusVariant(0), 0}};
-
-    const auto reply = m_item->callMenu(u"EventGroup"_s, {QVariant::fromValue(events)});
-
-    QCOMPARE(qdbus_cast<QList<int>>(reply.arguments().value(0)), QList<int>{99});
-    QTRY_COMPARE(m_choices->size(), 1);
-    QCOMPARE(m_choices->first(), QVariantList{PinRow});
-}
-
-void MenuServiceTest::clicked_onAnEarlierLayout_choosesNothing()
-{
-    (*m_item)->setMenu({{.title = u"Quit"_s}, {.title = u"Open"_s}});
-
-    const auto reply = m_item->callMenu(u"Event"_s, {1, Clicked, noData(), 0U});
-    m_item->finishReading();
-
-    QCOMPARE(reply.type(), QDBusMessage::ErrorMessage);
-    QCOMPARE(m_choices->size(), 0);
-}
-
-void MenuServiceTest::otherEvents_chooseNothing_data()
-{
-    QTest::addColumn<int>("id");
-    QTest::addColumn<QString>("kind");
-
-    QTest::addRow("a click on a separator") << SeparatorRow + 1 << Clicked;
-    QTest::addRow("a click on the menu") << 0 << Clicked;
-    QTest::addRow("hovered") << QuitId << u"hovered"_s;
-    QTest::addRow("closed") << 0 << u"closed"_s;
-    QTest::addRow("opened, of a line") << QuitId << u"opened"_s;
-    QTest::addRow("in capitals") << QuitId << u"CLICKED"_s;
-    QTest::addRow("nothing") << QuitId << QString();
-}
-
-void MenuServiceTest::otherEvents_chooseNothing()
-{
-    QFETCH(const int, id);
-    QFETCH(const QString, kind);
-
-    const auto reply = m_item->callMenu(u"Event"_s, {id, kind, noData(), 0U});
-    m_item->finishReading();
-
-    QCOMPARE(reply.type(), QDBusMessage::ReplyMessage);
-    QCOMPARE(m_choices->size(), 0);
 }
 
 void MenuServiceTest::malformedCall_isRefused_data()
@@ -451,10 +247,10 @@ void MenuServiceTest::malformedCall_isRefused_data()
     QTest::addRow("unknown property") << u"GetProperty"_s << QVariantList{1, u"colour"_s};
     QTest::addRow("property named by a number") << u"GetProperty"_s << QVariantList{1, 1};
     QTest::addRow("event of nobody")
-        << u"Event"_s << QVariantList{std::numeric_limits<int>::max(), Clicked, noData(), 0U};
-    QTest::addRow("event without data") << u"Event"_s << QVariantList{QuitId, Clicked};
+        << u"Event"_s << QVariantList{std::numeric_limits<int>::max(), u"clicked"_s, noData(), 0U};
+    QTest::addRow("event without data") << u"Event"_s << QVariantList{QuitId, u"clicked"_s};
     QTest::addRow("event in a wrong order")
-        << u"Event"_s << QVariantList{Clicked, QuitId, noData(), 0U};
+        << u"Event"_s << QVariantList{u"clicked"_s, QuitId, noData(), 0U};
     QTest::addRow("group of bare numbers") << u"EventGroup"_s << QVariantList{noIds};
     QTest::addRow("opening nobody") << u"AboutToShow"_s << QVariantList{-7};
     QTest::addRow("opening a list") << u"AboutToShow"_s << QVariantList{noIds};
@@ -469,7 +265,7 @@ void MenuServiceTest::malformedCall_isRefused()
     const auto reply = m_item->callMenu(method, arguments);
 
     QCOMPARE(reply.type(), QDBusMessage::ErrorMessage);
-    QCOMPARE(linesOf(layout()).size(), 8);
+    QCOMPARE(linesOf(layoutOf(*m_item)).size(), 8);
     QCOMPARE(m_choices->size(), 0);
 }
 
