@@ -6,8 +6,6 @@ using namespace Qt::StringLiterals;
 
 namespace quib {
 
-namespace {
-
 bool hasSessionBus()
 {
     if (!qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")) {
@@ -16,8 +14,6 @@ bool hasSessionBus()
     const auto runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
     return !runtimeFolder.isEmpty() && QFileInfo::exists(runtimeFolder + u"/bus"_s);
 }
-
-} // namespace
 
 QDBusConnection sessionBus()
 {
