@@ -54,7 +54,8 @@ bool startsSomething(const QString& path)
 {
     const GOwned<GDesktopAppInfo> entry(
         g_desktop_app_info_new_from_filename(QFile::encodeName(path).constData()));
-    if (!entry || g_desktop_app_info_get_is_hidden(entry.get())) {
+    if (!entry || g_app_info_get_executable(G_APP_INFO(entry.get())) == nullptr
+        || g_desktop_app_info_get_is_hidden(entry.get())) {
         return false;
     }
     const bool isSwitchedOff = g_desktop_app_info_has_key(entry.get(), GnomeKey)

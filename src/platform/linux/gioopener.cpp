@@ -82,7 +82,7 @@ void GioOpener::reveal(const QString& path)
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(showItems(path)), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, asked, path] {
         watcher->deleteLater();
-        if (watcher->isError() && !asked.hasExpired(m_patience.count())) {
+        if (watcher->isError() && asked.elapsed() < m_patience.count()) {
             openFolderOf(path);
         }
     });
