@@ -119,10 +119,10 @@ bool write(const QString& path, const QByteArray& entry)
     return QDir().mkpath(QFileInfo(path).path()) && replaceFile(path, entry);
 }
 
-bool isThere(const QString& path)
+bool remove(const QString& path)
 {
     const QFileInfo file(path);
-    return file.isFile() || file.isSymLink();
+    return (!file.isFile() && !file.isSymLink()) || QFile::remove(path);
 }
 
 } // namespace
@@ -139,7 +139,7 @@ AutostartEntry::AutostartEntry(QString program)
 
 bool AutostartEntry::isEnabled() const
 {
-    if (isThere(userFile())) {
+    if (QFileInfo(userFile()).isFile()) {
         return startsSomething(userFile());
     }
     const auto installed = systemFile();
@@ -156,7 +156,7 @@ bool AutostartEntry::disable()
     if (systemFile()) {
         return write(userFile(), hiddenEntry()) && !isEnabled();
     }
-    return !isThere(userFile()) || QFile::remove(userFile());
+    return remove(userFile());
 }
 
 } // namespace quib

@@ -45,6 +45,8 @@ private Q_SLOTS:
     void disable_installedEntryAndAFileInTheWay_fails();
     void isEnabled_followsTheEntries_data();
     void isEnabled_followsTheEntries();
+    void isEnabled_linkToNoFile_doesNotCount_data();
+    void isEnabled_linkToNoFile_doesNotCount();
     void isEnabled_whatSomeSessionsPassOver_isNot_data();
     void isEnabled_whatSomeSessionsPassOver_isNot();
     void isEnabled_relativeConfigFolder_isPassedOver();
@@ -356,6 +358,31 @@ void AutostartEntryTest::isEnabled_followsTheEntries()
     }
 
     QTEST(AutostartEntry().isEnabled(), "isEnabled");
+    comparesWithTheDesktop();
+}
+
+void AutostartEntryTest::isEnabled_linkToNoFile_doesNotCount_data()
+{
+    QTest::addColumn<QString>("target");
+
+    QTest::addRow("to nothing at all") << u"/dev/null"_s;
+    QTest::addRow("to a file that is gone") << u"/not/here.desktop"_s;
+}
+
+void AutostartEntryTest::isEnabled_linkToNoFile_doesNotCount()
+{
+    QFETCH(const QString, target);
+    makeFile(u"first/"_s + EntryName, "[Desktop Entry]\nType=Application\nName=Q\nExec=true\n");
+    QVERIFY(QDir().mkpath(path(u"config/autostart"_s)));
+    QVERIFY(QFile::link(target, userFile()));
+
+    AutostartEntry entry(install(u"quib"_s));
+    QVERIFY(entry.isEnabled());
+    comparesWithTheDesktop();
+
+    QVERIFY(entry.disable());
+
+    QVERIFY(!entry.isEnabled());
     comparesWithTheDesktop();
 }
 
