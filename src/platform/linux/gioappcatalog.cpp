@@ -1,18 +1,39 @@
 #include "platform/linux/gioappcatalog.h"
 
+#include "platform/linux/gowned.h"
+
+#include <QCollator>
+#include <QFileInfo>
+
 #include <gio/gdesktopappinfo.h>
 
-#include <memory>
+#include <algorithm>
+#include <functional>
 
 namespace quib {
 
 namespace {
 
-struct GFreed {
-    void operator()(gpointer memory) const { g_free(memory); }
-};
+QString pathOf(GDesktopAppInfo* entry)
+{
+    return QFile::decodeName(g_desktop_app_info_get_filename(entry));
+}
 
-using GText = std::unique_ptr<gchar, GFreed>;
+/// Calls with each entry that the user may see and that lies in a file.
+void forEachVisible(const std::function<void(GDesktopAppInfo*)>& call)
+{
+    auto* const applications = g_app_info_get_all();
+    for (auto* link = applications; link != nullptr; link = link->next) {
+        if (!G_IS_DESKTOP_APP_INFO(link->data) || !g_app_info_should_show(G_APP_INFO(link->data))) {
+            continue;
+        }
+        auto* entry = G_DESKTOP_APP_INFO(link->data);
+        if (g_desktop_app_info_get_filename(entry) != nullptr) {
+            call(entry);
+        }
+    }
+    g_list_free_full(applications, g_object_unref);
+}
 
 /// Of two applications with one name the first path counts: GIO's own order is by chance.
 void keepFirst(QHash<QString, QString>& pathOfName, const QString& name, const QString& path)
@@ -23,28 +44,66 @@ void keepFirst(QHash<QString, QString>& pathOfName, const QString& name, const Q
     }
 }
 
-void addVisible(QHash<QString, QString>& pathOfName, GAppInfo* application)
-{
-    if (!G_IS_DESKTOP_APP_INFO(application) || !g_app_info_should_show(application)) {
-        return;
-    }
-    auto* entry = G_DESKTOP_APP_INFO(application);
-    const GText name(g_desktop_app_info_get_string(entry, "Name")); // Never the translated one.
-    const auto* path = g_desktop_app_info_get_filename(entry);
-    if (name && path != nullptr) {
-        keepFirst(pathOfName, QString::fromUtf8(name.get()), QString::fromLocal8Bit(path));
-    }
-}
-
-QHash<QString, QString> listApplications()
+QHash<QString, QString> listNames()
 {
     QHash<QString, QString> pathOfName;
-    auto* applications = g_app_info_get_all();
-    for (auto* link = applications; link != nullptr; link = link->next) {
-        addVisible(pathOfName, G_APP_INFO(link->data));
-    }
-    g_list_free_full(applications, g_object_unref);
+    forEachVisible([&pathOfName](GDesktopAppInfo* entry) {
+        // Never the translated one.
+        const GText name(g_desktop_app_info_get_string(entry, G_KEY_FILE_DESKTOP_KEY_NAME));
+        if (name) {
+            keepFirst(pathOfName, QString::fromUtf8(name.get()), pathOf(entry));
+        }
+    });
     return pathOfName;
+}
+
+QString pathOf(GFileIcon* icon)
+{
+    const GText path(g_file_get_path(g_file_icon_get_file(icon)));
+    return QFile::decodeName(path.get());
+}
+
+QString textOf(GIcon* icon)
+{
+    if (G_IS_FILE_ICON(icon)) {
+        return pathOf(G_FILE_ICON(icon));
+    }
+    if (!G_IS_THEMED_ICON(icon)) {
+        return {};
+    }
+    const auto* const* names = g_themed_icon_get_names(G_THEMED_ICON(icon));
+    return QString::fromUtf8(names[0]);
+}
+
+Application applicationOf(GDesktopAppInfo* entry)
+{
+    auto* info = G_APP_INFO(entry);
+    return {.path = pathOf(entry),
+            .name = QString::fromUtf8(g_app_info_get_display_name(info)),
+            .icon = textOf(g_app_info_get_icon(info))};
+}
+
+/// By name, and where names are equal by path, so that the order is always the same.
+void sortForTheUser(QList<Application>& list)
+{
+    QCollator collator;
+    collator.setNumericMode(true);
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    std::ranges::sort(list, [&collator](const Application& left, const Application& right) {
+        const auto order = collator.compare(left.name, right.name);
+        return order == 0 ? left.path < right.path : order < 0;
+    });
+}
+
+/// An entry by its name, a program by its full path. A folder can't be run here.
+std::optional<QString> installed(const QString& id)
+{
+    if (id.startsWith(u'/')) {
+        const QFileInfo file(id);
+        return file.isFile() && file.isExecutable() ? std::optional(id) : std::nullopt;
+    }
+    const GOwned<GDesktopAppInfo> entry(g_desktop_app_info_new(id.toUtf8().constData()));
+    return entry ? std::optional(pathOf(entry.get())) : std::nullopt;
 }
 
 } // namespace
@@ -52,20 +111,28 @@ QHash<QString, QString> listApplications()
 std::optional<QString> GioAppCatalog::applicationNamed(const QString& name) const
 {
     if (!m_pathOfName) {
-        m_pathOfName = listApplications();
+        m_pathOfName = listNames();
     }
     const auto found = m_pathOfName->constFind(name);
     return found == m_pathOfName->cend() ? std::nullopt : std::optional(*found);
 }
 
-std::optional<QString> GioAppCatalog::firstInstalled(const QStringList& /*ids*/) const
+std::optional<QString> GioAppCatalog::firstInstalled(const QStringList& ids) const
 {
+    for (const auto& id : ids) {
+        if (auto path = installed(id)) {
+            return path;
+        }
+    }
     return std::nullopt;
 }
 
 QList<Application> GioAppCatalog::applications() const
 {
-    return {};
+    QList<Application> list;
+    forEachVisible([&list](GDesktopAppInfo* entry) { list << applicationOf(entry); });
+    sortForTheUser(list);
+    return list;
 }
 
 } // namespace quib

@@ -10,6 +10,8 @@ namespace {
 
 const auto NoBus = u"none"_s;
 
+} // namespace
+
 bool hasSessionBus()
 {
     if (!qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")) {
@@ -18,8 +20,6 @@ bool hasSessionBus()
     const auto runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
     return !runtimeFolder.isEmpty() && QFileInfo::exists(runtimeFolder + u"/bus"_s);
 }
-
-} // namespace
 
 QDBusConnection sessionBus()
 {

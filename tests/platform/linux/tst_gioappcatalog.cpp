@@ -5,6 +5,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace quib;
 
@@ -16,9 +18,18 @@ private Q_SLOTS:
     void applicationNamed_data();
     void applicationNamed();
     void applicationNamed_userEntryHidesTheSystems();
+    void firstInstalled_data();
+    void firstInstalled();
+    void firstInstalled_programFile_countsWhereItCanBeRun();
+    void firstInstalled_removedMeanwhile_isAbsent();
+    void applications_areThoseThatTheUserMaySee();
+    void applications_areSortedAsTheUserReads();
+    void applications_icon_data();
+    void applications_icon();
 
 private:
-    QString install(const QString& folder, const QString& id, const QString& lines);
+    QString install(const QString& folder, const QString& id, const QString& lines) const;
+    static Application application(const QString& name);
 
     QTemporaryDir m_folder;
 };
@@ -40,15 +51,26 @@ void GioAppCatalogTest::initTestCase()
     install(u"system"_s, u"umlaut"_s, u"Name=Büro\n"_s);
     install(u"system"_s, u"mail"_s, u"Name=Mail\n"_s);
     install(u"home"_s, u"mail"_s, u"Name=Mail of mine\n"_s);
+    install(u"system"_s, u"masked"_s, u"Name=Masked\n"_s);
+    install(u"home"_s, u"masked"_s, u"Name=Masked\nHidden=true\n"_s);
+    install(u"system"_s, u"absent"_s, u"Name=Absent\nExec=/nowhere/at/all\n"_s);
+    install(u"system"_s, u"lower"_s, u"Name=lower case\n"_s);
+    install(u"system"_s, u"zebra"_s, u"Name=Zebra\nIcon=zebra.png\n"_s);
+    install(u"system"_s, u"full"_s, u"Name=F\nX-GNOME-FullName=Full Name\n"_s);
+    install(u"system"_s, u"icon.name"_s, u"Name=Icon name\nIcon=org.example.Icon\n"_s);
+    install(u"system"_s, u"icon.path"_s, u"Name=Icon path\nIcon=/tmp/a b%20ü.png\n"_s);
+    install(u"system"_s, u"removed"_s, u"Name=Removed\nNoDisplay=true\n"_s);
 }
 
-QString GioAppCatalogTest::install(const QString& folder, const QString& id, const QString& lines)
+QString GioAppCatalogTest::install(const QString& folder, const QString& id,
+                                   const QString& lines) const
 {
     auto path = m_folder.filePath(folder + u"/applications/"_s + id + u".desktop"_s);
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     if (file.open(QIODevice::WriteOnly)) {
-        file.write("[Desktop Entry]\nType=Application\nExec=true\n" + lines.toUtf8());
+        const auto program = lines.contains(u"\nExec="_s) ? QByteArray() : "Exec=true\n"_ba;
+        file.write("[Desktop Entry]\nType=Application\n" + program + lines.toUtf8());
     }
     return path;
 }
@@ -94,6 +116,131 @@ void GioAppCatalogTest::applicationNamed_userEntryHidesTheSystems()
     QVERIFY(!catalog.applicationNamed(u"Mail"_s));
     QCOMPARE(catalog.applicationNamed(u"Mail of mine"_s),
              m_folder.filePath(u"home/applications/mail.desktop"_s));
+}
+
+void GioAppCatalogTest::firstInstalled_data()
+{
+    QTest::addColumn<QStringList>("ids");
+    QTest::addColumn<QString>("found"); // Empty for none.
+
+    QTest::addRow("one") << QStringList{u"files.desktop"_s} << u"system/applications/files"_s;
+    QTest::addRow("the first of two")
+        << QStringList{u"zebra.desktop"_s, u"files.desktop"_s} << u"system/applications/zebra"_s;
+    QTest::addRow("the first that is installed")
+        << QStringList{u"/Applications/None.app"_s, u"none.desktop"_s, u"files.desktop"_s}
+        << u"system/applications/files"_s;
+    QTest::addRow("the user's own")
+        << QStringList{u"mail.desktop"_s} << u"home/applications/mail"_s;
+    QTest::addRow("not displayed in menus")
+        << QStringList{u"settings.desktop"_s} << u"system/applications/settings"_s;
+    QTest::addRow("in a folder of its own")
+        << QStringList{u"kde-deep.desktop"_s} << u"system/applications/kde/deep"_s;
+    QTest::addRow("removed by the user") << QStringList{u"masked.desktop"_s} << QString();
+    QTest::addRow("its program is missing") << QStringList{u"absent.desktop"_s} << QString();
+    QTest::addRow("what it tries is missing") << QStringList{u"missing.desktop"_s} << QString();
+    QTest::addRow("without its ending") << QStringList{u"files"_s} << QString();
+    QTest::addRow("a folder") << QStringList{QDir::tempPath()} << QString();
+    QTest::addRow("no name") << QStringList{QString()} << QString();
+    QTest::addRow("none") << QStringList() << QString();
+}
+
+void GioAppCatalogTest::firstInstalled()
+{
+    QFETCH(const QStringList, ids);
+    QFETCH(const QString, found);
+
+    const auto path = GioAppCatalog().firstInstalled(ids);
+
+    QCOMPARE(path.has_value(), !found.isEmpty());
+    if (path) {
+        QCOMPARE(*path, m_folder.filePath(found + u".desktop"_s));
+    }
+}
+
+void GioAppCatalogTest::firstInstalled_programFile_countsWhereItCanBeRun()
+{
+    const auto path = m_folder.filePath(u"Editor.app"_s);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const GioAppCatalog catalog;
+    QCOMPARE(catalog.firstInstalled({path}), std::nullopt);
+
+    file.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+
+    QCOMPARE(catalog.firstInstalled({path}), path);
+}
+
+void GioAppCatalogTest::firstInstalled_removedMeanwhile_isAbsent()
+{
+    const GioAppCatalog catalog;
+    const auto found = catalog.firstInstalled({u"removed.desktop"_s});
+    QVERIFY(found);
+
+    QVERIFY(QFile::remove(*found));
+
+    QTRY_COMPARE(catalog.firstInstalled({u"removed.desktop"_s}), std::nullopt);
+}
+
+void GioAppCatalogTest::applications_areThoseThatTheUserMaySee()
+{
+    QStringList paths;
+    const auto list = GioAppCatalog().applications();
+    for (const auto& application : list) {
+        paths << QDir(m_folder.path()).relativeFilePath(application.path);
+    }
+    paths.sort();
+
+    QCOMPARE(paths,
+             (QStringList{
+                 u"home/applications/mail.desktop"_s, u"system/applications/a.twin.desktop"_s,
+                 u"system/applications/b.twin.desktop"_s, u"system/applications/files.desktop"_s,
+                 u"system/applications/full.desktop"_s, u"system/applications/icon.name.desktop"_s,
+                 u"system/applications/icon.path.desktop"_s,
+                 u"system/applications/kde/deep.desktop"_s, u"system/applications/lower.desktop"_s,
+                 u"system/applications/umlaut.desktop"_s, u"system/applications/zebra.desktop"_s}));
+}
+
+void GioAppCatalogTest::applications_areSortedAsTheUserReads()
+{
+    QStringList names;
+    const auto list = GioAppCatalog().applications();
+    for (const auto& application : list) {
+        names << application.name;
+    }
+
+    QCOMPARE(names,
+             (QStringList{u"Büro"_s, u"Dateien"_s, u"Deep"_s, u"Full Name"_s, u"Icon name"_s,
+                          u"Icon path"_s, u"lower case"_s, u"Mail of mine"_s, u"Twin"_s, u"Twin"_s,
+                          u"Zebra"_s}));
+    QVERIFY(list.at(8).path < list.at(9).path);
+}
+
+void GioAppCatalogTest::applications_icon_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("icon");
+
+    QTest::addRow("a name in the theme") << u"Icon name"_s << u"org.example.Icon"_s;
+    QTest::addRow("a name with an ending") << u"Zebra"_s << u"zebra"_s;
+    QTest::addRow("a path") << u"Icon path"_s << u"/tmp/a b%20ü.png"_s;
+    QTest::addRow("none") << u"Deep"_s << QString();
+}
+
+void GioAppCatalogTest::applications_icon()
+{
+    QFETCH(const QString, name);
+
+    const auto found = application(name);
+
+    QTEST(found.icon, "icon");
+}
+
+Application GioAppCatalogTest::application(const QString& name)
+{
+    const auto list = GioAppCatalog().applications();
+    const auto found = std::ranges::find(list, name, &Application::name);
+    return found == list.cend() ? Application{.name = u"not found"_s, .icon = u"not found"_s}
+                                : *found;
 }
 
 QTEST_GUILESS_MAIN(GioAppCatalogTest)

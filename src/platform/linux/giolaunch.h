@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace quib {
+
+/// The far side of GioOpener. Everything here may wait for a disk or for the bus, so it runs on a
+/// thread of its own, and passes over in silence what it can't open. Texts are bytes as the file
+/// system has them; addresses are fully encoded.
+
+void launchPath(const QByteArray& path);
+void launchAddress(const QByteArray& address);
+void launchWith(const QByteArray& path, const QByteArray& application);
+void launchInTextEditor(const QByteArray& path);
+
+} // namespace quib

@@ -1,0 +1,283 @@
+#include "platform/linux/openerdesk.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+#include <QUrl>
+
+#include <csignal>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Started = QList<QStringList>;
+
+QString fileAddress(const QString& path)
+{
+    return QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());
+}
+
+bool isRunning(int pid)
+{
+    return kill(pid, 0) == 0;
+}
+
+/// While it lives, whoever opens the file waits as for a disk that is gone: for as long as the
+/// kernel gives a holder of a lease to give it back, 45 seconds.
+class HungFile {
+public:
+    explicit HungFile(const QString& path)
+        : m_file(open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC))
+    {
+        std::signal(SIGIO, SIG_IGN); // The kernel asks for the lease with it.
+        m_isHung = fcntl(m_file, F_SETLEASE, F_WRLCK) == 0;
+    }
+    ~HungFile() { close(m_file); }
+    Q_DISABLE_COPY_MOVE(HungFile)
+
+    bool isHung() const { return m_isHung; }
+
+private:
+    int m_file;
+    bool m_isHung = false;
+};
+
+/// Those that run and those that nobody has buried.
+int childrenOf(qint64 parent)
+{
+    int count = 0;
+    const auto processes = QDir(u"/proc"_s).entryList({u"[1-9]*"_s}, QDir::Dirs);
+    for (const auto& process : processes) {
+        QFile file(u"/proc/"_s + process + u"/stat"_s);
+        if (file.open(QIODevice::ReadOnly)) {
+            const auto facts = file.readAll();
+            const auto afterName = facts.mid(facts.lastIndexOf(')') + 2).split(' ');
+            count += afterName.value(1).toLongLong() == parent ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+} // namespace
+
+class GioLaunchTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void application_startsAsIfByTheDesktop_data();
+    void application_startsAsIfByTheDesktop();
+    void application_outlivesUs_data();
+    void application_outlivesUs();
+    void application_ends_leavesNoZombie();
+    void hungDisk_blocksNothing();
+    void hungApplicationOnTheBus_blocksNothing();
+    void applicationOnTheBus_isAskedThere();
+    void applicationOnTheBus_isGone_nothingIsSaid();
+    void busDies_weLiveOn();
+    void noBus_noneIsStarted();
+};
+
+void GioLaunchTest::application_startsAsIfByTheDesktop_data()
+{
+    QTest::addColumn<bool>("isProgram");
+
+    QTest::addRow("application") << false;
+    QTest::addRow("program file") << true;
+}
+
+void GioLaunchTest::application_startsAsIfByTheDesktop()
+{
+    QFETCH(const bool, isProgram);
+    OpenerDesk desk;
+    desk.startBus();
+    const auto entry = desk.install(u"player"_s);
+    desk.environment.insert(u"QT_QPA_PLATFORM"_s, u"the user's"_s);
+    desk.environment.remove(u"QT_QPA_UPDATE_IDLE_TIME"_s);
+    desk.environment.insert(u"XDG_ACTIVATION_TOKEN"_s, u"ours"_s);
+    desk.environment.insert(u"DESKTOP_STARTUP_ID"_s, u"ours"_s);
+    desk.start();
+
+    QVERIFY(desk.ask({u"openPath"_s, isProgram ? QStringLiteral(RECORD_PROGRAM) : entry}));
+
+    QTRY_COMPARE(desk.records().size(), 1);
+    const auto record = desk.records().first();
+    const auto variables = record.value(u"environment"_s).toObject();
+    QCOMPARE(variables.value(u"QT_QPA_PLATFORM"_s).toString(), u"the user's"_s);
+    QVERIFY(!variables.contains(u"QT_QPA_UPDATE_IDLE_TIME"_s));
+    QVERIFY(!variables.contains(u"XDG_ACTIVATION_TOKEN"_s));
+    QVERIFY(!variables.contains(u"DESKTOP_STARTUP_ID"_s));
+    QCOMPARE(variables.value(u"DBUS_SESSION_BUS_ADDRESS"_s).toString(),
+             desk.environment.value(u"DBUS_SESSION_BUS_ADDRESS"_s));
+    QVERIFY(record.value(u"hasOwnSession"_s).toBool());
+    QVERIFY(record.value(u"signalsAreAsExpected"_s).toBool());
+}
+
+void GioLaunchTest::application_outlivesUs_data()
+{
+    QTest::addColumn<bool>("isKilled");
+
+    QTest::addRow("we quit") << false;
+    QTest::addRow("we are killed") << true;
+}
+
+void GioLaunchTest::application_outlivesUs()
+{
+    QFETCH(const bool, isKilled);
+    OpenerDesk desk;
+    desk.environment.insert(u"QUIB_STAYS"_s, u"1"_s);
+    const auto entry = desk.install(u"player"_s);
+    desk.start();
+    QVERIFY(desk.ask({u"openPath"_s, entry}));
+    QVERIFY(desk.ask({u"openPath"_s, QStringLiteral(RECORD_PROGRAM)}));
+    QTRY_COMPARE(desk.records().size(), 2);
+
+    if (isKilled) {
+        desk.kill();
+    } else {
+        QVERIFY(desk.quit());
+    }
+
+    for (const auto& record : desk.records()) {
+        QVERIFY(isRunning(record.value(u"pid"_s).toInt()));
+    }
+}
+
+void GioLaunchTest::application_ends_leavesNoZombie()
+{
+    OpenerDesk desk;
+    const auto entry = desk.install(u"player"_s);
+    desk.start();
+
+    QVERIFY(desk.ask({u"openPath"_s, entry}));
+    QVERIFY(desk.ask({u"openPath"_s, QStringLiteral(RECORD_PROGRAM)}));
+
+    QTRY_COMPARE(desk.records().size(), 2);
+    QTRY_COMPARE(childrenOf(desk.pid()), 0);
+}
+
+void GioLaunchTest::hungDisk_blocksNothing()
+{
+    OpenerDesk desk;
+    const auto entry = desk.install(u"player"_s);
+    const auto hung = desk.makeFile(u"hung.desktop"_s);
+    const HungFile disk(hung);
+    if (!disk.isHung()) {
+        QSKIP("this file system knows no leases");
+    }
+    desk.start();
+
+    for (int i = 0; i < 20; ++i) {
+        QVERIFY(desk.ask({u"openPath"_s, hung}));
+    }
+
+    QVERIFY(desk.ask({u"openPath"_s, entry}));
+    QTRY_COMPARE(desk.started(), (Started{{u"player"_s}}));
+    QVERIFY(desk.quit());
+}
+
+void GioLaunchTest::hungApplicationOnTheBus_blocksNothing()
+{
+    OpenerDesk desk;
+    desk.startBus();
+    const auto name = u"org.quibtest.Viewer"_s;
+    const auto hung = desk.install(name, u"%f"_s, u"DBusActivatable=true"_s);
+    const auto entry = desk.install(u"player"_s);
+    const auto service = desk.startService(name);
+    kill(pid_t(service->processId()), SIGSTOP);
+    desk.start();
+
+    QVERIFY(desk.ask({u"openPath"_s, hung}));
+    QVERIFY(desk.ask({u"openWith"_s, desk.path({}), hung}));
+
+    QVERIFY(desk.ask({u"openPath"_s, entry}));
+    QTRY_COMPARE(desk.started(), (Started{{u"player"_s}}));
+    QVERIFY(desk.quit());
+    service->kill();
+    service->waitForFinished();
+}
+
+void GioLaunchTest::applicationOnTheBus_isAskedThere()
+{
+    OpenerDesk desk;
+    desk.startBus();
+    const auto name = u"org.quibtest.Viewer"_s;
+    const auto entry = desk.install(name, u"%f"_s, u"DBusActivatable=true"_s);
+    const auto service = desk.startService(name);
+    const auto folder = desk.makeFolder(u"a b"_s);
+    desk.start();
+
+    QVERIFY(desk.ask({u"openPath"_s, entry}));
+    QTRY_VERIFY(service->canReadLine());
+    QCOMPARE(service->readLine(),
+             "org.freedesktop.Application.Activate /org/quibtest/Viewer \n"_ba);
+    QVERIFY(desk.ask({u"openWith"_s, folder, entry}));
+    QTRY_VERIFY(service->canReadLine());
+    QCOMPARE(service->readLine(),
+             "org.freedesktop.Application.Open /org/quibtest/Viewer "_ba
+                 + fileAddress(folder).toLatin1() + '\n');
+
+    service->kill();
+    service->waitForFinished();
+}
+
+void GioLaunchTest::applicationOnTheBus_isGone_nothingIsSaid()
+{
+    OpenerDesk desk;
+    desk.startBus();
+    const auto gone = desk.install(u"org.quibtest.Gone"_s, u"%f"_s, u"DBusActivatable=true"_s);
+    const auto service = desk.startService(u"org.freedesktop.FileManager1"_s);
+    desk.start();
+
+    QVERIFY(desk.ask({u"openPath"_s, gone}));
+
+    QVERIFY(desk.ask({u"openPath"_s, desk.install(u"player"_s)}));
+    QTRY_COMPARE(desk.started(), (Started{{u"player"_s}}));
+    QVERIFY(desk.quit());
+    QCOMPARE(desk.complaints(), QByteArray());
+    service->kill();
+    service->waitForFinished();
+}
+
+void GioLaunchTest::busDies_weLiveOn()
+{
+    OpenerDesk desk;
+    desk.startBus();
+    const auto entry = desk.install(u"player"_s);
+    desk.start();
+    QVERIFY(desk.ask({u"openPath"_s, entry}));
+    QTRY_COMPARE(desk.started().size(), 1);
+
+    desk.killBus();
+
+    QVERIFY(desk.ask({u"openPath"_s, entry}));
+    QTRY_COMPARE(desk.started().size(), 2);
+    QVERIFY(desk.quit());
+}
+
+void GioLaunchTest::noBus_noneIsStarted()
+{
+    OpenerDesk desk;
+    const auto entry = desk.install(u"player"_s);
+    QVERIFY(
+        QFile::link(QStringLiteral(RECORD_PROGRAM), desk.makeFolder(u"bin"_s) + u"/dbus-launch"_s));
+    desk.environment.insert(u"PATH"_s, desk.path(u"bin"_s));
+    desk.environment.insert(u"DISPLAY"_s, u":77"_s);
+    desk.start();
+
+    QVERIFY(desk.ask({u"openPath"_s, entry}));
+    QVERIFY(desk.ask({u"reveal"_s, desk.path(u"x"_s)}));
+
+    QTRY_COMPARE(desk.started(), (Started{{u"player"_s}}));
+    QVERIFY(!desk.records()
+                 .first()
+                 .value(u"environment"_s)
+                 .toObject()
+                 .contains(u"DBUS_SESSION_BUS_ADDRESS"_s));
+}
+
+QTEST_GUILESS_MAIN(GioLaunchTest)
+#include "tst_giolaunch.moc"
