@@ -47,6 +47,7 @@ void BrandTest::opaqueColours_areByteValues_data()
     QTest::addRow("muted") << Brand::muted() << u"#a8a4b8"_s;
     QTest::addRow("muted2") << Brand::muted2() << u"#7a7588"_s;
     QTest::addRow("gold") << Brand::gold() << u"#f5c542"_s;
+    QTest::addRow("red") << Brand::red() << u"#ff453a"_s;
 }
 
 void BrandTest::opaqueColours_areByteValues()

@@ -72,6 +72,24 @@ TestCase {
         compare(laidOut(tight).fontInfo.pixelSize, 18);
     }
 
+    function test_severalLinesWhereTheyAreAllowed() {
+        const words = "one two three four five six seven eight nine ten";
+        const line = createTemporaryObject(label, testCase, { text: words, width: 60, elide: Text.ElideRight });
+        const lines = createTemporaryObject(label, testCase, { text: words, width: 60, elide: Text.ElideRight, maximumLines: 2 });
+        compare(laidOut(line).lineCount, 1);
+        compare(laidOut(lines).lineCount, 2);
+        verify(laidOut(lines).truncated);
+        compare(lines.implicitHeight, 2 * line.implicitHeight);
+        lines.text = "one";
+        compare(lines.implicitHeight, line.implicitHeight);
+    }
+
+    function test_aWordWithoutEndIsBroken() {
+        const endless = createTemporaryObject(label, testCase, { text: "w".repeat(200), width: 60, elide: Text.ElideRight, maximumLines: 2 });
+        verify(laidOut(endless).contentWidth <= 120);
+        compare(laidOut(endless).lineCount, 2);
+    }
+
     function test_baselineIsThatOfTheText() {
         const small = createTemporaryObject(label, testCase, { size: 10 });
         const large = createTemporaryObject(label, testCase, { size: 20 });

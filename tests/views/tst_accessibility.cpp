@@ -20,6 +20,7 @@ private Q_SLOTS:
     void button_canBePressed_data();
     void button_canBePressed();
     void chip_saysWhetherItIsSelected();
+    void segments_sayWhichIsSelected();
     void field_givesItsText();
     void help_describesWhatIsNotNamedByIt();
     void menu_saysWhatItsEntriesAre();
@@ -87,6 +88,9 @@ void AccessibilityTest::control_saysWhatItIs_data()
                           << int(QAccessible::Button) << u"Remove"_s;
     QTest::addRow("chip") << "FilterChip { title: 'All' }"_ba << int(QAccessible::Button)
                           << u"All"_s;
+    QTest::addRow("segments")
+        << "SegmentedPicker { name: 'Period'; titles: ['Week', 'Month']; selected: 1 }"_ba
+        << int(QAccessible::Grouping) << u"Period: Month"_s;
 }
 
 void AccessibilityTest::control_saysWhatItIs()
@@ -140,6 +144,17 @@ void AccessibilityTest::chip_saysWhetherItIsSelected()
 
     const auto* other = QAccessible::queryAccessibleInterface(make("FilterChip { title: 'All' }"));
     QVERIFY(!other->state().checked);
+}
+
+void AccessibilityTest::segments_sayWhichIsSelected()
+{
+    const auto segments
+        = told(make("SegmentedPicker { name: 'Period'; titles: ['Week', 'Month']; selected: 1 }"));
+
+    QCOMPARE(segments.size(), 2);
+    QCOMPARE(segments[0]->text(QAccessible::Name), u"Week"_s);
+    QVERIFY(!segments[0]->state().checked);
+    QVERIFY(segments[1]->state().checked);
 }
 
 void AccessibilityTest::field_givesItsText()

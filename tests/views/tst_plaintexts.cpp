@@ -38,6 +38,7 @@ constexpr auto Controls = R"(
             PillButton { title: hostile }
             IconButton { symbol: hostile; help: hostile; Component.onCompleted: { prepareToolTip(); toolTip.open() } }
             FilterChip { title: hostile }
+            SegmentedPicker { name: hostile; titles: [hostile]; selected: 0 }
             Card { QuibText { text: hostile } }
             QuibField { placeholder: hostile }
             Item { QuibMenu { model: [{ title: hostile }]; visible: true } }
@@ -59,7 +60,7 @@ void PlainTextsTest::everyTextOfTheControls_isPlain()
     QVERIFY2(window, qPrintable(component.errorString()));
 
     const auto ofOneCharacter = Hostile.size();
-    QTRY_COMPARE(textItems(*window->contentItem()).size(), 8 + ofOneCharacter);
+    QTRY_COMPARE(textItems(*window->contentItem()).size(), 9 + ofOneCharacter);
     for (const auto* text : textItems(*window->contentItem())) {
         QVERIFY2(isPlain(*text), qPrintable(text->property("text").toString()));
     }

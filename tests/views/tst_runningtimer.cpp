@@ -16,6 +16,9 @@ private Q_SLOTS:
     void timerOfAClient_bearsItsName();
     void timerOfNobody_isCalledTimer();
     void clientDeletedMeanwhile_isCalledTimer();
+    void placeholder_standsForNobody();
+    void note_isTheRunningOnes();
+    void start_startsForAClientOrNobody();
     void otherEntries_sayNothing();
 };
 
@@ -66,6 +69,48 @@ void RunningTimerTest::clientDeletedMeanwhile_isCalledTimer()
     workspace.store->deleteClient(cafe);
 
     QCOMPARE(timer.clientName(), u"Timer"_s);
+}
+
+void RunningTimerTest::placeholder_standsForNobody()
+{
+    Workspace workspace;
+    RunningTimer timer;
+    timer.setStore(workspace.store.get());
+    workspace.store->startTimer({}, QString());
+    const QSignalSpy changes(&timer, &RunningTimer::changed);
+
+    timer.setPlaceholder(u"No client"_s);
+
+    QCOMPARE(timer.clientName(), u"No client"_s);
+    QCOMPARE(changes.count(), 1);
+}
+
+void RunningTimerTest::note_isTheRunningOnes()
+{
+    Workspace workspace;
+    RunningTimer timer;
+    timer.setStore(workspace.store.get());
+
+    workspace.store->startTimer({}, u"  as typed "_s);
+    QCOMPARE(timer.note(), u"  as typed "_s);
+    workspace.store->stopTimer();
+
+    QCOMPARE(timer.note(), QString());
+}
+
+void RunningTimerTest::start_startsForAClientOrNobody()
+{
+    Workspace workspace;
+    const auto cafe = workspace.client(u"Corner Café"_s);
+    RunningTimer timer;
+    timer.setStore(workspace.store.get());
+
+    timer.start(cafe, u"for the café"_s);
+    QCOMPARE(workspace.store->runningEntry()->clientID, cafe);
+    QCOMPARE(workspace.store->runningEntry()->note, u"for the café"_s);
+    timer.start({}, QString());
+
+    QCOMPARE(workspace.store->runningEntry()->clientID, std::nullopt);
 }
 
 void RunningTimerTest::otherEntries_sayNothing()

@@ -1,16 +1,15 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 
 import Quib.Brand
 import Quib.Views
 
 /*!
     A choice between a few, side by side in a capsule. The keyboard comes to the whole of it, and
-    arrows choose.
+    arrows choose. (No template: readers would not be told of a group.)
 */
-T.Control {
+Item {
     id: root
 
     required property list<string> titles
@@ -19,10 +18,9 @@ T.Control {
 
     signal chosen(int index)
 
-    implicitWidth: implicitContentWidth + leftPadding + rightPadding
-    implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    padding: 2
-    focusPolicy: Qt.TabFocus
+    implicitWidth: 85 * root.titles.length
+    implicitHeight: segments.implicitHeight + 4
+    activeFocusOnTab: true
     Accessible.role: Accessible.Grouping
     Accessible.name: "%1: %2".arg(root.name).arg(root.titles[root.selected])
 
@@ -37,31 +35,38 @@ T.Control {
         }
     }
 
-    background: ContinuousRectangle {
+    ContinuousRectangle {
         objectName: "surface"
+        anchors.fill: parent
         radius: height / 2
         color: Brand.white(0.07)
-
-        FocusRing {
-            objectName: "ring"
-            visible: root.visualFocus
-        }
     }
 
-    contentItem: Row {
+    Row {
+        id: segments
+
+        objectName: "segments"
+        x: 2
+        y: 2
+
         Repeater {
             model: root.titles.length
 
             Segment {
                 required property int index
 
-                width: root.availableWidth / root.titles.length
+                width: (root.width - 4) / root.titles.length
                 title: root.titles[index]
                 selected: root.selected === index
 
                 onClicked: root.choose(index)
             }
         }
+    }
+
+    FocusRing {
+        objectName: "ring"
+        visible: root.activeFocus
     }
 
     component Segment: PlainButton {

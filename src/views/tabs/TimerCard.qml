@@ -97,8 +97,10 @@ FocusScope {
             DigitsText {
                 objectName: "clock"
                 visible: timer.isRunning
+                scale: Math.min(1, parent.width / width) // For a hand-edited start.
+                transformOrigin: Item.Left
                 text: Format.formatDuration(beat.elapsed, true)
-                size: 26
+                size: 24
                 weight: Font.DemiBold
 
                 Beat {

@@ -74,7 +74,7 @@ Item {
                 objectName: "choices"
                 anchors.top: total.bottom
                 anchors.topMargin: 8
-                spacing: 8
+                spacing: 4
 
                 SegmentedPicker {
                     objectName: "period"
