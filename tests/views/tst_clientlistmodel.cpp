@@ -30,6 +30,11 @@ private Q_SLOTS:
     void withTasks_leavesOutWhoHasNone();
     void lastTaskGone_takesItsClientAway();
     void renamingAClient_touchesOneRow();
+    void openTasks_areCountedPerClient();
+    void taskTicked_touchesOneRow();
+    void runningMark_isOfTheTimedClient();
+    void heading_countsTheClients();
+    void rows_areFoundByTheirClient();
     void repeatedIds_areAllShown();
     void storeGone_leavesNoRows();
 };
@@ -99,6 +104,100 @@ void ClientListModelTest::renamingAClient_touchesOneRow()
     QCOMPARE(changed.count(), 1);
     QCOMPARE(changed.front().front().toModelIndex().row(), 1);
     QCOMPARE(names(model), (QStringList{u"Corner Café"_s, u"Bloom Florist"_s}));
+}
+
+void ClientListModelTest::openTasks_areCountedPerClient()
+{
+    Workspace workspace;
+    const auto busy = workspace.client(u"Busy"_s);
+    const auto finished = workspace.client(u"Finished"_s);
+    workspace.task(u"One"_s, busy);
+    workspace.task(u"Two"_s, busy);
+    workspace.task(u"Three"_s, busy);
+    workspace.task(u"Four"_s, busy, true);
+    workspace.task(u"Five"_s, busy, true);
+    workspace.task(u"Six"_s, finished, true);
+    workspace.task(u"General"_s);
+    ClientListModel model;
+
+    model.setStore(workspace.store.get());
+
+    QCOMPARE(model.index(0).data(ClientListModel::OpenTasksRole).toInt(), 3);
+    QCOMPARE(model.index(1).data(ClientListModel::OpenTasksRole).toInt(), 0);
+}
+
+void ClientListModelTest::taskTicked_touchesOneRow()
+{
+    Workspace workspace;
+    workspace.client(u"Corner Café"_s);
+    const auto task = workspace.task(u"Call"_s, workspace.client(u"Bloom"_s));
+    ClientListModel model;
+    model.setStore(workspace.store.get());
+    const QAbstractItemModelTester invariants(
+        &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    const QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    const QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
+    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+
+    workspace.store->toggleTask(task);
+
+    QCOMPARE(reset.count() + removed.count(), 0);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.front().front().toModelIndex().row(), 1);
+    QCOMPARE(model.index(1).data(ClientListModel::OpenTasksRole).toInt(), 0);
+}
+
+void ClientListModelTest::runningMark_isOfTheTimedClient()
+{
+    Workspace workspace;
+    workspace.client(u"Corner Café"_s);
+    const auto bloom = workspace.client(u"Bloom"_s);
+    ClientListModel model;
+    model.setStore(workspace.store.get());
+    const auto marks = [&] {
+        return QList<bool>{model.index(0).data(ClientListModel::TimedRole).toBool(),
+                           model.index(1).data(ClientListModel::TimedRole).toBool()};
+    };
+
+    workspace.store->startTimer(bloom, {});
+    QCOMPARE(marks(), (QList<bool>{false, true}));
+    workspace.store->startTimer(std::nullopt, {});
+    QCOMPARE(marks(), (QList<bool>{false, false}));
+    workspace.store->startTimer(bloom, {});
+    workspace.store->stopTimer();
+
+    QCOMPARE(marks(), (QList<bool>{false, false}));
+}
+
+void ClientListModelTest::heading_countsTheClients()
+{
+    Workspace workspace;
+    ClientListModel model;
+    model.setStore(workspace.store.get());
+    const QSignalSpy changed(&model, &ClientListModel::countChanged);
+    QCOMPARE(model.heading(), u"0 clients"_s);
+
+    workspace.store->addClient();
+    QCOMPARE(model.heading(), u"1 clients"_s);
+    workspace.store->addClient();
+
+    QCOMPARE(model.heading(), u"2 clients"_s);
+    QCOMPARE(changed.count(), 2);
+}
+
+void ClientListModelTest::rows_areFoundByTheirClient()
+{
+    Workspace workspace;
+    workspace.client(u"Corner Café"_s);
+    const auto bloom = workspace.client(u"Bloom"_s);
+    ClientListModel model;
+    model.setStore(workspace.store.get());
+
+    QCOMPARE(model.rowOf(bloom), 1);
+    QCOMPARE(model.clientAt(1), bloom);
+    QCOMPARE(model.rowOf(QUuid()), -1);
+    QCOMPARE(model.clientAt(-1), QUuid());
+    QCOMPARE(model.clientAt(2), QUuid());
 }
 
 void ClientListModelTest::repeatedIds_areAllShown()

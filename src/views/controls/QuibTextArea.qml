@@ -19,7 +19,7 @@ FocusScope {
     property real size: 12
 
     property string drawn // To tell an edit from all else that a text changes by.
-    property bool isSettling: false
+    property bool isSettling: true // Till the item below is complete: it takes its first text then.
 
     readonly property bool isEditing: input.activeFocus
 
@@ -29,6 +29,7 @@ FocusScope {
     implicitHeight: 60
 
     onValueChanged: root.settle()
+    Component.onCompleted: root.isSettling = false
 
     // Says the value again.
     function settle() {
@@ -37,18 +38,18 @@ FocusScope {
         }
         const isReversed = input.cursorPosition === input.selectionStart;
         const ends = [input.selectionStart, input.selectionEnd];
+        const isFirst = root.isSettling;
         root.text = root.value;
         root.isSettling = true;
         input.text = root.value;
-        root.isSettling = false;
+        root.isSettling = isFirst;
         const [first, last] = ends.map(end => root.isEditing ? Math.min(end, input.length) : 0);
         input.select(isReversed ? last : first, isReversed ? first : last);
     }
 
-    // The text property of the item would make spaces of those that do not break.
     function follow() {
         const before = root.drawn;
-        root.drawn = input.getText(0, input.length).replace(/\u2029/g, "\n");
+        root.drawn = TypedText.of(input.textDocument);
         if (!root.isSettling && root.drawn !== before) {
             root.text = root.drawn;
             root.edited();

@@ -30,7 +30,10 @@ Card {
     }
 
     function focusRow(reason) {
-        (list.currentItem ?? add).forceActiveFocus(reason);
+        list.forceLayout(); // A row that is gone may still be current.
+        const button = (list.currentItem ?? add) as PlainButton;
+        button.forceActiveFocus(reason);
+        button.focusReason = reason; // The list may have given it the focus without.
     }
 
     function step(by) {
