@@ -1,44 +1,14 @@
 #include "desk.h"
 
+#include "deskconnection.h"
+
 #include <QDir>
-#include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include <xcb/xcb.h>
-
-#include <chrono>
-#include <functional>
-#include <thread>
-
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace {
-
-/// Looks again and again, for ten seconds at most; then says what did not come.
-bool waitFor(const char* what, const std::function<bool()>& isSo)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (!isSo()) {
-        if (timer.hasExpired(10'000)) {
-            qWarning("waited in vain for %s", what);
-            return false;
-        }
-        std::this_thread::sleep_for(5ms); // Between two looks at another program.
-    }
-    return true;
-}
-
-template <typename Reply>
-using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
-
-template <typename Reply>
-Owned<Reply> own(Reply* reply)
-{
-    return Owned<Reply>(reply, &std::free);
-}
 
 void end(QProcess& program)
 {
@@ -50,51 +20,6 @@ void end(QProcess& program)
 }
 
 } // namespace
-
-/// The test's own view of the screen.
-struct Desk::Connection {
-    xcb_connection_t* xcb;
-    xcb_window_t root;
-
-    explicit Connection(const QString& display)
-        : xcb(xcb_connect(display.toLatin1().constData(), nullptr))
-        , root(xcb_setup_roots_iterator(xcb_get_setup(xcb)).data->root)
-    {
-    }
-    ~Connection() { xcb_disconnect(xcb); }
-    Connection(const Connection&) = delete;
-    Connection& operator=(const Connection&) = delete;
-
-    xcb_atom_t atom(const QByteArray& name) const
-    {
-        const auto cookie
-            = xcb_intern_atom(xcb, 0, static_cast<uint16_t>(name.size()), name.constData());
-        const auto reply = own(xcb_intern_atom_reply(xcb, cookie, nullptr));
-        return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
-    }
-
-    bool hasOwner(const QByteArray& selection) const
-    {
-        const auto cookie = xcb_get_selection_owner(xcb, atom(selection));
-        const auto reply = own(xcb_get_selection_owner_reply(xcb, cookie, nullptr));
-        return reply && reply->owner != XCB_WINDOW_NONE;
-    }
-
-    QImage image(const QRect& rect) const
-    {
-        const auto cookie
-            = xcb_get_image(xcb, XCB_IMAGE_FORMAT_Z_PIXMAP, root, static_cast<int16_t>(rect.x()),
-                            static_cast<int16_t>(rect.y()), static_cast<uint16_t>(rect.width()),
-                            static_cast<uint16_t>(rect.height()), ~0U);
-        const auto reply = own(xcb_get_image_reply(xcb, cookie, nullptr));
-        if (!reply) {
-            return {};
-        }
-        return QImage(xcb_get_image_data(reply.get()), rect.width(), rect.height(),
-                      QImage::Format_RGB32)
-            .copy();
-    }
-};
 
 Desk::Desk()
     : Desk(Options{})
@@ -262,100 +187,12 @@ QString Desk::dragSource()
     return QStringLiteral(DRAG_SOURCE);
 }
 
-void Desk::moveTo(QPoint point) const
-{
-    xdotool({u"mousemove"_s, QString::number(point.x()), QString::number(point.y())});
-}
-
-void Desk::click(QPoint point) const
-{
-    moveTo(point);
-    xdotool({u"click"_s, u"1"_s});
-}
-
-void Desk::button(const QString& downOrUp) const
-{
-    xdotool({u"mouse"_s + downOrUp, u"1"_s});
-}
-
-void Desk::type(const QString& text) const
-{
-    xdotool({u"type"_s, u"--delay"_s, u"5"_s, text});
-}
-
-void Desk::key(const QString& name) const
-{
-    xdotool({u"key"_s, name});
-}
-
-void Desk::showTab(int number) const
-{
-    click({800 - 350 + 22 + 20 + 15 + 32 * number, 23});
-    waitFor("the tab", [&] { return selectedTab() == number; });
-}
-
-void Desk::openWithPointer() const
-{
-    moveTo(Notch);
-    waitForExpanded(true);
-    moveTo(InTheCard);
-}
-
-QColor Desk::pixel(QPoint point) const
-{
-    const auto image = m_connection->image({point * m_options.scale, QSize(1, 1)});
-    return image.isNull() ? QColor() : image.pixelColor(0, 0);
-}
-
-QImage Desk::picture() const
-{
-    return m_connection->image({0, 0, 1600, 900});
-}
-
-/// The corner of the card that is black only once the spring has come to rest.
-bool Desk::isExpanded() const
-{
-    return pixel({800 - 350 + 12, 255}) == QColor(Qt::black)
-        && pixel({800, 287}) == QColor(Qt::black);
-}
-
-int Desk::selectedTab() const
-{
-    for (int number = 0; number < 7; ++number) {
-        const auto colour = pixel({800 - 350 + 22 + 20 + 4 + 32 * number, 23});
-        if (colour.blue() > 100 && colour.blue() > colour.green() * 3 / 2) {
-            return number;
-        }
-    }
-    return -1;
-}
-
-bool Desk::waitForExpanded(bool expanded) const
-{
-    return waitFor(expanded ? "the panel to expand" : "the panel to collapse",
-                   [&] { return isExpanded() == expanded; });
-}
-
-bool Desk::isShown(const QString& title) const
-{
-    return !xdotool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u'^' + title + u'$'}).isEmpty();
-}
-
 void Desk::killServer()
 {
     m_connection.reset();
     m_server->kill();
     m_server->waitForFinished();
     m_server.reset();
-}
-
-QString Desk::xdotool(const QStringList& arguments) const
-{
-    QProcess tool;
-    tool.setProcessEnvironment(m_environment);
-    tool.start(u"xdotool"_s, arguments);
-    tool.waitForFinished(10'000);
-    return QString::fromUtf8(tool.readAllStandardOutput()).trimmed();
 }
 
 qsizetype Output::count(const QByteArray& word)

@@ -56,6 +56,7 @@ public:
 
     void moveTo(QPoint point) const;
     void click(QPoint point) const;
+    void rightClick(QPoint point) const;
     void button(const QString& downOrUp) const;
     void type(const QString& text) const;
     void key(const QString& name) const;
@@ -67,6 +68,9 @@ public:
     bool isExpanded() const;
     int selectedTab() const; ///< -1 while none shows.
     bool waitForExpanded(bool expanded) const;
+    /// Of the window that has the keyboard; empty while none has.
+    QString titleInFront() const;
+    bool waitForFront(const QString& title) const;
 
     /// Ends the X server, as a crash of it would.
     void killServer();

@@ -1,0 +1,128 @@
+// What is seen on the desk's screen, and what pointer and keyboard do there.
+#include "deskconnection.h"
+
+#include <QElapsedTimer>
+
+#include <chrono>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+bool waitFor(const char* what, const std::function<bool()>& isSo)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!isSo()) {
+        if (timer.hasExpired(10'000)) {
+            qWarning("waited in vain for %s", what);
+            return false;
+        }
+        std::this_thread::sleep_for(5ms); // Between two looks at another program.
+    }
+    return true;
+}
+
+void Desk::moveTo(QPoint point) const
+{
+    xdotool({u"mousemove"_s, QString::number(point.x()), QString::number(point.y())});
+}
+
+void Desk::click(QPoint point) const
+{
+    moveTo(point);
+    xdotool({u"click"_s, u"1"_s});
+}
+
+void Desk::rightClick(QPoint point) const
+{
+    moveTo(point);
+    xdotool({u"click"_s, u"3"_s});
+}
+
+void Desk::button(const QString& downOrUp) const
+{
+    xdotool({u"mouse"_s + downOrUp, u"1"_s});
+}
+
+void Desk::type(const QString& text) const
+{
+    xdotool({u"type"_s, u"--delay"_s, u"5"_s, text});
+}
+
+void Desk::key(const QString& name) const
+{
+    xdotool({u"key"_s, name});
+}
+
+void Desk::showTab(int number) const
+{
+    click({800 - 350 + 22 + 20 + 15 + 32 * number, 23});
+    waitFor("the tab", [&] { return selectedTab() == number; });
+}
+
+void Desk::openWithPointer() const
+{
+    moveTo(Notch);
+    waitForExpanded(true);
+    moveTo(InTheCard);
+}
+
+QColor Desk::pixel(QPoint point) const
+{
+    const auto image = m_connection->image({point * m_options.scale, QSize(1, 1)});
+    return image.isNull() ? QColor() : image.pixelColor(0, 0);
+}
+
+QImage Desk::picture() const
+{
+    return m_connection->image({0, 0, 1600, 900});
+}
+
+/// The corner of the card that is black only once the spring has come to rest.
+bool Desk::isExpanded() const
+{
+    return pixel({800 - 350 + 12, 255}) == QColor(Qt::black)
+        && pixel({800, 287}) == QColor(Qt::black);
+}
+
+int Desk::selectedTab() const
+{
+    for (int number = 0; number < 7; ++number) {
+        const auto colour = pixel({800 - 350 + 22 + 20 + 4 + 32 * number, 23});
+        if (colour.blue() > 100 && colour.blue() > colour.green() * 3 / 2) {
+            return number;
+        }
+    }
+    return -1;
+}
+
+bool Desk::waitForExpanded(bool expanded) const
+{
+    return waitFor(expanded ? "the panel to expand" : "the panel to collapse",
+                   [&] { return isExpanded() == expanded; });
+}
+
+QString Desk::titleInFront() const
+{
+    return xdotool({u"getactivewindow"_s, u"getwindowname"_s});
+}
+
+bool Desk::waitForFront(const QString& title) const
+{
+    return waitFor("a window in front", [&] { return titleInFront().startsWith(title); });
+}
+
+bool Desk::isShown(const QString& title) const
+{
+    return !xdotool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u'^' + title + u'$'}).isEmpty();
+}
+
+QString Desk::xdotool(const QStringList& arguments) const
+{
+    QProcess tool;
+    tool.setProcessEnvironment(m_environment);
+    tool.start(u"xdotool"_s, arguments);
+    tool.waitForFinished(10'000);
+    return QString::fromUtf8(tool.readAllStandardOutput()).trimmed();
+}

@@ -1,0 +1,211 @@
+#include "desk.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Where a line of the menu is, once it has been opened at MenuCorner.
+constexpr QPoint MenuCorner{720, 15};
+constexpr int PinLine = 82;
+constexpr int LoginLine = 115;
+constexpr int ShortcutsLine = 139;
+constexpr int DataLine = 163;
+constexpr int QuitLine = 196;
+
+constexpr QPoint FirstClient{540, 100};
+constexpr QPoint SecondClient{540, 129};
+constexpr QPoint ChooseFolder{830, 143};
+constexpr QColor Popup{30, 27, 38};
+
+} // namespace
+
+/// What the menu does, and what is done with windows of other programs. No status bar is there, so
+/// the menu opens on the top bar.
+class CommandsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void quitFromTheMenu_savesEverything();
+    void quitKey_quitsWhileThePanelHasTheKeyboard();
+    void editShortcuts_opensTheFileInTheTextEditor();
+    void showDataFolder_opensItInTheFileManager();
+    void launchAtLogin_writesAnEntryAndTakesItAway();
+    void pinFromTheMenu_keepsThePanelOpen();
+    void folderChosen_isKeptWhenASecondChoiceIsCancelled();
+
+private:
+    static void chooseInMenu(const Desk& desk, int line);
+    static void addTask(const Desk& desk, const QString& title);
+    /// An application that writes down what it is asked to open.
+    static QString recorder(Desk& desk, const QString& types);
+    static QString recorded(const QString& record);
+};
+
+void CommandsTest::chooseInMenu(const Desk& desk, int line)
+{
+    desk.rightClick(MenuCorner);
+    QTRY_COMPARE(desk.pixel({MenuCorner.x() + 180, line}), Popup);
+    desk.click({MenuCorner.x() + 100, line});
+}
+
+void CommandsTest::addTask(const Desk& desk, const QString& title)
+{
+    desk.openWithPointer();
+    desk.showTab(3);
+    desk.click(Desk::TaskField);
+    desk.type(title);
+    desk.key(u"Return"_s);
+}
+
+QString CommandsTest::recorder(Desk& desk, const QString& types)
+{
+    const auto record = desk.folder(u"record"_s);
+    const auto program = desk.folder(u"recorder"_s);
+    QFile script(program);
+    script.open(QIODevice::WriteOnly);
+    script.write("#!/bin/sh\nprintf '%s\\n' \"$@\" > '" + QFile::encodeName(record) + ".new'\nmv '"
+                 + QFile::encodeName(record) + ".new' '" + QFile::encodeName(record) + "'\n");
+    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    script.close();
+    QDir().mkpath(desk.folder(u".local/share/applications"_s));
+    QFile entry(desk.folder(u".local/share/applications/recorder.desktop"_s));
+    entry.open(QIODevice::WriteOnly);
+    entry.write("[Desktop Entry]\nType=Application\nName=Recorder\nExec="
+                + QFile::encodeName(program) + " %f\nMimeType=" + types.toUtf8() + "\n");
+    QDir().mkpath(desk.folder(u".config"_s));
+    QFile defaults(desk.folder(u".config/mimeapps.list"_s));
+    defaults.open(QIODevice::WriteOnly);
+    defaults.write("[Default Applications]\n" + types.chopped(1).toUtf8() + "=recorder.desktop\n");
+    return record;
+}
+
+QString CommandsTest::recorded(const QString& record)
+{
+    QFile file(record);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).trimmed() : QString();
+}
+
+void CommandsTest::quitFromTheMenu_savesEverything()
+{
+    Desk desk;
+    const auto quib = desk.startQuib();
+    addTask(desk, u"Last thing"_s);
+
+    chooseInMenu(desk, QuitLine);
+
+    QVERIFY(quib->waitForFinished());
+    QCOMPARE(quib->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(quib->exitCode(), 0);
+    QCOMPARE(desk.savedTasks().value(0), u"Last thing"_s);
+}
+
+void CommandsTest::quitKey_quitsWhileThePanelHasTheKeyboard()
+{
+    Desk desk;
+    const auto quib = desk.startQuib();
+    addTask(desk, u"Last thing"_s);
+
+    desk.key(u"ctrl+q"_s);
+
+    QVERIFY(quib->waitForFinished());
+    QCOMPARE(quib->exitCode(), 0);
+    QCOMPARE(desk.savedTasks().value(0), u"Last thing"_s);
+}
+
+void CommandsTest::editShortcuts_opensTheFileInTheTextEditor()
+{
+    Desk desk;
+    const auto record = recorder(desk, u"text/plain;"_s);
+    const auto quib = desk.startQuib();
+    const auto file = desk.dataFolder() + u"/shortcuts.json"_s;
+    QVERIFY(QFile::remove(file)); // It is written again, to be there to edit.
+    desk.openWithPointer();
+
+    chooseInMenu(desk, ShortcutsLine);
+
+    QTRY_COMPARE(recorded(record), file);
+    QVERIFY(QFile::exists(file));
+}
+
+void CommandsTest::showDataFolder_opensItInTheFileManager()
+{
+    Desk desk;
+    const auto record = recorder(desk, u"inode/directory;"_s);
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+
+    chooseInMenu(desk, DataLine);
+
+    QTRY_COMPARE(recorded(record), desk.dataFolder());
+}
+
+void CommandsTest::launchAtLogin_writesAnEntryAndTakesItAway()
+{
+    Desk desk;
+    const auto entry = desk.folder(u".config/autostart/org.korvel.Quib.desktop"_s);
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+
+    chooseInMenu(desk, LoginLine);
+    QTRY_VERIFY(QFile::exists(entry));
+
+    chooseInMenu(desk, LoginLine);
+    QTRY_VERIFY(!QFile::exists(entry));
+}
+
+void CommandsTest::pinFromTheMenu_keepsThePanelOpen()
+{
+    Desk desk;
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+
+    chooseInMenu(desk, PinLine);
+    QTRY_VERIFY(desk.pixel(Desk::Pin).blue() > 150); // Lit.
+    desk.moveTo(Desk::FarAway);
+    desk.click(Desk::FarAway);
+    QVERIFY(desk.isExpanded());
+
+    chooseInMenu(desk, PinLine);
+    desk.moveTo(Desk::FarAway);
+    QVERIFY(desk.waitForExpanded(false));
+}
+
+void CommandsTest::folderChosen_isKeptWhenASecondChoiceIsCancelled()
+{
+    Desk desk;
+    QVERIFY(QDir().mkpath(desk.folder(u"work/shop"_s)));
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+    desk.showTab(2);
+    desk.click(FirstClient);
+    QTRY_VERIFY(desk.pixel({704, 174}).blue() > 150); // "Track time"
+    const auto folderOfTheFirst
+        = [&] { return desk.data()["clients"_L1][0]["folderPath"_L1].toString(); };
+
+    desk.click(ChooseFolder);
+    QVERIFY(desk.waitForFront(u"Choose Folder"_s));
+    desk.moveTo(Desk::FarAway);
+    desk.type(desk.folder(u"work/shop"_s));
+    desk.key(u"Return"_s);
+    QTRY_COMPARE(folderOfTheFirst(), desk.folder(u"work/shop"_s));
+    QVERIFY(desk.waitForExpanded(false)); // Nothing holds it open any more.
+
+    desk.openWithPointer();
+    desk.click(SecondClient);
+    desk.click(ChooseFolder);
+    QVERIFY(desk.waitForFront(u"Choose Folder"_s));
+    desk.key(u"Escape"_s);
+    QTRY_VERIFY(!desk.titleInFront().startsWith(u"Choose"_s));
+    desk.moveTo(Desk::FarAway);
+    QVERIFY(desk.waitForExpanded(false));
+    QCOMPARE(folderOfTheFirst(), desk.folder(u"work/shop"_s));
+    QCOMPARE(desk.data()["clients"_L1][1]["folderPath"_L1].toString(), QString());
+}
+
+QTEST_GUILESS_MAIN(CommandsTest)
+#include "tst_commands.moc"
