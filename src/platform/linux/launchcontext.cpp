@@ -59,7 +59,6 @@ GOwned<GAppLaunchContext> makeLaunchContext()
 void standAlone(gpointer /*nothing*/)
 {
     setsid();
-    signal(SIGPIPE, SIG_DFL); // The library of the bus has us ignore it.
     sigset_t none{};
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);

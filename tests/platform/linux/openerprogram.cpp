@@ -1,5 +1,4 @@
 #include "platform/linux/gioopener.h"
-#include "platform/linux/sessionbus.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -7,6 +6,8 @@
 #include <QJsonDocument>
 #include <QSocketNotifier>
 #include <QTextStream>
+
+#include <csignal>
 
 #include <unistd.h>
 
@@ -49,6 +50,14 @@ std::chrono::milliseconds patience()
                                                        : GioOpener::Patience;
 }
 
+void blockASignal()
+{
+    sigset_t set{};
+    sigemptyset(&set);
+    sigaddset(&set, SIGUSR1);
+    sigprocmask(SIG_BLOCK, &set, nullptr);
+}
+
 } // namespace
 
 /// Opens what the lines on its input ask for, each a JSON array, and says "done" after each once
@@ -58,7 +67,8 @@ int main(int argc, char* argv[])
     const QCoreApplication application(argc, argv);
     qputenv("QT_QPA_PLATFORM", "xcb"); // As the program does for itself.
     qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
-    sessionBus(); // Has the library of the bus set the signals as in the program.
+    signal(SIGPIPE, SIG_IGN); // As the library of the bus does.
+    blockASignal();
     GioOpener opener(patience());
     QTextStream out(stdout);
     QFile in;

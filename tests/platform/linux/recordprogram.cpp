@@ -45,7 +45,7 @@ int main(int argc, char* argv[])
     const QJsonObject record{{u"arguments"_s, arguments},
                              {u"environment"_s, environment()},
                              {u"pid"_s, int(getpid())},
-                             {u"hasOwnSession"_s, getsid(0) != getsid(getppid())},
+                             {u"session"_s, int(getsid(0))},
                              {u"signalsAreAsExpected"_s, areSignalsAsExpected()}};
     const auto path = qEnvironmentVariable("QUIB_RECORDS") + u'/' + QString::number(getpid());
     QFile file(path + u".part"_s);
