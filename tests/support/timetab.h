@@ -3,6 +3,7 @@
 #include "support/downloadsfortest.h"
 #include "support/handclock.h"
 #include "support/shownpanel.h"
+#include "views/beat.h"
 
 /// The panel on its Time tab; the store's time is the test's to turn.
 struct TimeTab {
@@ -73,6 +74,33 @@ struct TimeTab {
     QQuickItem* part(int number, const QString& name) const
     {
         return ShownPanel::find(row(number), name);
+    }
+
+    quib::Beat* clockBeat() const
+    {
+        return item(QStringLiteral("clock"))->findChild<quib::Beat*>();
+    }
+    quib::Beat* totalsBeat() const
+    {
+        return item(QStringLiteral("totalsCard"))
+            ->findChild<quib::Beat*>({}, Qt::FindDirectChildrenOnly);
+    }
+
+    /// The name of what has the focus; of a field, not of the text in it.
+    QString focused() const
+    {
+        const auto* focus = panel.window->activeFocusItem();
+        while (
+            focus
+            && (focus->objectName().isEmpty() || focus->objectName() == QLatin1String("input"))) {
+            focus = focus->parentItem();
+        }
+        return focus ? focus->objectName() : QString();
+    }
+
+    QString exportSymbol() const
+    {
+        return item(QStringLiteral("export"))->property("symbol").toString();
     }
 
     QQuickItem* segment(int number) const
