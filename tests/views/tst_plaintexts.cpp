@@ -40,6 +40,7 @@ constexpr auto Controls = R"(
             FilterChip { title: hostile }
             Card { QuibText { text: hostile } }
             QuibField { placeholder: hostile }
+            QuibTextArea { placeholder: hostile; value: hostile }
             Item { QuibMenu { model: [{ title: hostile }]; visible: true } }
         }
     }
@@ -59,7 +60,7 @@ void PlainTextsTest::everyTextOfTheControls_isPlain()
     QVERIFY2(window, qPrintable(component.errorString()));
 
     const auto ofOneCharacter = Hostile.size();
-    QTRY_COMPARE(textItems(*window->contentItem()).size(), 8 + ofOneCharacter);
+    QTRY_COMPARE(textItems(*window->contentItem()).size(), 10 + ofOneCharacter);
     for (const auto* text : textItems(*window->contentItem())) {
         QVERIFY2(isPlain(*text), qPrintable(text->property("text").toString()));
     }
