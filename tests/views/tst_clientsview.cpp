@@ -143,7 +143,7 @@ void ClientsViewTest::plus_opensTheNewClientForTyping()
     QCOMPARE(shown(u"heading"_s), u"3 clients"_s);
     QVERIFY(!item(u"noClient"_s)->isVisible());
     QCOMPARE(m_panel->commands.asked, QStringList{u"take keyboard"_s});
-    QCOMPARE(input(u"clientName"_s)->property("selectedText").toString(), u"New client"_s);
+    QCOMPARE(input(u"nameField"_s)->property("selectedText").toString(), u"New client"_s);
     type(u"Ann"_s);
 
     QCOMPARE(client(added).name, u"Ann"_s);
@@ -170,7 +170,7 @@ void ClientsViewTest::click_selects()
     m_panel->click(row(1));
 
     QCOMPARE(selection(), m_bloom);
-    QCOMPARE(shown(u"clientName"_s), u"Bloom"_s);
+    QCOMPARE(shown(u"nameField"_s), u"Bloom"_s);
     QVERIFY(row(1)->property("selected").toBool());
     QVERIFY(!row(0)->property("selected").toBool());
 }
@@ -187,7 +187,7 @@ void ClientsViewTest::arrows_select()
     press(Qt::Key_Up);
 
     QCOMPARE(selection(), m_cafe);
-    QCOMPARE(shown(u"clientName"_s), u"Café"_s);
+    QCOMPARE(shown(u"nameField"_s), u"Café"_s);
 }
 
 void ClientsViewTest::selectionFarDown_isBroughtIntoSight()
@@ -224,7 +224,7 @@ void ClientsViewTest::rowsMarks_followTasksAndTimer()
 void ClientsViewTest::typedName_isInTheRowAtOnce()
 {
     select(m_cafe);
-    m_panel->click(item(u"clientName"_s));
+    m_panel->click(item(u"nameField"_s));
     press(Qt::Key_End);
 
     type(u" N"_s);
@@ -304,7 +304,7 @@ void ClientsViewTest::rate_isShownAnewWhenItsFieldIsLeft()
     type(u"1,234.50"_s);
     QCOMPARE(shown(u"rate"_s), u"1,234.50"_s);
 
-    m_panel->click(item(u"clientName"_s));
+    m_panel->click(item(u"nameField"_s));
     QCOMPARE(shown(u"rate"_s), u"1234.5"_s);
     m_panel->click(item(u"rate"_s));
     press(Qt::Key_A, Qt::ControlModifier);
@@ -320,7 +320,7 @@ void ClientsViewTest::cursor_staysWhileTheStoreChanges_data()
 {
     QTest::addColumn<QString>("field");
 
-    QTest::addRow("name") << u"clientName"_s;
+    QTest::addRow("name") << u"nameField"_s;
     QTest::addRow("address") << u"siteURL"_s;
     QTest::addRow("rate") << u"rate"_s;
     QTest::addRow("notes") << u"notes"_s;
@@ -354,7 +354,7 @@ void ClientsViewTest::cursor_staysWhileTheStoreChanges()
 void ClientsViewTest::sameFieldChangedElsewhere_isShownWithTheCursorKept()
 {
     select(m_cafe);
-    for (const auto& field : {u"clientName"_s, u"notes"_s}) {
+    for (const auto& field : {u"nameField"_s, u"notes"_s}) {
         change(m_cafe, [](quib::Client& edited) { edited.name = edited.notes = u"Corner"_s; });
         m_panel->click(item(field));
         press(Qt::Key_Home);
@@ -369,7 +369,7 @@ void ClientsViewTest::sameFieldChangedElsewhere_isShownWithTheCursorKept()
 
 void ClientsViewTest::undo_belongsToOneClient()
 {
-    for (const auto& field : {u"clientName"_s, u"siteURL"_s, u"notes"_s}) {
+    for (const auto& field : {u"nameField"_s, u"siteURL"_s, u"notes"_s}) {
         select(m_cafe);
         const auto before = shown(field);
         m_panel->click(item(field));
@@ -402,7 +402,7 @@ void ClientsViewTest::showing_changesNothing()
 
     select(m_cafe);
     m_panel->settle();
-    for (const auto& field : {u"clientName"_s, u"siteURL"_s, u"rate"_s, u"notes"_s}) {
+    for (const auto& field : {u"nameField"_s, u"siteURL"_s, u"rate"_s, u"notes"_s}) {
         m_panel->click(item(field));
         press(Qt::Key_Right);
     }
@@ -421,7 +421,7 @@ void ClientsViewTest::editing_keepsWhatIsNotTouched()
            [&](quib::Client& edited) { edited.name = edited.siteURL = edited.notes = odd; });
     select(m_cafe);
 
-    m_panel->click(item(u"clientName"_s));
+    m_panel->click(item(u"nameField"_s));
     press(Qt::Key_End);
     type(u"x"_s);
     QCOMPARE(client(m_cafe).name, odd + u'x');
@@ -619,7 +619,7 @@ void ClientsViewTest::armedButton_staysWhileTheStoreChanges()
 void ClientsViewTest::deletedElsewhere_closesTheEditor()
 {
     select(m_cafe);
-    m_panel->click(item(u"clientName"_s));
+    m_panel->click(item(u"nameField"_s));
 
     store().deleteClient(m_cafe);
 
@@ -649,7 +649,7 @@ void ClientsViewTest::tabKey_goesThroughEverything()
         passed << focused();
     }
 
-    QCOMPARE(items.at(0), input(u"clientName"_s));
+    QCOMPARE(items.at(0), input(u"nameField"_s));
     QCOMPARE(passed.at(1), u"status"_s);
     QCOMPARE(items.at(2), input(u"siteURL"_s));
     QCOMPARE(items.at(3), input(u"rate"_s));
@@ -701,7 +701,7 @@ void ClientsViewTest::names_tellWhatPressingDoes()
     QCOMPARE(nameOf(item(u"clientList"_s)), u"Clients"_s);
     QCOMPARE(nameOf(row(0)), u"Café"_s);
     QCOMPARE(nameOf(item(u"addClient"_s)), u"Add client"_s);
-    QCOMPARE(nameOf(input(u"clientName"_s)), u"Client name"_s);
+    QCOMPARE(nameOf(input(u"nameField"_s)), u"Client name"_s);
     QCOMPARE(nameOf(item(u"status"_s)), u"Status: Build"_s);
     QCOMPARE(nameOf(input(u"siteURL"_s)), u"Website URL"_s);
     QCOMPARE(nameOf(input(u"rate"_s)), u"Rate"_s);
@@ -755,7 +755,7 @@ void ClientsViewTest::longNames_leaveRoomForTheMarks()
 void ClientsViewTest::selectionAndTypedText_surviveACollapse()
 {
     select(m_cafe);
-    m_panel->click(item(u"clientName"_s));
+    m_panel->click(item(u"nameField"_s));
     press(Qt::Key_End);
     type(u"x"_s);
     auto* editor = item(u"clientDetail"_s);
@@ -765,8 +765,8 @@ void ClientsViewTest::selectionAndTypedText_surviveACollapse()
     m_panel->model.setExpanded(true);
 
     QCOMPARE(item(u"clientDetail"_s), editor);
-    QCOMPARE(shown(u"clientName"_s), u"Caféx"_s);
-    QCOMPARE(input(u"clientName"_s)->property("cursorPosition").toInt(), 5);
+    QCOMPARE(shown(u"nameField"_s), u"Caféx"_s);
+    QCOMPARE(input(u"nameField"_s)->property("cursorPosition").toInt(), 5);
 }
 
 QTEST_MAIN(ClientsViewTest)

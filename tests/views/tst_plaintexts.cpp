@@ -41,6 +41,7 @@ constexpr auto Controls = R"(
             SegmentedPicker { name: hostile; titles: [hostile]; selected: 0 }
             Card { QuibText { text: hostile } }
             QuibField { placeholder: hostile }
+            QuibTextArea { placeholder: hostile; value: hostile }
             Item { QuibMenu { model: [{ title: hostile }]; visible: true } }
         }
     }
@@ -60,7 +61,7 @@ void PlainTextsTest::everyTextOfTheControls_isPlain()
     QVERIFY2(window, qPrintable(component.errorString()));
 
     const auto ofOneCharacter = Hostile.size();
-    QTRY_COMPARE(textItems(*window->contentItem()).size(), 9 + ofOneCharacter);
+    QTRY_COMPARE(textItems(*window->contentItem()).size(), 11 + ofOneCharacter);
     for (const auto* text : textItems(*window->contentItem())) {
         QVERIFY2(isPlain(*text), qPrintable(text->property("text").toString()));
     }

@@ -42,11 +42,11 @@ FocusScope {
         if (input.text === root.value) {
             return;
         }
-        const isReversed = input.cursorPosition === input.selectionStart;
-        const ends = [input.selectionStart, input.selectionEnd];
+        const cursor = input.cursorPosition;
+        const other = cursor === input.selectionStart ? input.selectionEnd : input.selectionStart;
         input.text = root.value;
-        const [first, last] = ends.map(end => root.isEditing ? Math.min(end, input.length) : 0);
-        input.select(isReversed ? last : first, isReversed ? first : last);
+        const limit = root.isEditing ? input.length : 0;
+        input.select(Math.min(other, limit), Math.min(cursor, limit));
     }
 
     ContinuousRectangle {

@@ -53,7 +53,7 @@ FocusScope {
         QuibField {
             id: name
 
-            objectName: "clientName"
+            objectName: "nameField"
             Layout.fillWidth: true
             focus: true
             value: editor.name
@@ -79,7 +79,10 @@ FocusScope {
         RowLayout {
             spacing: 6
 
-            Mark { name: "globe" }
+            Mark {
+                objectName: "globe"
+                name: "globe"
+            }
 
             QuibField {
                 objectName: "siteURL"
@@ -92,6 +95,7 @@ FocusScope {
             }
 
             Mark {
+                objectName: "sterlingsign.circle"
                 Layout.leftMargin: 6
                 name: "sterlingsign.circle"
             }
@@ -114,7 +118,10 @@ FocusScope {
         RowLayout {
             spacing: 6
 
-            Mark { name: "folder" }
+            Mark {
+                objectName: "folderMark"
+                name: "folder"
+            }
 
             QuibText {
                 objectName: "folderPath"
