@@ -36,6 +36,7 @@ private Q_SLOTS:
     void rightClick_opensTheMenu();
     void rightClick_whereAStatusBarHasTheMenu_opensNothing();
     void menu_choosesByKeyboard();
+    void quitKey_quitsWhileTheMenuIsOpen();
 
 private:
     static QList<QQuickItem*> buttons(const ShownPanel& panel);
@@ -243,6 +244,22 @@ void TopBarTest::menu_choosesByKeyboard()
 
     QTRY_COMPARE(chosen.size(), 1);
     QCOMPARE(chosen[0][0].toString(), u"Quit"_s);
+}
+
+void TopBarTest::quitKey_quitsWhileTheMenuIsOpen()
+{
+    ShownPanel panel;
+    panel.commands.inStatusBar = false;
+    panel.commands.statusMenu.setItems({{.title = u"Quit"_s, .keyEquivalent = u"q"_s}});
+    panel.open(Tab::Home);
+    panel.window->requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(panel.window.get()));
+    rightClick(panel);
+    QTRY_VERIFY(isMenuOpen(panel));
+
+    QTest::keyClick(panel.window.get(), Qt::Key_Q, Qt::ControlModifier);
+
+    QCOMPARE(panel.commands.asked, QStringList{u"quit"_s});
 }
 
 QTEST_MAIN(TopBarTest)
