@@ -183,7 +183,7 @@ void CommandsTest::folderChosen_isKeptWhenASecondChoiceIsCancelled()
     desk.openWithPointer();
     desk.showTab(2);
     desk.click(FirstClient);
-    QTRY_VERIFY(desk.pixel({704, 174}).blue() > 150); // "Track time"
+    QTRY_VERIFY(desk.pixel({710, 174}).blue() > 150); // "Track time"
     const auto folderOfTheFirst
         = [&] { return desk.data()["clients"_L1][0]["folderPath"_L1].toString(); };
 
