@@ -56,9 +56,9 @@ public:
     void rebuildMenu();
     void rebuildMenuStates(StatusMenu& menu) const;
     void togglePin();
-    void toggleLogin();
+    void toggleLogin() const;
     void editShortcuts() override;
-    void showData();
+    void showData() const;
     void quit() override;
     void pick(bool directories, const std::optional<QUrl>& startIn, Completion completion) override;
     void takeKeyboard() override;

@@ -95,7 +95,7 @@ void AppDelegate::togglePin()
     }
 }
 
-void AppDelegate::toggleLogin()
+void AppDelegate::toggleLogin() const
 {
     auto& item = *m_platform.loginItem;
     const bool isDone = item.isEnabled() ? item.disable() : item.enable();
@@ -109,7 +109,7 @@ void AppDelegate::editShortcuts()
     Shortcuts::edit([this](const QString& file) { m_platform.opener->openInTextEditor(file); });
 }
 
-void AppDelegate::showData()
+void AppDelegate::showData() const
 {
     m_platform.opener->openPath(Store::folder());
 }

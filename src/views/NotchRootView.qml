@@ -19,9 +19,9 @@ FocusScope {
     required property Commands commands
 
     readonly property size shapeSize: root.model.isExpanded ? root.cardSize : root.collapsedSize
-    readonly property size cardSize: Qt.size(700, 290)
+    readonly property size cardSize: root.model.cardSize
     readonly property size collapsedSize: Qt.size(
-        root.model.notchSize.width + 10 + (timer.isRunning ? 184 : 0), root.model.notchSize.height)
+        root.model.notchSize.width + 10 + (timer.isRunning ? root.model.wingsWidth : 0), root.model.notchSize.height)
 
     focus: true
 

@@ -6,7 +6,6 @@ namespace quib {
 
 namespace {
 
-constexpr double WingsWidth = 184;
 constexpr double NotchSlack = 30; // 15 points on each side.
 constexpr double ImitationWidth = 190;
 constexpr double LeastImitationHeight = 24;

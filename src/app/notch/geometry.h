@@ -35,6 +35,9 @@ inline constexpr QSizeF PanelSize(760, 330);
 /// Where the open card lies in the window.
 inline constexpr QRectF CardInPanel(30, 0, 700, 290);
 
+/// By how much the notch is wider while a timer runs, in points.
+inline constexpr double WingsWidth = 184;
+
 /// The first screen with a notch, else the main one, else the first; absent without any screen.
 std::optional<Screen> chooseScreen(const QList<Screen>& screens);
 

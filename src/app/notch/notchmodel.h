@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/notch/geometry.h"
 #include "app/notch/tab.h"
 
 #include <QObject>
@@ -29,6 +30,8 @@ class NotchModel : public QObject {
                    bindableHasNotch)
     Q_PROPERTY(bool isMotionReduced READ isMotionReduced WRITE setMotionReduced NOTIFY
                    isMotionReducedChanged BINDABLE bindableIsMotionReduced)
+    Q_PROPERTY(QSizeF cardSize READ cardSize CONSTANT)
+    Q_PROPERTY(double wingsWidth READ wingsWidth CONSTANT)
 
 public:
     using QObject::QObject;
@@ -64,6 +67,9 @@ public:
     bool isMotionReduced() const { return m_isMotionReduced; }
     void setMotionReduced(bool reduced) { m_isMotionReduced = reduced; }
     QBindable<bool> bindableIsMotionReduced() { return &m_isMotionReduced; }
+
+    static QSizeF cardSize() { return CardInPanel.size(); }
+    static double wingsWidth() { return WingsWidth; }
 
     /// How many dialogs hold the card open. A count, so that one does not release another's hold.
     qint64 holdOpen = 0;
