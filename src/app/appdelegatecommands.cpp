@@ -41,7 +41,8 @@ void AppDelegate::setupStatusItem()
     connect(&item, &StatusItem::isShownChanged, this, &Commands::isMenuInStatusBarChanged);
     connect(&m_menu, &QAbstractItemModel::modelReset, this, &AppDelegate::followMenu);
     connect(&m_menu, &QAbstractItemModel::dataChanged, this, &AppDelegate::followMenu);
-    connect(&m_model, &NotchModel::isPinnedChanged, &m_menu, &StatusMenu::open);
+    connect(&m_model, &NotchModel::isPinnedChanged, this,
+            [this] { m_menu.setChecked(PinTitle, m_model.isPinned()); });
     item.install(statusIcon());
     rebuildMenu();
 }
@@ -116,7 +117,7 @@ void AppDelegate::showData() const
 
 void AppDelegate::quit()
 {
-    QCoreApplication::quit();
+    QCoreApplication::exit(); // Not quit(), which a window can refuse.
 }
 
 void AppDelegate::pick(bool directories, const std::optional<QUrl>& startIn, Completion completion)

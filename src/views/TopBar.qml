@@ -15,16 +15,26 @@ Item {
     required property NotchModel model
     required property Commands commands
 
+    function openMenu(x) {
+        root.commands.menu.open(); // Brings its check marks up to date.
+        root.commands.takeKeyboard();
+        menu.x = x;
+        menu.open();
+    }
+
     // Where no status bar offers the menu.
     TapHandler {
         acceptedButtons: Qt.RightButton
         enabled: !root.commands.isMenuInStatusBar
 
-        onTapped: point => {
-            root.commands.menu.open();
-            menu.x = point.position.x;
-            menu.open();
-        }
+        onTapped: point => root.openMenu(point.position.x)
+    }
+
+    Shortcut {
+        sequences: ["Menu", "Shift+F10"]
+        enabled: root.visible && !root.commands.isMenuInStatusBar
+
+        onActivated: root.openMenu(tabs.x + tabs.width)
     }
 
     QuibMenu {
@@ -35,6 +45,13 @@ Item {
         model: root.commands.menu
 
         onActivated: row => root.commands.menu.choose(row)
+
+        // The window's own is not heard while a menu is open.
+        Shortcut {
+            sequence: "Ctrl+Q"
+
+            onActivated: root.commands.quit()
+        }
     }
 
     Row {

@@ -32,6 +32,7 @@ class CommandsTest : public QObject {
 private Q_SLOTS:
     void quitFromTheMenu_savesEverything();
     void quitKey_quitsWhileThePanelHasTheKeyboard();
+    void quitKey_quitsWhileTheMenuIsOpen();
     void editShortcuts_opensTheFileInTheTextEditor();
     void showDataFolder_opensItInTheFileManager();
     void launchAtLogin_writesAnEntryAndTakesItAway();
@@ -115,6 +116,21 @@ void CommandsTest::quitKey_quitsWhileThePanelHasTheKeyboard()
     QVERIFY(quib->waitForFinished());
     QCOMPARE(quib->exitCode(), 0);
     QCOMPARE(desk.savedTasks().value(0), u"Last thing"_s);
+}
+
+void CommandsTest::quitKey_quitsWhileTheMenuIsOpen()
+{
+    Desk desk;
+    const auto listener = desk.startListener(); // Has the keyboard, until the menu opens.
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+    desk.rightClick(MenuCorner);
+    QTRY_COMPARE(desk.pixel({MenuCorner.x() + 180, QuitLine}), Popup);
+
+    desk.key(u"ctrl+q"_s);
+
+    QVERIFY(quib->waitForFinished());
+    QCOMPARE(quib->exitCode(), 0);
 }
 
 void CommandsTest::editShortcuts_opensTheFileInTheTextEditor()

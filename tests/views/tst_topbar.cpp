@@ -36,6 +36,7 @@ private Q_SLOTS:
     void rightClick_opensTheMenu();
     void rightClick_whereAStatusBarHasTheMenu_opensNothing();
     void menu_choosesByKeyboard();
+    void menuKey_opensTheMenu();
     void quitKey_quitsWhileTheMenuIsOpen();
 
 private:
@@ -246,6 +247,20 @@ void TopBarTest::menu_choosesByKeyboard()
     QCOMPARE(chosen[0][0].toString(), u"Quit"_s);
 }
 
+void TopBarTest::menuKey_opensTheMenu()
+{
+    ShownPanel panel;
+    panel.commands.inStatusBar = false;
+    panel.commands.statusMenu.setItems({{.title = u"Open"_s}});
+    panel.open(Tab::Home);
+    panel.window->requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(panel.window.get()));
+
+    QTest::keyClick(panel.window.get(), Qt::Key_F10, Qt::ShiftModifier);
+
+    QTRY_VERIFY(isMenuOpen(panel));
+}
+
 void TopBarTest::quitKey_quitsWhileTheMenuIsOpen()
 {
     ShownPanel panel;
@@ -259,7 +274,7 @@ void TopBarTest::quitKey_quitsWhileTheMenuIsOpen()
 
     QTest::keyClick(panel.window.get(), Qt::Key_Q, Qt::ControlModifier);
 
-    QCOMPARE(panel.commands.asked, QStringList{u"quit"_s});
+    QCOMPARE(panel.commands.asked, (QStringList{u"take keyboard"_s, u"quit"_s}));
 }
 
 QTEST_MAIN(TopBarTest)
