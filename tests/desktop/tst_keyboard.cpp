@@ -19,6 +19,26 @@ private Q_SLOTS:
     void menu_isUsableByKeyboard();
 };
 
+namespace {
+
+/// A desk with Quib on it, and a window beneath that tells which keys reach it.
+struct ListeningDesk : Desk {
+    Program listener = startListener();
+    Output heard{*listener};
+    Program quib = startQuib();
+
+    qsizetype keysBeneath() { return heard.count("KeyPress event"); }
+};
+
+void goToTheTaskField(const Desk& desk)
+{
+    desk.openWithPointer();
+    desk.showTab(3);
+    desk.click(Desk::TaskField);
+}
+
+} // namespace
+
 void KeyboardTest::typedTask_isOnDiskAtTheFrontAndTrimmed_data()
 {
     QTest::addColumn<bool>("compositor");
@@ -32,10 +52,8 @@ void KeyboardTest::typedTask_isOnDiskAtTheFrontAndTrimmed()
     QFETCH(bool, compositor);
     Desk desk({.compositor = compositor});
     const auto quib = desk.startQuib();
-    desk.openWithPointer();
-    desk.showTab(3);
+    goToTheTaskField(desk);
 
-    desk.click(Desk::TaskField);
     desk.type(u"  Call Ann  "_s);
     desk.key(u"Return"_s);
 
@@ -46,79 +64,61 @@ void KeyboardTest::typedTask_isOnDiskAtTheFrontAndTrimmed()
 
 void KeyboardTest::hovering_neverTakesTheKeyboard()
 {
-    Desk desk;
-    const auto listener = desk.startListener();
-    Output heard(*listener);
-    const auto quib = desk.startQuib();
-    heard.forget();
+    ListeningDesk desk;
+    desk.heard.forget();
 
     desk.openWithPointer();
     desk.key(u"a"_s);
 
-    QTRY_COMPARE(heard.count("KeyPress event"), 1);
+    QTRY_COMPARE(desk.keysBeneath(), 1);
 }
 
 void KeyboardTest::plainButtons_neverTakeTheKeyboard()
 {
-    Desk desk;
-    const auto listener = desk.startListener();
-    Output heard(*listener);
-    const auto quib = desk.startQuib();
+    ListeningDesk desk;
     desk.openWithPointer();
     desk.showTab(3);
     desk.click(Desk::Pin);
-    heard.forget();
+    desk.heard.forget();
 
     desk.key(u"a"_s);
 
-    QTRY_COMPARE(heard.count("KeyPress event"), 1);
+    QTRY_COMPARE(desk.keysBeneath(), 1);
 }
 
 void KeyboardTest::collapse_givesTheKeyboardBack()
 {
-    Desk desk;
-    const auto listener = desk.startListener();
-    Output heard(*listener);
-    const auto quib = desk.startQuib();
-    desk.openWithPointer();
-    desk.showTab(3);
-    desk.click(Desk::TaskField);
-    heard.forget();
+    ListeningDesk desk;
+    goToTheTaskField(desk);
+    desk.heard.forget();
     desk.type(u"abc"_s);
-    QCOMPARE(heard.count("KeyPress event"), 0);
+    QCOMPARE(desk.keysBeneath(), 0);
 
     desk.moveTo(Desk::FarAway);
     QVERIFY(desk.waitForExpanded(false));
     desk.key(u"x"_s);
 
-    QTRY_COMPARE(heard.count("KeyPress event"), 1);
+    QTRY_COMPARE(desk.keysBeneath(), 1);
 }
 
 void KeyboardTest::clickElsewhere_givesTheKeyboardToTheClickedWindow()
 {
-    Desk desk;
-    const auto listener = desk.startListener();
-    Output heard(*listener);
-    const auto quib = desk.startQuib();
-    desk.openWithPointer();
-    desk.showTab(3);
-    desk.click(Desk::TaskField);
-    heard.forget();
+    ListeningDesk desk;
+    goToTheTaskField(desk);
+    desk.heard.forget();
 
     desk.click(Desk::FarAway);
     QVERIFY(desk.waitForExpanded(false));
     desk.key(u"x"_s);
 
-    QTRY_COMPARE(heard.count("KeyPress event"), 1);
+    QTRY_COMPARE(desk.keysBeneath(), 1);
 }
 
 void KeyboardTest::halfTypedText_survivesACollapse()
 {
     Desk desk;
     const auto quib = desk.startQuib();
-    desk.openWithPointer();
-    desk.showTab(3);
-    desk.click(Desk::TaskField);
+    goToTheTaskField(desk);
     desk.type(u"half a "_s);
     desk.moveTo(Desk::FarAway);
     QVERIFY(desk.waitForExpanded(false));
@@ -137,9 +137,7 @@ void KeyboardTest::menu_isUsableByKeyboard()
 {
     Desk desk;
     const auto quib = desk.startQuib();
-    desk.openWithPointer();
-    desk.showTab(3);
-    desk.click(Desk::TaskField);
+    goToTheTaskField(desk);
     desk.type(u"Menu"_s);
 
     desk.key(u"Tab"_s);

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "app/appdelegate.h"
+#include "support/datafolderfortest.h"
+#include "support/fakeshell.h"
+#include "support/handclock.h"
+
+/// The delegate among fakes, its panel not made yet; the time is the test's to turn.
+struct DelegateForTest {
+    DataFolderForTest folder;
+    HandClock hands;
+    FakeShell shell;
+    quib::AppDelegate delegate{std::move(shell.platform), hands.clock(), hands.scheduler()};
+
+    DelegateForTest() { delegate.layout(); }
+
+    /// Launches it and forgets what that asked of the panel's host.
+    quib::AppDelegate& launched()
+    {
+        delegate.applicationDidFinishLaunching();
+        shell.asked.clear();
+        return delegate;
+    }
+};
