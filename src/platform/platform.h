@@ -10,6 +10,7 @@
 #include "app/notch/statusitem.h"
 #include "integrations/appcatalog.h"
 #include "integrations/opener.h"
+#include "integrations/playerlink.h"
 
 #include <memory>
 
@@ -27,6 +28,7 @@ struct Platform {
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<FilePicker> filePicker;
+    std::unique_ptr<PlayerLink> player;
     /// Ends the event loop in order when the system asks the process to end.
     std::unique_ptr<QObject> quitSignals;
 };

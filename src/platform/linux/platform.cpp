@@ -4,6 +4,7 @@
 #include "platform/linux/gioappcatalog.h"
 #include "platform/linux/gioopener.h"
 #include "platform/linux/linuxinstance.h"
+#include "platform/linux/mprisplayerlink.h"
 #include "platform/linux/pickerprogram.h"
 #include "platform/linux/portaldesktop.h"
 #include "platform/linux/quitsignals.h"
@@ -31,6 +32,7 @@ Platform makePlatform()
     platform.instance = std::make_unique<LinuxInstance>();
     platform.statusItem = std::make_unique<StatusNotifier>();
     platform.loginItem = std::make_unique<AutostartEntry>();
+    platform.player = std::make_unique<MprisPlayerLink>();
     platform.quitSignals = std::make_unique<QuitSignals>();
     return platform;
 }

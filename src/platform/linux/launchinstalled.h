@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QStringList>
+
+namespace quib {
+
+/// Launches the first of these desktop entries that is installed; none installed, nothing happens.
+/// Returns at once: the entries are looked for on a thread that nobody waits for.
+void launchFirstInstalled(const QStringList& entries);
+
+} // namespace quib
