@@ -21,12 +21,14 @@ constexpr auto CollapseDelay = 60ms;
 AppDelegate::AppDelegate(Platform platform, Clock clock, Scheduler schedule)
     : m_platform(std::move(platform))
     , m_schedule(schedule)
-    , m_store({.clock = std::move(clock),
-               .schedule = std::move(schedule),
+    , m_store({.clock = clock,
+               .schedule = schedule,
                .findApplication =
                    [this](const QString& name) {
                        return m_platform.applications->applicationNamed(name);
                    }})
+    , m_media(*m_platform.player, std::move(schedule))
+    , m_calendar(m_platform.calendar.get(), std::move(clock))
     , m_actions(*m_platform.opener, *m_platform.applications)
 {
     connect(&m_menu, &StatusMenu::aboutToOpen, this, [this] { rebuildMenuStates(m_menu); });
@@ -37,7 +39,13 @@ AppDelegate::~AppDelegate() = default;
 
 ViewContext AppDelegate::viewContext()
 {
-    return {.model = m_model, .store = m_store, .actions = m_actions, .commands = *this};
+    return {.model = m_model,
+            .store = m_store,
+            .media = m_media,
+            .calendar = m_calendar,
+            .actions = m_actions,
+            .icons = *m_platform.icons,
+            .commands = *this};
 }
 
 QRectF AppDelegate::collapsedRect() const
@@ -141,9 +149,12 @@ void AppDelegate::followExpansion()
     if (m_model.isExpanded()) {
         host.orderFront(); // Some window managers raise full-screen windows above everything.
         host.setInputRegion(CardInPanel.toRect());
+        m_media.startPolling();
+        m_calendar.reload();
         return;
     }
     host.setInputRegion({});
+    m_media.stopPolling();
     host.giveBackKeyboard(std::exchange(m_endingClick, std::nullopt));
 }
 

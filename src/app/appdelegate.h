@@ -6,6 +6,8 @@
 #include "app/notch/notchmodel.h"
 #include "app/notch/statusmenu.h"
 #include "integrations/actions.h"
+#include "integrations/calendarcontroller.h"
+#include "integrations/mediacontroller.h"
 #include "model/clock.h"
 #include "model/scheduler.h"
 #include "model/store.h"
@@ -35,6 +37,8 @@ public:
     const Platform& platform() const { return m_platform; }
     NotchModel& model() { return m_model; }
     Store& store() { return m_store; }
+    const MediaController& media() const { return m_media; }
+    const CalendarController& calendar() const { return m_calendar; }
     /// What every view is made with; borrowed from the delegate.
     ViewContext viewContext();
     /// Where the pointer opens the card, in global points.
@@ -61,6 +65,7 @@ public:
     void showData() const;
     void quit() override;
     void pick(bool directories, const std::optional<QUrl>& startIn, Completion completion) override;
+    QString applicationName(const QString& path) const override;
     void takeKeyboard() override;
     StatusMenu* menu() override { return &m_menu; }
     bool isMenuInStatusBar() const override;
@@ -80,6 +85,8 @@ private:
     Scheduler m_schedule;
     NotchModel m_model;
     Store m_store;
+    MediaController m_media;
+    CalendarController m_calendar;
     Actions m_actions;
     StatusMenu m_menu;
     std::unique_ptr<NotchPanel> m_panel;

@@ -140,6 +140,11 @@ void AppDelegate::pick(bool directories, const std::optional<QUrl>& startIn, Com
     }
 }
 
+QString AppDelegate::applicationName(const QString& path) const
+{
+    return m_platform.applications->nameOf(path);
+}
+
 void AppDelegate::takeKeyboard()
 {
     m_platform.panelHost->takeKeyboard();

@@ -5,6 +5,9 @@
 #include "app/notch/notchmodel.h"
 #include "app/notch/panelhost.h"
 #include "integrations/actions.h"
+#include "integrations/calendarcontroller.h"
+#include "integrations/iconsource.h"
+#include "integrations/mediacontroller.h"
 #include "model/store.h"
 #include "views/notchshape.h"
 
@@ -73,7 +76,10 @@ QVariantMap rootProperties(const ViewContext& context)
     return {
         {u"model"_s, QVariant::fromValue(&context.model)},
         {u"store"_s, QVariant::fromValue(&context.store)},
+        {u"media"_s, QVariant::fromValue(&context.media)},
+        {u"calendar"_s, QVariant::fromValue(&context.calendar)},
         {u"actions"_s, QVariant::fromValue(&context.actions)},
+        {u"icons"_s, QVariant::fromValue(&context.icons)},
         {u"commands"_s, QVariant::fromValue(&context.commands)},
     };
 }

@@ -6,7 +6,10 @@
 namespace quib {
 
 class Actions;
+class CalendarController;
 class Commands;
+class IconSource;
+class MediaController;
 class NotchModel;
 class PanelHost;
 class Store;
@@ -15,7 +18,10 @@ class Store;
 struct ViewContext {
     NotchModel& model;
     Store& store;
+    MediaController& media;
+    CalendarController& calendar;
     Actions& actions;
+    IconSource& icons;
     Commands& commands;
 };
 

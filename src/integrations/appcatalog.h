@@ -29,6 +29,9 @@ public:
     /// Full path of the first of these ids whose application is installed; absent when none is. An
     /// id is a bundle's path or a desktop entry's file name. Read anew each time.
     virtual std::optional<QString> firstInstalled(const QStringList& ids) const = 0;
+    /// What the application at a full path is called, in the user's language; its file's name where
+    /// the file does not tell.
+    virtual QString nameOf(const QString& path) const = 0;
     /// The visible ones, by name as the user's language sorts. Read anew each time.
     virtual QList<Application> applications() const = 0;
 };

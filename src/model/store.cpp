@@ -175,6 +175,19 @@ void Store::removeFromShelf(const QUuid& id)
     }
 }
 
+void Store::addLaunchItem(const LaunchItem& item)
+{
+    m_data.launch.append(item);
+    announce(&Store::launchChanged);
+}
+
+void Store::removeLaunchItem(const QUuid& id)
+{
+    if (removeAll(m_data.launch, id)) {
+        announce(&Store::launchChanged);
+    }
+}
+
 void Store::setNotes(const QString& notes)
 {
     if (notes == m_data.notes) {

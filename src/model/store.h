@@ -80,6 +80,9 @@ public:
     /// Each new file goes to the front. Addresses that are no files are passed over.
     Q_INVOKABLE void addToShelf(const QList<QUrl>& urls);
     Q_INVOKABLE void removeFromShelf(const QUuid& id); ///< The file itself stays.
+    /// Goes to the end.
+    void addLaunchItem(const LaunchItem& item);
+    Q_INVOKABLE void removeLaunchItem(const QUuid& id);
     void setNotes(const QString& notes);
     /// Ends the running timer first, with the rule of stopTimer().
     void startTimer(const std::optional<QUuid>& client, const QString& note);

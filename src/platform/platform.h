@@ -9,6 +9,8 @@
 #include "app/notch/singleinstance.h"
 #include "app/notch/statusitem.h"
 #include "integrations/appcatalog.h"
+#include "integrations/calendarstore.h"
+#include "integrations/iconsource.h"
 #include "integrations/opener.h"
 #include "integrations/playerlink.h"
 
@@ -25,6 +27,8 @@ struct Platform {
     std::unique_ptr<Desktop> desktop;
     std::unique_ptr<AppCatalog> applications;
     std::unique_ptr<Opener> opener;
+    std::unique_ptr<CalendarStore> calendar;
+    std::unique_ptr<IconSource> icons;
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<FilePicker> filePicker;

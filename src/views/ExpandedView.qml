@@ -14,7 +14,10 @@ FocusScope {
 
     required property NotchModel model
     required property Store store
+    required property MediaController media
+    required property CalendarController calendar
     required property Actions actions
+    required property IconSource icons
     required property Commands commands
     required property real arrival
 
@@ -47,7 +50,19 @@ FocusScope {
 
         Page {
             tab: Tab.Home
-            view: EmptyTab { tab: Tab.Home }
+
+            view: HomeView {
+                objectName: "homeView"
+                anchors.fill: parent
+                focus: true
+                media: root.media
+                calendar: root.calendar
+                store: root.store
+                model: root.model
+                actions: root.actions
+                icons: root.icons
+                commands: root.commands
+            }
         }
 
         Page {

@@ -15,7 +15,10 @@ FocusScope {
 
     required property NotchModel model
     required property Store store
+    required property MediaController media
+    required property CalendarController calendar
     required property Actions actions
+    required property IconSource icons
     required property Commands commands
 
     readonly property size shapeSize: root.model.isExpanded ? root.cardSize : root.collapsedSize
@@ -110,7 +113,10 @@ FocusScope {
                 focus: true
                 model: root.model
                 store: root.store
+                media: root.media
+                calendar: root.calendar
                 actions: root.actions
+                icons: root.icons
                 commands: root.commands
                 arrival: spring.value
             }

@@ -27,6 +27,15 @@ void ContinuousRectangle::setColor(const QColor& color)
     }
 }
 
+void ContinuousRectangle::setLowerColor(const QColor& color)
+{
+    if (m_lowerColor != color) {
+        m_lowerColor = color;
+        Q_EMIT lowerColorChanged();
+        redraw();
+    }
+}
+
 void ContinuousRectangle::setStrokeColor(const QColor& color)
 {
     if (m_strokeColor != color) {
@@ -45,6 +54,17 @@ void ContinuousRectangle::setStrokeWidth(double points)
     }
 }
 
+QBrush ContinuousRectangle::filling() const
+{
+    if (!m_lowerColor.isValid()) {
+        return m_color;
+    }
+    QLinearGradient gradient(0, 0, width(), height());
+    gradient.setColorAt(0, m_color);
+    gradient.setColorAt(1, m_lowerColor);
+    return gradient;
+}
+
 QImage ContinuousRectangle::picture(double pixelsPerPoint) const
 {
     const bool isStroked = m_strokeColor.alpha() > 0 && m_strokeWidth > 0;
@@ -59,7 +79,7 @@ QImage ContinuousRectangle::picture(double pixelsPerPoint) const
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(pixelsPerPoint, pixelsPerPoint);
     const QRectF shape(QPointF(), size());
-    painter.fillPath(continuousPath(shape, m_radius), m_color);
+    painter.fillPath(continuousPath(shape, m_radius), filling());
     if (isStroked) {
         const double inset = m_strokeWidth / 2;
         painter.strokePath(

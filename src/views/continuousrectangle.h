@@ -2,6 +2,7 @@
 
 #include "views/rasteritem.h"
 
+#include <QBrush>
 #include <QColor>
 
 #include <qqmlintegration.h>
@@ -15,6 +16,8 @@ class ContinuousRectangle : public quib::RasterItem { // Spelt out for the tools
     QML_ELEMENT
     Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY radiusChanged)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+    /// What the colour turns into on the way from the upper left corner to the lower right one.
+    Q_PROPERTY(QColor lowerColor READ lowerColor WRITE setLowerColor NOTIFY lowerColorChanged)
     Q_PROPERTY(QColor strokeColor READ strokeColor WRITE setStrokeColor NOTIFY strokeColorChanged)
     Q_PROPERTY(double strokeWidth READ strokeWidth WRITE setStrokeWidth NOTIFY strokeWidthChanged)
 
@@ -23,17 +26,20 @@ public:
 
     double radius() const { return m_radius; }
     QColor color() const { return m_color; }
+    QColor lowerColor() const { return m_lowerColor; } ///< Invalid where the colour stays.
     QColor strokeColor() const { return m_strokeColor; }
     double strokeWidth() const { return m_strokeWidth; }
 
     void setRadius(double points);
     void setColor(const QColor& color);
+    void setLowerColor(const QColor& color);
     void setStrokeColor(const QColor& color);
     void setStrokeWidth(double points);
 
 Q_SIGNALS:
     void radiusChanged();
     void colorChanged();
+    void lowerColorChanged();
     void strokeColorChanged();
     void strokeWidthChanged();
 
@@ -41,8 +47,11 @@ protected:
     QImage picture(double pixelsPerPoint) const override;
 
 private:
+    QBrush filling() const;
+
     double m_radius = 0;
     QColor m_color = Qt::transparent;
+    QColor m_lowerColor;
     QColor m_strokeColor = Qt::transparent;
     double m_strokeWidth = 1;
 };

@@ -35,6 +35,17 @@ public:
         return m_dates.weekdayAndDay(moment);
     }
 
+    Q_INVOKABLE QString timeOfDay(const QDateTime& moment) const
+    {
+        return m_dates.timeOfDay(moment);
+    }
+
+    /// How far a moment is from another, before or after.
+    Q_INVOKABLE QString timeBetween(const QDateTime& from, const QDateTime& to) const
+    {
+        return m_dates.timeSpan(static_cast<double>(from.msecsTo(to)) / 1000);
+    }
+
 private:
     DateTexts m_dates{UserLocale::fromEnvironment()};
     MoneyFormatter m_money{UserLocale::fromEnvironment()};

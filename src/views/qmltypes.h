@@ -1,6 +1,9 @@
 #pragma once
 
 #include "integrations/actions.h"
+#include "integrations/calendarcontroller.h"
+#include "integrations/iconsource.h"
+#include "integrations/mediacontroller.h"
 #include "model/store.h"
 
 #include <QtQml/qqml.h>
@@ -19,6 +22,27 @@ struct ActionsType {
     Q_GADGET
     QML_FOREIGN(quib::Actions)
     QML_NAMED_ELEMENT(Actions)
+    QML_UNCREATABLE("Created by the application delegate")
+};
+
+struct IconSourceType {
+    Q_GADGET
+    QML_FOREIGN(quib::IconSource)
+    QML_NAMED_ELEMENT(IconSource)
+    QML_UNCREATABLE("Made with the platform")
+};
+
+struct MediaControllerType {
+    Q_GADGET
+    QML_FOREIGN(quib::MediaController)
+    QML_NAMED_ELEMENT(MediaController)
+    QML_UNCREATABLE("Created by the application delegate")
+};
+
+struct CalendarControllerType {
+    Q_GADGET
+    QML_FOREIGN(quib::CalendarController)
+    QML_NAMED_ELEMENT(CalendarController)
     QML_UNCREATABLE("Created by the application delegate")
 };
 

@@ -28,6 +28,8 @@ public:
     /// called later, and only when something was chosen. `startIn` counts for folders.
     virtual void pick(bool directories, const std::optional<QUrl>& startIn, Completion completion)
         = 0;
+    /// What the application at a full path is called, in the user's language.
+    virtual QString applicationName(const QString& path) const = 0;
     /// Gives the panel the keyboard, for an edit that a control starts.
     Q_INVOKABLE virtual void takeKeyboard() = 0;
     Q_INVOKABLE virtual void editShortcuts() = 0;

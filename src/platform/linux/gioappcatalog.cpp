@@ -127,6 +127,21 @@ std::optional<QString> GioAppCatalog::firstInstalled(const QStringList& ids) con
     return std::nullopt;
 }
 
+/// Reads the file alone, for GIO's own list of entries may be locked by who waits for a slow one.
+QString GioAppCatalog::nameOf(const QString& path) const
+{
+    const GKeyFileOwned entry(g_key_file_new());
+    if (g_key_file_load_from_file(entry.get(), QFile::encodeName(path).constData(), G_KEY_FILE_NONE,
+                                  nullptr)) {
+        const GText name(g_key_file_get_locale_string(
+            entry.get(), G_KEY_FILE_DESKTOP_GROUP, G_KEY_FILE_DESKTOP_KEY_NAME, nullptr, nullptr));
+        if (name) {
+            return QString::fromUtf8(name.get());
+        }
+    }
+    return QFileInfo(path).completeBaseName();
+}
+
 QList<Application> GioAppCatalog::applications() const
 {
     QList<Application> list;

@@ -1,0 +1,87 @@
+import QtQuick
+
+import Quib.Brand
+import Quib.Views
+
+/*!
+    One event of the day: what, when, and how far off.
+*/
+Item {
+    id: root
+
+    required property string title
+    required property date start
+    required property bool allDay
+    required property color eventColor
+    required property date now
+
+    implicitHeight: 32
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.title
+
+    Rectangle {
+        id: bar
+
+        objectName: "bar"
+        anchors.verticalCenter: parent.verticalCenter
+        width: 3
+        height: 26
+        radius: 2
+        color: root.eventColor
+    }
+
+    Column {
+        anchors.left: bar.right
+        anchors.leftMargin: 8
+        anchors.right: distance.visible ? distance.left : parent.right
+        anchors.rightMargin: distance.visible ? 8 : 0
+        anchors.verticalCenter: parent.verticalCenter
+
+        QuibText {
+            objectName: "title"
+            width: parent.width
+            text: root.title
+            size: 12
+            weight: Font.Medium
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+
+        QuibText {
+            objectName: "time"
+            width: parent.width
+            text: root.allDay ? "All day" : Format.timeOfDay(root.start)
+            size: 10.5
+            color: Brand.muted
+            elide: Text.ElideRight
+        }
+    }
+
+    Item {
+        id: distance
+
+        objectName: "distance"
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.max(70, distanceText.implicitWidth + 16)
+        height: distanceText.implicitHeight + 6
+        visible: !root.allDay
+
+        ContinuousRectangle {
+            objectName: "capsule"
+            anchors.fill: parent
+            radius: height / 2
+            color: Qt.alpha(root.eventColor, 0.15)
+        }
+
+        QuibText {
+            id: distanceText
+
+            objectName: "distanceText"
+            anchors.centerIn: parent
+            text: distance.visible ? Format.timeBetween(root.start, root.now) : ""
+            size: 10
+            weight: Font.Bold
+        }
+    }
+}

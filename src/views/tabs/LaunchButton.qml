@@ -1,0 +1,100 @@
+import QtQuick
+
+import Quib.Brand
+import Quib.Views
+
+/*!
+    One thing to launch, by its picture and name. While the strip is edited it can be taken away.
+*/
+FocusScope {
+    id: root
+
+    required property uuid itemID
+    required property string name
+    required property string target
+    required property string path
+    required property IconSource icons
+    required property bool editing
+
+    signal opened
+    signal removed
+
+    implicitWidth: capsule.implicitWidth
+    implicitHeight: capsule.implicitHeight
+
+    PlainButton {
+        id: capsule
+
+        objectName: "launch"
+        anchors.fill: parent
+        focus: true
+        implicitHeight: 30
+        horizontalPadding: 12
+        help: root.target
+        Accessible.name: "Open " + root.name
+
+        onClicked: root.opened()
+
+        background: ContinuousRectangle {
+            objectName: "capsule"
+            radius: height / 2
+            color: Brand.white(capsule.hovered ? 0.14 : 0.07)
+        }
+
+        contentItem: Item {
+            implicitWidth: 16 + 7 + name.width
+            implicitHeight: 16
+
+            Symbol {
+                objectName: "globe"
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.path === ""
+                name: "globe"
+                size: 16
+                color: Brand.muted
+            }
+
+            FileIcon {
+                objectName: "icon"
+                anchors.verticalCenter: parent.verticalCenter
+                width: 16
+                height: 16
+                source: root.icons
+                path: root.path
+            }
+
+            QuibText {
+                id: name
+
+                objectName: "name"
+                anchors.verticalCenter: parent.verticalCenter
+                x: 16 + 7
+                width: Math.min(implicitWidth, 140)
+                text: root.name
+                size: 11.5
+                weight: Font.Medium
+                elide: Text.ElideRight
+                Accessible.ignored: true
+            }
+        }
+    }
+
+    PlainButton {
+        objectName: "remove"
+        anchors.right: parent.right
+        anchors.rightMargin: -4
+        anchors.top: parent.top
+        anchors.topMargin: -4
+        visible: root.editing
+        Accessible.name: "Remove " + root.name
+
+        onClicked: root.removed()
+
+        contentItem: Symbol {
+            objectName: "badge"
+            name: "minus.circle.fill"
+            size: 14
+            color: Brand.red
+        }
+    }
+}
