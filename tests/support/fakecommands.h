@@ -21,6 +21,10 @@ public:
                           startIn.value_or(QUrl()).toLocalFile());
         choices << std::move(completion);
     }
+    QString applicationName(const QString& path) const override
+    {
+        return QStringLiteral("the application at ") + path;
+    }
     void takeKeyboard() override { asked << QStringLiteral("take keyboard"); }
     void editShortcuts() override { asked << QStringLiteral("edit shortcuts"); }
     void quit() override { asked << QStringLiteral("quit"); }
