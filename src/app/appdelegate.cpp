@@ -27,7 +27,7 @@ AppDelegate::AppDelegate(Platform platform, Clock clock, Scheduler schedule)
                    [this](const QString& name) {
                        return m_platform.applications->applicationNamed(name);
                    }})
-    , m_actions(*m_platform.opener, *m_platform.applications)
+    , m_actions(*m_platform.opener)
 {
     connect(&m_menu, &StatusMenu::aboutToOpen, this, [this] { rebuildMenuStates(m_menu); });
     connect(&m_menu, &StatusMenu::chosen, this, &AppDelegate::runCommand);

@@ -19,8 +19,7 @@ struct ShownPanel {
     QStringList asked;
     FakePanelHost host{asked};
     FakeOpener opener;
-    FakeAppCatalog applications;
-    quib::Actions actions{opener, applications};
+    quib::Actions actions{opener};
     FakeCommands commands;
     std::unique_ptr<quib::NotchPanel> window;
 
