@@ -159,6 +159,17 @@ TestCase {
         compare(place(made, 0).x, 9);
     }
 
+    function test_atTheEndOfALongTextTheCursorIsInSightAndStaysLit() {
+        const made = createTemporaryObject(field, testCase, { text: "A long text that does not fit into the field at all" });
+        made.forceActiveFocus();
+        keyClick(Qt.Key_End);
+        const cursor = cursorOf(made);
+        verify(cursor.mapToItem(made, cursor.width, 0).x <= 150 - 9);
+        cursor.isLit = false;
+        keyClick("x");
+        verify(cursor.isLit);
+    }
+
     function test_typedWordsCanBeUndone() {
         const made = createTemporaryObject(field, testCase);
         made.forceActiveFocus();

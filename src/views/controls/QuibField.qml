@@ -88,7 +88,7 @@ FocusScope {
             id: input
 
             objectName: "input"
-            width: opening.width * 2
+            width: opening.width * 2 - 2 // Past the end of a long text there is room for the cursor.
             height: opening.height * 2
             scale: 0.5
             transformOrigin: Item.TopLeft
@@ -124,3 +124,4 @@ FocusScope {
         cursorShape: Qt.IBeamCursor
     }
 }
+                position: input.cursorPosition

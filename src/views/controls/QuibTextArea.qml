@@ -123,6 +123,7 @@ FocusScope {
 
             cursorDelegate: FieldCursor {
                 isShown: input.cursorVisible
+                position: input.cursorPosition
             }
 
             onTextChanged: root.follow()
