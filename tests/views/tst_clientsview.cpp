@@ -26,6 +26,7 @@ private Q_SLOTS:
     void siteButton_comesAndGoesWithTheAddress();
     void folderButtons_comeWithTheFolder();
     void trackTime_startsAndStops();
+    void trackTime_doubleClicked_keepsTheTimer();
     void firstClick_arms();
     void secondClick_deletes();
     void armedButton_restsForAnotherClient();
@@ -231,6 +232,17 @@ void ClientsViewTest::trackTime_startsAndStops()
 
     QVERIFY(!m_book->store().hasRunningEntry());
     QCOMPARE(track->property("title").toString(), u"Track time"_s);
+}
+
+void ClientsViewTest::trackTime_doubleClicked_keepsTheTimer()
+{
+    m_book->select(m_book->cafe);
+    m_book->settle();
+
+    m_book->doubleClick(m_book->item(u"track"_s));
+
+    QVERIFY(m_book->store().hasRunningEntry());
+    QCOMPARE(m_book->store().runningEntry()->clientID, m_book->cafe);
 }
 
 void ClientsViewTest::firstClick_arms()
