@@ -37,6 +37,20 @@ FocusScope {
         input.selectAll();
     }
 
+    // Stands in the text as one step that can be undone: moving the cursor ends a step.
+    function paste(line) {
+        if (root.readOnly || line === "") {
+            return;
+        }
+        input.remove(input.selectionStart, input.selectionEnd);
+        const cursor = input.cursorPosition;
+        input.cursorPosition = 0;
+        input.cursorPosition = input.length;
+        input.insert(cursor, line);
+        input.cursorPosition = cursor;
+        input.cursorPosition = cursor + line.length;
+    }
+
     // Says the value again.
     function settle() {
         if (input.text === root.value) {
@@ -113,10 +127,31 @@ FocusScope {
 
             cursorDelegate: FieldCursor {
                 isShown: input.cursorVisible
+                position: input.cursorPosition
             }
 
             onAccepted: root.accepted()
             onTextEdited: root.edited()
+
+            Keys.onPressed: event => {
+                event.accepted = event.matches(StandardKey.Paste);
+                if (event.accepted) {
+                    root.paste(PastedLine.ofClipboard());
+                }
+            }
+
+            MouseArea {
+                x: -2 * root.horizontalPadding
+                width: root.width * 2
+                height: root.height * 2
+                acceptedButtons: Qt.MiddleButton
+
+                onPressed: mouse => {
+                    input.forceActiveFocus(Qt.MouseFocusReason);
+                    input.cursorPosition = input.positionAt(mouse.x - 2 * root.horizontalPadding, mouse.y);
+                    root.paste(PastedLine.ofSelection());
+                }
+            }
         }
     }
 
@@ -124,4 +159,3 @@ FocusScope {
         cursorShape: Qt.IBeamCursor
     }
 }
-                position: input.cursorPosition
