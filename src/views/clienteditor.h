@@ -74,7 +74,6 @@ private:
     template <typename Value>
     void write(Value Client::*field, const Value& value);
 
-    UserLocale m_locale = UserLocale::fromEnvironment();
     QPointer<Store> m_store;
     QUuid m_clientID;
     std::optional<Client> m_client;
