@@ -2,6 +2,9 @@
 
 #include <QTest>
 
+#include <cmath>
+#include <limits>
+
 using namespace Qt::StringLiterals;
 using quib::Client;
 using quib::TotalListModel;
@@ -18,6 +21,7 @@ private Q_SLOTS:
     void deletedClient_becomesARowOfNobody();
     void entryThatEndsBeforeItStarts_keepsTheSharesInBounds();
     void sumBelowZero_leavesNoShares();
+    void ratesWithoutMeasure_earnWhatCanBeShown();
     void timerOfTheFuture_countsBelowZero();
     void storeChange_isFollowedAtOnce();
     void storeGone_leavesNoRows();
@@ -93,6 +97,20 @@ void TotalListModelTest::sumBelowZero_leavesNoShares()
 
     QCOMPARE(report.rows(), (QStringList{u"Café 3600 0 35"_s, u"Bloom -7200 0 -70"_s}));
     QCOMPARE(report.model.totalSeconds(), -3600.0);
+}
+
+void TotalListModelTest::ratesWithoutMeasure_earnWhatCanBeShown()
+{
+    constexpr auto Most = std::numeric_limits<double>::max();
+    Report report;
+    report.entry(-4, -1, report.client(u"Café"_s, Most));
+    report.entry(-4, -2, report.client(u"Bloom"_s, Most));
+    QCOMPARE(report.model.totalAmount(), Most);
+
+    report.entry(-4, 0, report.client(u"Cellar"_s, -Most));
+
+    QCOMPARE(report.model.index(0).data(TotalListModel::AmountRole).toDouble(), -Most);
+    QVERIFY(std::isfinite(report.model.totalAmount()));
 }
 
 void TotalListModelTest::timerOfTheFuture_countsBelowZero()
