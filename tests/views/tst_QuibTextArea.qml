@@ -124,6 +124,30 @@ TestCase {
         verify(cursor.height > 10);
     }
 
+    function test_theRingShowsForTheKeyboardOnly_data() {
+        return [{ tag: "Tab", reason: Qt.TabFocusReason, shown: true }, { tag: "Backtab", reason: Qt.BacktabFocusReason, shown: true },
+                { tag: "a shortcut", reason: Qt.ShortcutFocusReason, shown: true }, { tag: "the pointer", reason: Qt.MouseFocusReason, shown: false },
+                { tag: "the view", reason: Qt.OtherFocusReason, shown: false }];
+    }
+
+    function test_theRingShowsForTheKeyboardOnly(row) {
+        const made = make();
+        const ring = findChild(made, "ring");
+        verify(!ring.visible);
+        made.forceActiveFocus(row.reason);
+        compare(ring.visible, row.shown);
+        made.focus = false;
+        verify(!ring.visible);
+    }
+
+    function test_aPressEndsTheRing() {
+        const made = make();
+        made.forceActiveFocus(Qt.TabFocusReason);
+        verify(findChild(made, "ring").visible);
+        mouseClick(made);
+        verify(!findChild(made, "ring").visible);
+    }
+
     function test_returnMakesALine() {
         const made = make();
         made.forceActiveFocus();

@@ -155,6 +155,18 @@ FocusScope {
         }
     }
 
+    KeyboardFocus {
+        id: keyboard
+
+        item: input
+    }
+
+    FocusRing {
+        objectName: "ring"
+        visible: keyboard.isShown
+        radius: 10
+    }
+
     HoverHandler {
         cursorShape: Qt.IBeamCursor
     }
