@@ -6,6 +6,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
 
 using namespace Qt::StringLiterals;
@@ -73,6 +74,21 @@ int ClientListModel::rowOf(const QUuid& id) const
 QUuid ClientListModel::clientAt(int row) const
 {
     return m_clients.value(row).id;
+}
+
+int ClientListModel::rowBeside(int row, int by) const
+{
+    const int left = row < 0 ? std::max(by, 1) : by;
+    const int direction = left < 0 ? -1 : 1;
+    int found = row;
+    int steps = std::abs(left);
+    for (int next = row + direction; steps > 0 && next >= 0 && next < count(); next += direction) {
+        if (rowOf(m_clients.at(next).id) == next) {
+            found = next;
+            --steps;
+        }
+    }
+    return found;
 }
 
 int ClientListModel::rowCount(const QModelIndex& parent) const

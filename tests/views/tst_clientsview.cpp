@@ -20,6 +20,9 @@ private Q_SLOTS:
     void plus_bringsTheNewClientIntoSight();
     void click_selects();
     void arrows_select();
+    void arrows_passRepeatedIds();
+    void firstDown_selectsTheFirst();
+    void pagesAndEnds_select();
     void selectionFarDown_isBroughtIntoSight();
     void rowsMarks_followTasksAndTimer();
     void otherRows_keepStandingWhileOneIsEdited();
@@ -124,6 +127,60 @@ void ClientsViewTest::arrows_select()
 
     QCOMPARE(m_book->selection(), m_book->cafe);
     QCOMPARE(m_book->shown(u"nameField"_s), u"Café"_s);
+}
+
+void ClientsViewTest::arrows_passRepeatedIds()
+{
+    auto data = m_book->store().data();
+    data.clients.insert(1, {.id = m_book->cafe, .name = u"Twin"_s});
+    m_book->store().setData(data);
+    m_book->click(m_book->row(0));
+
+    m_book->press(Qt::Key_Down);
+    QCOMPARE(m_book->selection(), m_book->bloom);
+    m_book->press(Qt::Key_Up);
+
+    QCOMPARE(m_book->selection(), m_book->cafe);
+}
+
+void ClientsViewTest::firstDown_selectsTheFirst()
+{
+    m_book->item(u"addClient"_s)->forceActiveFocus(Qt::TabFocusReason);
+    m_book->press(Qt::Key_Tab);
+
+    m_book->press(Qt::Key_Down);
+
+    QCOMPARE(m_book->selection(), m_book->cafe);
+}
+
+void ClientsViewTest::pagesAndEnds_select()
+{
+    for (int number = 0; number < 60; ++number) {
+        m_book->store().addClient();
+    }
+    m_book->settle();
+    const auto rowOfSelection = [&] {
+        return std::ranges::find(m_book->store().data().clients, m_book->selection(),
+                                 &quib::Client::id)
+            - m_book->store().data().clients.begin();
+    };
+    m_book->click(m_book->row(0));
+
+    m_book->press(Qt::Key_PageDown);
+    const auto page = rowOfSelection();
+    QVERIFY(page > 2 && page < 30);
+    m_book->press(Qt::Key_PageDown);
+    QCOMPARE(rowOfSelection(), 2 * page);
+    m_book->press(Qt::Key_PageUp);
+    QCOMPARE(rowOfSelection(), page);
+    m_book->press(Qt::Key_End);
+    QCOMPARE(m_book->selection(), m_book->bloom);
+    m_book->settle();
+    QVERIFY(ShownPanel::inScene(m_book->item(u"clientList"_s))
+                .contains(ShownPanel::inScene(m_book->row(61))));
+    m_book->press(Qt::Key_Home);
+
+    QCOMPARE(rowOfSelection(), 0);
 }
 
 void ClientsViewTest::selectionFarDown_isBroughtIntoSight()
