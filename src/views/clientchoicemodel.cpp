@@ -1,6 +1,5 @@
 #include "views/clientchoicemodel.h"
 
-#include "views/noclient.h"
 #include "views/storelink.h"
 
 #include <algorithm>

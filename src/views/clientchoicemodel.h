@@ -2,6 +2,7 @@
 
 #include "model/recordlistmodel.h"
 #include "model/store.h"
+#include "views/noclient.h"
 
 #include <QPointer>
 
@@ -12,7 +13,7 @@ namespace quib {
 /// One entry of a menu of clients.
 struct ClientChoice {
     QUuid id; ///< Of the entry.
-    QUuid clientID; ///< Null where it stands for no client.
+    QUuid clientID = NoClient::id();
     QString title;
     bool isChecked = false;
     bool isSeparator = false;
@@ -37,9 +38,9 @@ public:
 
     Store* store() const { return m_store; }
     QString placeholder() const { return m_placeholder; }
-    QUuid selection() const { return m_selection; } ///< Null for no client.
+    QUuid selection() const { return m_selection; } ///< May be no client.
     int selectedRow() const; ///< The placeholder's where the selected client is gone.
-    /// The client of a row; null for the placeholder and for what is no row.
+    /// The client of a row; none for the placeholder and for what is no row.
     Q_INVOKABLE QUuid clientAt(int row) const;
 
     /// Borrowed: only the placeholder is left once the store is gone.
@@ -63,7 +64,7 @@ private:
 
     QPointer<Store> m_store;
     QString m_placeholder;
-    QUuid m_selection;
+    QUuid m_selection = NoClient::id();
     QList<ClientChoice> m_choices;
 };
 

@@ -143,7 +143,7 @@ void ClientEditor::startTimer()
 void ClientEditor::follow()
 {
     followTimer();
-    auto client = m_store && !m_clientID.isNull() ? m_store->client(m_clientID) : std::nullopt;
+    auto client = m_store ? m_store->client(clientOrNone(m_clientID)) : std::nullopt;
     if (m_client == client) {
         return;
     }

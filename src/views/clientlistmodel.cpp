@@ -1,5 +1,6 @@
 #include "views/clientlistmodel.h"
 
+#include "views/noclient.h"
 #include "views/storelink.h"
 
 #include <QHash>
@@ -73,7 +74,7 @@ int ClientListModel::rowOf(const QUuid& id) const
 
 QUuid ClientListModel::clientAt(int row) const
 {
-    return m_clients.value(row).id;
+    return row >= 0 && row < count() ? m_clients.at(row).id : NoClient::id();
 }
 
 int ClientListModel::rowBeside(int row, int by) const

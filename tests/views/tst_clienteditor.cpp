@@ -60,7 +60,7 @@ void ClientEditorTest::client_isShown()
 
 void ClientEditorTest::noClient_showsNothing()
 {
-    for (const auto& id : {QUuid(), QUuid::createUuid()}) {
+    for (const auto& id : {quib::NoClient::id(), QUuid(), QUuid::createUuid()}) {
         m_edited->editor->setClientID(id);
 
         QVERIFY(!m_edited->editor->exists());

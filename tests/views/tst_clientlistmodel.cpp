@@ -1,6 +1,7 @@
 #include "views/clientlistmodel.h"
 
 #include "support/workspace.h"
+#include "views/noclient.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -198,8 +199,8 @@ void ClientListModelTest::rows_areFoundByTheirClient()
     QCOMPARE(model.rowOf(bloom), 1);
     QCOMPARE(model.clientAt(1), bloom);
     QCOMPARE(model.rowOf(QUuid()), -1);
-    QCOMPARE(model.clientAt(-1), QUuid());
-    QCOMPARE(model.clientAt(2), QUuid());
+    QCOMPARE(model.clientAt(-1), quib::NoClient::id());
+    QCOMPARE(model.clientAt(2), quib::NoClient::id());
 }
 
 void ClientListModelTest::repeatedIds_areAllShown()

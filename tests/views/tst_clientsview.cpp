@@ -1,5 +1,6 @@
 #include "support/clientbook.h"
 #include "support/plaintexts.h"
+#include "views/noclient.h"
 
 #include <QAccessible>
 #include <QRegularExpression>
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void plus_opensTheNewClientForTyping();
     void plus_bringsTheNewClientIntoSight();
     void click_selects();
+    void clientWithTheNullId_isAClient();
     void arrows_select();
     void arrows_passRepeatedIds();
     void firstDown_selectsTheFirst();
@@ -112,6 +114,22 @@ void ClientsViewTest::click_selects()
     QCOMPARE(m_book->shown(u"nameField"_s), u"Bloom"_s);
     QVERIFY(m_book->row(1)->property("selected").toBool());
     QVERIFY(!m_book->row(0)->property("selected").toBool());
+}
+
+void ClientsViewTest::clientWithTheNullId_isAClient()
+{
+    auto data = m_book->store().data();
+    data.clients.append({.name = u"Nil"_s});
+    m_book->store().setData(data);
+    m_book->settle();
+    QVERIFY(!m_book->row(2)->property("selected").toBool());
+
+    m_book->click(m_book->row(2));
+
+    QVERIFY(m_book->row(2)->property("selected").toBool());
+    QCOMPARE(m_book->shown(u"nameField"_s), u"Nil"_s);
+    m_book->press(Qt::Key_Up);
+    QCOMPARE(m_book->selection(), m_book->bloom);
 }
 
 void ClientsViewTest::arrows_select()
@@ -326,7 +344,7 @@ void ClientsViewTest::secondClick_deletes()
 
     QVERIFY(!m_book->store().client(m_book->cafe));
     QCOMPARE(m_book->store().data().tasks.size(), 1);
-    QCOMPARE(m_book->selection(), QUuid());
+    QCOMPARE(m_book->selection(), quib::NoClient::id());
     QVERIFY(m_book->item(u"noClient"_s)->isVisible());
     QCOMPARE(m_book->row(0)->property("clientID").toUuid(), m_book->bloom);
     QTRY_VERIFY(!m_book->item(u"clientDetail"_s));

@@ -1,6 +1,7 @@
 #include "support/shownpanel.h"
 
 #include "brand/brand.h"
+#include "views/noclient.h"
 
 #include <QFont>
 
@@ -196,7 +197,7 @@ void ClientsViewSizesTest::badge_hasItsSizes()
 
 void ClientsViewSizesTest::noClient_isCentred()
 {
-    item(u"clientsView"_s)->setProperty("selection", QUuid());
+    item(u"clientsView"_s)->setProperty("selection", quib::NoClient::id());
 
     const auto text = rect(u"noClient"_s).center();
     const auto column = rect(u"detailColumn"_s).center();
