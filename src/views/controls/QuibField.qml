@@ -31,10 +31,15 @@ FocusScope {
     implicitHeight: input.implicitHeight / 2 + 2 * root.verticalPadding
 
     onValueChanged: if (!root.settles || !root.isEditing) root.settle()
-    onIsEditingChanged: if (root.settles && !root.isEditing) root.settle()
+    onIsEditingChanged: if (root.settles && root.isLeft()) root.settle()
 
     function selectAll() {
         input.selectAll();
+    }
+
+    // A field that is hidden, or whose window is not the one that has the keys, has not been left.
+    function isLeft() {
+        return !root.isEditing && root.visible && root.Window.active;
     }
 
     // Stands in the text as one step that can be undone: moving the cursor ends a step.
