@@ -27,6 +27,19 @@ QHash<QUuid, int> openTasksPerClient(const QList<TaskItem>& tasks)
     return counts;
 }
 
+/// "Build, timer running, 3 open tasks".
+QString detailsOf(const Client& client, bool isTimed, int openTasks)
+{
+    QStringList details{title(client.status)};
+    if (isTimed) {
+        details << u"timer running"_s;
+    }
+    if (openTasks > 0) {
+        details << (openTasks == 1 ? u"1 open task"_s : u"%1 open tasks"_s.arg(openTasks));
+    }
+    return details.join(u", "_s);
+}
+
 } // namespace
 
 QList<Client> clientsWithTasks(const QList<Client>& clients, const QList<TaskItem>& tasks)
@@ -109,17 +122,15 @@ QVariant ClientListModel::data(const QModelIndex& index, int role) const
     case StatusRole: return client.status;
     case TimedRole: return client.isTimed;
     case OpenTasksRole: return client.openTasks;
+    case DetailsRole: return client.details;
     }
     return {};
 }
 
 QHash<int, QByteArray> ClientListModel::roleNames() const
 {
-    return {{IdRole, "clientID"},
-            {NameRole, "name"},
-            {StatusRole, "status"},
-            {TimedRole, "isTimed"},
-            {OpenTasksRole, "openTasks"}};
+    return {{IdRole, "clientID"},   {NameRole, "name"},           {StatusRole, "status"},
+            {TimedRole, "isTimed"}, {OpenTasksRole, "openTasks"}, {DetailsRole, "details"}};
 }
 
 void ClientListModel::follow()
@@ -139,11 +150,14 @@ QList<ClientRecord> ClientListModel::wanted() const
     const auto running = m_store->runningEntry();
     QList<ClientRecord> records;
     for (const auto& client : clients) {
+        const bool isTimed = running && running->clientID == client.id;
+        const auto tasks = openTasks.value(client.id);
         records.append({.id = client.id,
                         .name = client.name,
                         .status = rawText(client.status),
-                        .isTimed = running && running->clientID == client.id,
-                        .openTasks = openTasks.value(client.id)});
+                        .isTimed = isTimed,
+                        .openTasks = tasks,
+                        .details = detailsOf(client, isTimed, tasks)});
     }
     return records;
 }

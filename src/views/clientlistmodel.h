@@ -17,6 +17,7 @@ struct ClientRecord {
     QString status; ///< Raw text.
     bool isTimed = false; ///< The running timer counts for this client.
     int openTasks = 0;
+    QString details; ///< What colour and marks tell, for those who do not see them.
 
     bool operator==(const ClientRecord&) const = default;
 };
@@ -30,7 +31,14 @@ class ClientListModel : public quib::RecordListModel {
     Q_PROPERTY(QString heading READ heading NOTIFY countChanged)
 
 public:
-    enum Role { IdRole = Qt::UserRole, NameRole, StatusRole, TimedRole, OpenTasksRole };
+    enum Role {
+        IdRole = Qt::UserRole,
+        NameRole,
+        StatusRole,
+        TimedRole,
+        OpenTasksRole,
+        DetailsRole
+    };
 
     /// Which clients of the store are rows.
     enum class Selection { All, WithTasks };

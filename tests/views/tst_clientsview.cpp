@@ -42,6 +42,7 @@ private Q_SLOTS:
     void deletedByKey_leavesTheKeysToTheList();
     void texts_arePlain();
     void names_tellWhatPressingDoes();
+    void rowsDescription_tellsWhatItsMarksDo();
     void longNames_leaveRoomForTheMarks_data();
     void longNames_leaveRoomForTheMarks();
 
@@ -485,6 +486,22 @@ void ClientsViewTest::names_tellWhatPressingDoes()
     const auto* notesInterface = QAccessible::queryAccessibleInterface(m_book->input(u"notes"_s));
     QCOMPARE(notesInterface->role(), QAccessible::EditableText);
     QVERIFY(notesInterface->state().multiLine);
+}
+
+void ClientsViewTest::rowsDescription_tellsWhatItsMarksDo()
+{
+    const auto description = [&] {
+        return QAccessible::queryAccessibleInterface(m_book->row(0))
+            ->text(QAccessible::Description);
+    };
+    QCOMPARE(description(), u"Build"_s);
+
+    m_book->workspace.task(u"x"_s, m_book->cafe);
+    QCOMPARE(description(), u"Build, 1 open task"_s);
+    m_book->workspace.task(u"y"_s, m_book->cafe);
+    m_book->store().startTimer(m_book->cafe, {});
+
+    QCOMPARE(description(), u"Build, timer running, 2 open tasks"_s);
 }
 
 void ClientsViewTest::longNames_leaveRoomForTheMarks_data()
