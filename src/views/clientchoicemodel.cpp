@@ -32,6 +32,16 @@ void ClientChoiceModel::setStore(Store* store)
     }
 }
 
+void ClientChoiceModel::setShown(bool isShown)
+{
+    if (m_isShown == isShown) {
+        return;
+    }
+    m_isShown = isShown;
+    follow();
+    Q_EMIT shownChanged();
+}
+
 void ClientChoiceModel::setPlaceholder(const QString& placeholder)
 {
     if (m_placeholder == placeholder) {
@@ -78,6 +88,9 @@ QHash<int, QByteArray> ClientChoiceModel::roleNames() const
 
 void ClientChoiceModel::follow()
 {
+    if (!m_isShown) {
+        return;
+    }
     show(m_choices, wanted());
     Q_EMIT choicesChanged();
 }

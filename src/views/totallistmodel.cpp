@@ -59,6 +59,16 @@ void TotalListModel::setStore(Store* store)
     }
 }
 
+void TotalListModel::setShown(bool isShown)
+{
+    if (m_isShown == isShown) {
+        return;
+    }
+    m_isShown = isShown;
+    refresh();
+    Q_EMIT shownChanged();
+}
+
 void TotalListModel::setPeriod(Period period)
 {
     if (m_period == period) {
@@ -71,6 +81,9 @@ void TotalListModel::setPeriod(Period period)
 
 void TotalListModel::refresh()
 {
+    if (!m_isShown) {
+        return;
+    }
     show(m_totals, m_store ? totalRecords(m_store->totals(since())) : QList<TotalRecord>());
     addUp();
 }

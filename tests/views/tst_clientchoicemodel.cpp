@@ -38,6 +38,7 @@ private Q_SLOTS:
     void goneClient_leavesThePlaceholderChecked();
     void clientAt_isNullForNoClient();
     void newClient_addsOneRow();
+    void hidden_followsNothingUntilItIsShown();
 };
 
 void ClientChoiceModelTest::entries_areThePlaceholderAndTheClients()
@@ -109,6 +110,22 @@ void ClientChoiceModelTest::newClient_addsOneRow()
 
     QCOMPARE(inserted.count(), 1);
     QCOMPARE(reset.count(), 0);
+}
+
+void ClientChoiceModelTest::hidden_followsNothingUntilItIsShown()
+{
+    Workspace workspace;
+    ClientChoiceModel model;
+    model.setPlaceholder(u"No client"_s);
+    model.setStore(workspace.store.get());
+    model.setShown(false);
+
+    const auto cafe = workspace.client(u"Café"_s);
+    model.setSelection(cafe);
+    QCOMPARE(entries(model), (QStringList{u"*No client"_s, u"-"_s}));
+    model.setShown(true);
+
+    QCOMPARE(entries(model), (QStringList{u"No client"_s, u"-"_s, u"*Café"_s}));
 }
 
 QTEST_GUILESS_MAIN(ClientChoiceModelTest)

@@ -217,6 +217,8 @@ void TimeViewTest::outOfSight_nothingRuns()
 
     QTRY_VERIFY(!m_tab->clockBeat()->isRunning());
     QVERIFY(!m_tab->totalsBeat()->isRunning());
+    m_tab->entry(3600);
+    QCOMPARE(m_tab->text(u"total"_s), u"1m"_s); // No reader, no sum.
 }
 
 void TimeViewTest::shownAnew_theCheckMarkIsAtRestAndTheNoteStays_data()

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void ratesWithoutMeasure_earnWhatCanBeShown();
     void timerOfTheFuture_countsBelowZero();
     void storeChange_isFollowedAtOnce();
+    void hidden_followsNothingUntilItIsShown();
     void storeGone_leavesNoRows();
 };
 
@@ -138,6 +139,22 @@ void TotalListModelTest::storeChange_isFollowedAtOnce()
 
     QCOMPARE(report.rows(), QStringList{u"Corner Café 3600 1 50"_s});
     QCOMPARE(report.model.totalAmount(), 50.0);
+}
+
+void TotalListModelTest::hidden_followsNothingUntilItIsShown()
+{
+    Report report;
+    report.entry(-1, 0, report.client(u"Café"_s));
+    report.model.setShown(false);
+
+    report.entry(-2, 0);
+    report.model.refresh();
+    report.model.setPeriod(TotalListModel::Period::Month);
+    QCOMPARE(report.rows(), QStringList{u"Café 3600 1 35"_s});
+    report.model.setShown(true);
+
+    QCOMPARE(report.rows().size(), 2);
+    QCOMPARE(report.model.totalSeconds(), 3 * 3600.0);
 }
 
 void TotalListModelTest::storeGone_leavesNoRows()

@@ -20,6 +20,7 @@ Item {
         id: totals
 
         store: root.store
+        shown: root.visible
     }
 
     TimesheetExport {
