@@ -36,7 +36,7 @@ private Q_SLOTS:
     void entries_areThePlaceholderAndTheClients();
     void selection_isChecked();
     void goneClient_leavesThePlaceholderChecked();
-    void clientAt_isNullForNoClient();
+    void clientAt_isNobodyForThePlaceholder();
     void newClient_addsOneRow();
     void hidden_followsNothingUntilItIsShown();
 };
@@ -82,7 +82,7 @@ void ClientChoiceModelTest::goneClient_leavesThePlaceholderChecked()
     QCOMPARE(model.selectedRow(), 0);
 }
 
-void ClientChoiceModelTest::clientAt_isNullForNoClient()
+void ClientChoiceModelTest::clientAt_isNobodyForThePlaceholder()
 {
     Workspace workspace;
     const auto cafe = workspace.client(u"Corner Café"_s);
@@ -90,9 +90,9 @@ void ClientChoiceModelTest::clientAt_isNullForNoClient()
 
     model.setStore(workspace.store.get());
 
-    QVERIFY(model.clientAt(0).isNull());
+    QCOMPARE(model.clientAt(0), quib::NoClient::id());
     QCOMPARE(model.clientAt(2), cafe);
-    QVERIFY(model.clientAt(7).isNull());
+    QCOMPARE(model.clientAt(7), quib::NoClient::id());
 }
 
 void ClientChoiceModelTest::newClient_addsOneRow()
