@@ -75,7 +75,7 @@ TestCase {
         const made = createTemporaryObject(field, testCase);
         const placeholder = findChild(made, "placeholder");
         verify(placeholder.visible);
-        compare(placeholder.color, Brand.muted2);
+        compare(placeholder.color, Brand.muted);
         compare(placeholder.x, 9);
         compare(placeholder.y, 6);
         made.text = "x";

@@ -250,6 +250,8 @@ void ClientsViewSizesTest::status_hasItsSizes()
 
     QTEST(textOf(title, "text"), "title");
     QCOMPARE(sizeOf(title), 10.5);
+    QCOMPARE(colorOf(title),
+             status == ClientStatus::Build ? Brand::glow() : Brand::color(rawText(status)));
     QCOMPARE(ShownPanel::inScene(title), frame.adjusted(8, 3, -8, -3));
     QVERIFY(frame.width() - title->implicitWidth() - 16 < 1); // On whole points.
     QVERIFY(frame.height() - title->implicitHeight() - 6 < 1);

@@ -83,7 +83,7 @@ FocusScope {
         visible: input.length === 0 && input.preeditText === ""
         text: root.placeholder
         size: root.size
-        color: Brand.muted2
+        color: Brand.muted
         elide: Text.ElideRight
         Accessible.ignored: true
     }
