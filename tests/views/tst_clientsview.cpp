@@ -38,6 +38,8 @@ private Q_SLOTS:
     void armedButton_restsWhenShownAnew_data();
     void armedButton_restsWhenShownAnew();
     void armedButton_staysWhileTheStoreChanges();
+    void armedButton_staysWhileTimePasses();
+    void longFolderPath_showsItsEnds();
     void tabKey_goesThroughEverything();
     void deletedByKey_leavesTheKeysToTheList();
     void texts_arePlain();
@@ -401,6 +403,35 @@ void ClientsViewTest::armedButton_staysWhileTheStoreChanges()
     QCOMPARE(m_book->item(u"delete"_s)->property("symbol").toString(), u"trash.fill"_s);
 }
 
+void ClientsViewTest::armedButton_staysWhileTimePasses()
+{
+    m_book->select(m_book->cafe);
+    m_book->click(m_book->item(u"delete"_s));
+
+    m_book->hands.advance(std::chrono::hours(24));
+    m_book->settle();
+    QCOMPARE(m_book->item(u"delete"_s)->property("symbol").toString(), u"trash.fill"_s);
+    m_book->click(m_book->item(u"delete"_s));
+
+    QVERIFY(!m_book->store().client(m_book->cafe));
+}
+
+void ClientsViewTest::longFolderPath_showsItsEnds()
+{
+    const auto folder = u"/home/ann/"_s + u"deep/"_s.repeated(200) + u"café"_s;
+    m_book->change(m_book->cafe, [&](quib::Client& edited) { edited.folderPath = folder; });
+
+    m_book->select(m_book->cafe);
+    m_book->settle();
+
+    const auto line = m_book->item(u"folderPath"_s)->property("line").toString();
+    QVERIFY(line.startsWith(u"/home/ann/deep/"_s));
+    QVERIFY(line.endsWith(u"deep/café"_s));
+    const auto* drawn = textItems(*m_book->item(u"folderPath"_s)).front();
+    QVERIFY(drawn->property("truncated").toBool());
+    QCOMPARE(drawn->property("elide").toInt(), int(Qt::ElideMiddle));
+}
+
 void ClientsViewTest::tabKey_goesThroughEverything()
 {
     m_book->change(m_book->cafe, [](quib::Client& edited) {
@@ -530,6 +561,8 @@ void ClientsViewTest::longNames_leaveRoomForTheMarks()
     const auto text = ShownPanel::inScene(ShownPanel::find(m_book->row(0), u"name"_s));
     const auto timed = ShownPanel::inScene(ShownPanel::find(m_book->row(0), u"timed"_s));
     const auto badge = ShownPanel::inScene(ShownPanel::find(m_book->row(0), u"badge"_s));
+    const auto* drawn = textItems(*ShownPanel::find(m_book->row(0), u"name"_s)).front();
+    QVERIFY(drawn->property("truncated").toBool());
     QVERIFY(text.width() > 60);
     QVERIFY(text.right() < timed.left());
     QVERIFY(timed.right() < badge.left());
