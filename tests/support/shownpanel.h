@@ -86,6 +86,17 @@ struct ShownPanel {
     {
         QTest::mouseClick(window.get(), Qt::LeftButton, {}, inScene(on).center().toPoint());
     }
+
+    /// Between the clicks the panel draws itself anew, and something else may come under the
+    /// pointer.
+    void doubleClick(const QQuickItem* on) const
+    {
+        const auto place = inScene(on).center().toPoint();
+        QTest::mouseClick(window.get(), Qt::LeftButton, {}, place);
+        settle();
+        QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval;
+        QTest::mouseClick(window.get(), Qt::LeftButton, {}, place);
+    }
 };
 
 inline QColor colorOf(const QQuickItem* item)
