@@ -29,7 +29,7 @@ AppDelegate::AppDelegate(Platform platform, Clock clock, Scheduler schedule)
                    }})
     , m_media(*m_platform.player, std::move(schedule))
     , m_calendar(m_platform.calendar.get(), std::move(clock))
-    , m_actions(*m_platform.opener, *m_platform.applications)
+    , m_actions(*m_platform.opener)
 {
     connect(&m_menu, &StatusMenu::aboutToOpen, this, [this] { rebuildMenuStates(m_menu); });
     connect(&m_menu, &StatusMenu::chosen, this, &AppDelegate::runCommand);

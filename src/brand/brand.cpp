@@ -53,6 +53,12 @@ QColor Brand::color(const QString& status)
     return colors.value(status, muted2());
 }
 
+QColor Brand::letterColor(const QString& status)
+{
+    const auto usual = color(status);
+    return usual == purple() ? glow() : usual;
+}
+
 QColor Brand::white(double opacity)
 {
     return QColor::fromRgbF(1, 1, 1, static_cast<float>(opacity));

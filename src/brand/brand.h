@@ -49,6 +49,8 @@ public:
     static QColor named(const std::optional<QString>& word);
     /// The colour of a client's status, given its raw text; muted2 for any other text.
     Q_INVOKABLE static QColor color(const QString& status);
+    /// The same for small letters: the lighter one of two where the other is hard to read.
+    Q_INVOKABLE static QColor letterColor(const QString& status);
     /// White at an opacity from 0 to 1: the surfaces that lie on the card.
     Q_INVOKABLE static QColor white(double opacity);
 };

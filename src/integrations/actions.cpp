@@ -1,13 +1,10 @@
 #include "integrations/actions.h"
 
-#include "integrations/appcatalog.h"
 #include "integrations/opener.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QStandardPaths>
-
-#include <array>
+#include <QStringList>
 
 using namespace Qt::StringLiterals;
 
@@ -15,42 +12,31 @@ namespace quib {
 
 namespace {
 
-/// A code editor and the ways in which it may be installed.
-struct Editor {
-    QString bundle;
-    QStringList desktopEntries; ///< Of the packagers that there are, the editor's own first.
-    QString command;
-};
-
-const std::array<Editor, 2>& editors()
+/// Code editors, in order of preference, as their packagers name them, each one's own first.
+/// Commands come last: of them it is least known whose they are.
+const QStringList& editors()
 {
-    static const std::array<Editor, 2> inOrderOfPreference{
-        {{u"/Applications/Visual Studio Code.app"_s,
-          {u"code.desktop"_s, u"code_code.desktop"_s, u"com.visualstudio.code.desktop"_s,
-           u"code-oss.desktop"_s, u"visual-studio-code.desktop"_s, u"codium.desktop"_s,
-           u"codium_codium.desktop"_s, u"com.vscodium.codium.desktop"_s},
-          u"code"_s},
-         {u"/Applications/Cursor.app"_s,
-          {u"cursor.desktop"_s, u"co.anysphere.cursor.desktop"_s},
-          u"cursor"_s}}};
+    static const QStringList inOrderOfPreference{u"/Applications/Visual Studio Code.app"_s,
+                                                 u"code.desktop"_s,
+                                                 u"code_code.desktop"_s,
+                                                 u"com.visualstudio.code.desktop"_s,
+                                                 u"code-oss.desktop"_s,
+                                                 u"visual-studio-code.desktop"_s,
+                                                 u"codium.desktop"_s,
+                                                 u"codium_codium.desktop"_s,
+                                                 u"com.vscodium.codium.desktop"_s,
+                                                 u"/Applications/Cursor.app"_s,
+                                                 u"cursor.desktop"_s,
+                                                 u"co.anysphere.cursor.desktop"_s,
+                                                 u"code"_s,
+                                                 u"cursor"_s};
     return inOrderOfPreference;
 }
 
-std::optional<QString> installedEditor(const AppCatalog& catalog)
+/// Systems end a path at a NUL, and would open what stands before it.
+bool isPath(const QString& path)
 {
-    for (const auto& editor : editors()) {
-        if (const auto found
-            = catalog.firstInstalled(QStringList(editor.bundle) + editor.desktopEntries)) {
-            return found;
-        }
-    }
-    for (const auto& editor : editors()) {
-        const auto command = QStandardPaths::findExecutable(editor.command);
-        if (!command.isEmpty()) {
-            return command;
-        }
-    }
-    return std::nullopt;
+    return !path.isEmpty() && !path.contains(QChar::Null);
 }
 
 /// "~" and "~/..." only: whose home "~name" is, only the system of accounts knows.
@@ -68,7 +54,7 @@ bool leadsSomewhere(const QUrl& url)
         return false;
     }
     if (url.isLocalFile()) {
-        return url.host().isEmpty() && !url.path().isEmpty();
+        return url.host().isEmpty() && isPath(url.toLocalFile());
     }
     const bool isWeb = url.scheme() == u"http"_s || url.scheme() == u"https"_s;
     return !isWeb || !url.host().isEmpty();
@@ -88,6 +74,9 @@ QUrl withoutOwnHost(QUrl url)
 std::optional<QUrl> locationOf(const QString& target, const QString& home)
 {
     const auto text = withTildeExpanded(target, home);
+    if (!isPath(text)) {
+        return std::nullopt;
+    }
     if (text.startsWith(u'/')) {
         return QUrl::fromLocalFile(text);
     }
@@ -96,9 +85,8 @@ std::optional<QUrl> locationOf(const QString& target, const QString& home)
     return leadsSomewhere(url) ? std::optional(url) : std::nullopt;
 }
 
-Actions::Actions(Opener& opener, const AppCatalog& catalog)
+Actions::Actions(Opener& opener)
     : m_opener(opener)
-    , m_catalog(catalog)
 {
 }
 
@@ -117,20 +105,14 @@ void Actions::open(const QString& target)
 
 void Actions::openInEditor(const QString& path)
 {
-    if (path.isEmpty()) {
-        return;
-    }
-    const auto folder = QFileInfo(path).absoluteFilePath();
-    if (const auto editor = installedEditor(m_catalog)) {
-        m_opener.openWith(folder, *editor);
-    } else {
-        m_opener.openPath(folder);
+    if (isPath(path)) {
+        m_opener.openWithFirst(QFileInfo(path).absoluteFilePath(), editors());
     }
 }
 
 void Actions::reveal(const QString& path)
 {
-    if (!path.isEmpty()) {
+    if (isPath(path)) {
         m_opener.reveal(QFileInfo(path).absoluteFilePath());
     }
 }

@@ -7,7 +7,6 @@
 
 namespace quib {
 
-class AppCatalog;
 class Opener;
 
 /// The only way to open web addresses, files, folders and applications. On the main thread; nothing
@@ -16,8 +15,8 @@ class Actions : public QObject {
     Q_OBJECT
 
 public:
-    /// Both are borrowed and outlive this.
-    Actions(Opener& opener, const AppCatalog& catalog);
+    /// The opener is borrowed and outlives this.
+    explicit Actions(Opener& opener);
 
     /// A path, with "~" for the home folder, or a web address, with or without its scheme.
     Q_INVOKABLE void open(const QString& target);
@@ -28,7 +27,6 @@ public:
 
 private:
     Opener& m_opener;
-    const AppCatalog& m_catalog;
 };
 
 /// What a target means: the location of a file, or a web address. Absent when it can be neither.

@@ -2,7 +2,6 @@
 
 #include <QList>
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 
@@ -26,9 +25,6 @@ public:
     /// Full path of the visible application of exactly that unlocalised name; absent when there is
     /// none.
     virtual std::optional<QString> applicationNamed(const QString& name) const = 0;
-    /// Full path of the first of these ids whose application is installed; absent when none is. An
-    /// id is a bundle's path or a desktop entry's file name. Read anew each time.
-    virtual std::optional<QString> firstInstalled(const QStringList& ids) const = 0;
     /// What the application at a full path is called, in the user's language; its file's name where
     /// the file does not tell.
     virtual QString nameOf(const QString& path) const = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 
 namespace quib {
@@ -20,8 +21,9 @@ public:
     virtual void openPath(const QString& path) = 0;
     /// In the default application of its scheme.
     virtual void openAddress(const QUrl& address) = 0;
-    /// With an application as the catalog names it, or with a program file.
-    virtual void openWith(const QString& path, const QString& application) = 0;
+    /// With the first candidate that is installed; as openPath() where none is. A candidate is a
+    /// desktop entry's file name, the full path of a bundle or of a program, or a command.
+    virtual void openWithFirst(const QString& path, const QStringList& candidates) = 0;
     /// In the editor for plain text, whatever the file's own type is.
     virtual void openInTextEditor(const QString& path) = 0;
     /// Shows the thing itself, selected in the folder that holds it.

@@ -27,6 +27,7 @@ icu::number::LocalizedNumberFormatter formatterFor(const icu::Locale& locale)
     return icu::number::NumberFormatter::withLocale(locale)
         .unit(icu::CurrencyUnit(currencyOf(locale).data(), error))
         .precision(icu::number::Precision::integer())
+        .sign(UNUM_SIGN_NEGATIVE) // None before a zero.
         .roundingMode(UNUM_ROUND_HALFEVEN);
 }
 

@@ -13,7 +13,8 @@ namespace quib {
 QString rateText(double rate, const UserLocale& locale);
 
 /// The number that somebody typed, with the marks of their country or as programs write it: "35,5",
-/// "35.5", "1 234". Absent for any other text, and for what is too large to be a number.
+/// "35.5", "1 234", with their currency beside it or without. Absent for any other text, and for
+/// what is too large to be a number.
 std::optional<double> rateOf(const QString& text, const UserLocale& locale);
 
 } // namespace quib

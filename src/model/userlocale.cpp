@@ -32,6 +32,7 @@ QByteArray localeName(const QByteArray& value)
 UserLocale UserLocale::fromEnvironment()
 {
     return {.money = localeName(firstSet({"LC_ALL", "LC_MONETARY", "LANG"})),
+            .numbers = localeName(firstSet({"LC_ALL", "LC_NUMERIC", "LANG"})),
             .dates = localeName(firstSet({"LC_ALL", "LC_TIME", "LANG"})),
             .timeZone = QTimeZone::systemTimeZone()};
 }

@@ -1,6 +1,10 @@
 #include "picker/applicationlist.h"
 
+#include "brand/brand.h"
+
 #include <QIcon>
+#include <QPainter>
+#include <QPixmap>
 
 using namespace Qt::StringLiterals;
 
@@ -10,14 +14,34 @@ namespace {
 
 constexpr qsizetype LongestName = 200;
 
+/// A quiet square, for where even the theme has nothing.
+QIcon blank()
+{
+    constexpr int Side = 64;
+    constexpr double Margin = 6;
+    QPixmap square(Side, Side);
+    square.fill(Qt::transparent);
+    QPainter painter(&square);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Brand::muted2());
+    painter.drawRoundedRect(QRectF(square.rect()).marginsRemoved({Margin, Margin, Margin, Margin}),
+                            2 * Margin, 2 * Margin);
+    return {square};
+}
+
+QIcon usual()
+{
+    return QIcon::fromTheme(u"application-x-executable"_s, blank());
+}
+
 QIcon iconNamed(const QString& name)
 {
-    const auto usual = QIcon::fromTheme(u"application-x-executable"_s);
     if (!name.startsWith(u'/')) {
-        return QIcon::fromTheme(name, usual);
+        return QIcon::fromTheme(name, usual());
     }
     const QIcon picture(name);
-    return picture.availableSizes().isEmpty() && !name.endsWith(u".svg"_s) ? usual : picture;
+    return picture.availableSizes().isEmpty() && !name.endsWith(u".svg"_s) ? usual() : picture;
 }
 
 } // namespace

@@ -14,7 +14,8 @@ namespace quib {
 
 namespace {
 
-constexpr qint64 LargestFile = 16 * 1024 * 1024; // No hand writes as much; more may be endless.
+constexpr auto LargestFile
+    = qint64(16) * 1024 * 1024; // No hand writes as much; more may be endless.
 
 const auto Problem = u"shortcuts.json has a typo, so these are the last working buttons. Check for "
                      "a missing comma or quote."_s;

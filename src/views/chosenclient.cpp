@@ -1,6 +1,5 @@
 #include "views/chosenclient.h"
 
-#include "views/noclient.h"
 #include "views/storelink.h"
 
 namespace quib {

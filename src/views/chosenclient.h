@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/store.h"
+#include "views/noclient.h"
 
 #include <QPointer>
 
@@ -22,7 +23,7 @@ public:
     using QObject::QObject;
 
     Store* store() const { return m_store; }
-    QUuid clientID() const { return m_clientID; } ///< Null where none is chosen.
+    QUuid clientID() const { return m_clientID; } ///< No client where none is chosen.
     bool exists() const { return m_client.has_value(); }
     QString name() const; ///< Empty without a client, or where the client is gone.
     QString status() const; ///< Raw text; empty like the name.
@@ -40,7 +41,7 @@ private:
     void follow();
 
     QPointer<Store> m_store;
-    QUuid m_clientID;
+    QUuid m_clientID = NoClient::id();
     std::optional<Client> m_client;
 };
 

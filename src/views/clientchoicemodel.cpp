@@ -1,6 +1,5 @@
 #include "views/clientchoicemodel.h"
 
-#include "views/noclient.h"
 #include "views/storelink.h"
 
 #include <algorithm>
@@ -31,6 +30,16 @@ void ClientChoiceModel::setStore(Store* store)
     if (followStore(m_store, store, this, &ClientChoiceModel::follow, &Store::clientsChanged)) {
         Q_EMIT storeChanged();
     }
+}
+
+void ClientChoiceModel::setShown(bool isShown)
+{
+    if (m_isShown == isShown) {
+        return;
+    }
+    m_isShown = isShown;
+    follow();
+    Q_EMIT shownChanged();
 }
 
 void ClientChoiceModel::setPlaceholder(const QString& placeholder)
@@ -79,6 +88,9 @@ QHash<int, QByteArray> ClientChoiceModel::roleNames() const
 
 void ClientChoiceModel::follow()
 {
+    if (!m_isShown) {
+        return;
+    }
     show(m_choices, wanted());
     Q_EMIT choicesChanged();
 }

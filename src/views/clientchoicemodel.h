@@ -2,6 +2,7 @@
 
 #include "model/recordlistmodel.h"
 #include "model/store.h"
+#include "views/noclient.h"
 
 #include <QPointer>
 
@@ -12,7 +13,7 @@ namespace quib {
 /// One entry of a menu of clients.
 struct ClientChoice {
     QUuid id; ///< Of the entry.
-    QUuid clientID; ///< Null where it stands for no client.
+    QUuid clientID = NoClient::id();
     QString title;
     bool isChecked = false;
     bool isSeparator = false;
@@ -26,6 +27,7 @@ class ClientChoiceModel : public quib::RecordListModel {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(quib::Store* store READ store WRITE setStore NOTIFY storeChanged REQUIRED)
+    Q_PROPERTY(bool shown READ isShown WRITE setShown NOTIFY shownChanged)
     Q_PROPERTY(QString placeholder READ placeholder WRITE setPlaceholder NOTIFY placeholderChanged)
     Q_PROPERTY(QUuid selection READ selection WRITE setSelection NOTIFY selectionChanged)
     Q_PROPERTY(int selectedRow READ selectedRow NOTIFY choicesChanged)
@@ -36,14 +38,17 @@ public:
     using RecordListModel::RecordListModel;
 
     Store* store() const { return m_store; }
+    bool isShown() const { return m_isShown; }
     QString placeholder() const { return m_placeholder; }
-    QUuid selection() const { return m_selection; } ///< Null for no client.
+    QUuid selection() const { return m_selection; } ///< May be no client.
     int selectedRow() const; ///< The placeholder's where the selected client is gone.
-    /// The client of a row; null for the placeholder and for what is no row.
+    /// The client of a row; none for the placeholder and for what is no row.
     Q_INVOKABLE QUuid clientAt(int row) const;
 
     /// Borrowed: only the placeholder is left once the store is gone.
     void setStore(Store* store);
+    /// While nobody sees it, it follows nothing; shown again it catches up.
+    void setShown(bool isShown);
     void setPlaceholder(const QString& placeholder);
     void setSelection(const QUuid& selection);
 
@@ -53,6 +58,7 @@ public:
 
 Q_SIGNALS:
     void storeChanged();
+    void shownChanged();
     void placeholderChanged();
     void selectionChanged();
     void choicesChanged();
@@ -62,8 +68,9 @@ private:
     QList<ClientChoice> wanted() const;
 
     QPointer<Store> m_store;
+    bool m_isShown = true;
     QString m_placeholder;
-    QUuid m_selection;
+    QUuid m_selection = NoClient::id();
     QList<ClientChoice> m_choices;
 };
 

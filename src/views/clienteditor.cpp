@@ -67,7 +67,8 @@ int ClientEditor::statusRow() const
 
 QString ClientEditor::rateText() const
 {
-    return m_client ? quib::rateText(m_client->hourlyRate, m_locale) : QString();
+    return m_store && m_client ? quib::rateText(m_client->hourlyRate, m_store->locale())
+                               : QString();
 }
 
 void ClientEditor::setStore(Store* store)
@@ -108,7 +109,8 @@ void ClientEditor::setSiteURL(const QString& address)
 
 void ClientEditor::setRateText(const QString& text)
 {
-    if (const auto rate = rateOf(text, m_locale)) {
+    const auto rate = m_store ? rateOf(text, m_store->locale()) : std::nullopt;
+    if (rate) {
         write(&Client::hourlyRate, *rate);
     }
 }
@@ -141,7 +143,7 @@ void ClientEditor::startTimer()
 void ClientEditor::follow()
 {
     followTimer();
-    auto client = m_store && !m_clientID.isNull() ? m_store->client(m_clientID) : std::nullopt;
+    auto client = m_store ? m_store->client(clientOrNone(m_clientID)) : std::nullopt;
     if (m_client == client) {
         return;
     }

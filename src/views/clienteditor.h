@@ -2,6 +2,7 @@
 
 #include "app/notch/commands.h"
 #include "model/store.h"
+#include "views/noclient.h"
 
 #include <QPointer>
 #include <QVariantList>
@@ -33,7 +34,7 @@ public:
     explicit ClientEditor(QObject* parent = nullptr);
 
     Store* store() const { return m_store; }
-    QUuid clientID() const { return m_clientID; } ///< Null where none is chosen.
+    QUuid clientID() const { return m_clientID; } ///< No client where none is chosen.
     bool exists() const { return m_client.has_value(); }
     QString name() const { return shown().name; } ///< Empty without a client, as all texts are.
     QString status() const; ///< Raw text.
@@ -74,9 +75,8 @@ private:
     template <typename Value>
     void write(Value Client::*field, const Value& value);
 
-    UserLocale m_locale = UserLocale::fromEnvironment();
     QPointer<Store> m_store;
-    QUuid m_clientID;
+    QUuid m_clientID = NoClient::id();
     std::optional<Client> m_client;
     bool m_isTimed = false;
 };

@@ -1,11 +1,13 @@
 #include "views/clientlistmodel.h"
 
+#include "views/noclient.h"
 #include "views/storelink.h"
 
 #include <QHash>
 #include <QSet>
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
 
 using namespace Qt::StringLiterals;
@@ -23,6 +25,19 @@ QHash<QUuid, int> openTasksPerClient(const QList<TaskItem>& tasks)
         }
     }
     return counts;
+}
+
+/// "Build, timer running, 3 open tasks".
+QString detailsOf(const Client& client, bool isTimed, int openTasks)
+{
+    QStringList details{title(client.status)};
+    if (isTimed) {
+        details << u"timer running"_s;
+    }
+    if (openTasks > 0) {
+        details << (openTasks == 1 ? u"1 open task"_s : u"%1 open tasks"_s.arg(openTasks));
+    }
+    return details.join(u", "_s);
 }
 
 } // namespace
@@ -72,7 +87,22 @@ int ClientListModel::rowOf(const QUuid& id) const
 
 QUuid ClientListModel::clientAt(int row) const
 {
-    return m_clients.value(row).id;
+    return row >= 0 && row < count() ? m_clients.at(row).id : NoClient::id();
+}
+
+int ClientListModel::rowBeside(int row, int by) const
+{
+    const int left = row < 0 ? std::max(by, 1) : by;
+    const int direction = left < 0 ? -1 : 1;
+    int found = row;
+    int steps = std::abs(left);
+    for (int next = row + direction; steps > 0 && next >= 0 && next < count(); next += direction) {
+        if (rowOf(m_clients.at(next).id) == next) {
+            found = next;
+            --steps;
+        }
+    }
+    return found;
 }
 
 int ClientListModel::rowCount(const QModelIndex& parent) const
@@ -92,17 +122,15 @@ QVariant ClientListModel::data(const QModelIndex& index, int role) const
     case StatusRole: return client.status;
     case TimedRole: return client.isTimed;
     case OpenTasksRole: return client.openTasks;
+    case DetailsRole: return client.details;
     }
     return {};
 }
 
 QHash<int, QByteArray> ClientListModel::roleNames() const
 {
-    return {{IdRole, "clientID"},
-            {NameRole, "name"},
-            {StatusRole, "status"},
-            {TimedRole, "isTimed"},
-            {OpenTasksRole, "openTasks"}};
+    return {{IdRole, "clientID"},   {NameRole, "name"},           {StatusRole, "status"},
+            {TimedRole, "isTimed"}, {OpenTasksRole, "openTasks"}, {DetailsRole, "details"}};
 }
 
 void ClientListModel::follow()
@@ -122,11 +150,14 @@ QList<ClientRecord> ClientListModel::wanted() const
     const auto running = m_store->runningEntry();
     QList<ClientRecord> records;
     for (const auto& client : clients) {
+        const bool isTimed = running && running->clientID == client.id;
+        const auto tasks = openTasks.value(client.id);
         records.append({.id = client.id,
                         .name = client.name,
                         .status = rawText(client.status),
-                        .isTimed = running && running->clientID == client.id,
-                        .openTasks = openTasks.value(client.id)});
+                        .isTimed = isTimed,
+                        .openTasks = tasks,
+                        .details = detailsOf(client, isTimed, tasks)});
     }
     return records;
 }

@@ -17,6 +17,7 @@ struct ClientRecord {
     QString status; ///< Raw text.
     bool isTimed = false; ///< The running timer counts for this client.
     int openTasks = 0;
+    QString details; ///< What colour and marks tell, for those who do not see them.
 
     bool operator==(const ClientRecord&) const = default;
 };
@@ -30,7 +31,14 @@ class ClientListModel : public quib::RecordListModel {
     Q_PROPERTY(QString heading READ heading NOTIFY countChanged)
 
 public:
-    enum Role { IdRole = Qt::UserRole, NameRole, StatusRole, TimedRole, OpenTasksRole };
+    enum Role {
+        IdRole = Qt::UserRole,
+        NameRole,
+        StatusRole,
+        TimedRole,
+        OpenTasksRole,
+        DetailsRole
+    };
 
     /// Which clients of the store are rows.
     enum class Selection { All, WithTasks };
@@ -43,7 +51,10 @@ public:
     QString heading() const; ///< "3 clients", and so with every number.
     /// Of the first client of that id; -1 without one.
     Q_INVOKABLE int rowOf(const QUuid& id) const;
-    Q_INVOKABLE QUuid clientAt(int row) const; ///< Null where there is no such row.
+    Q_INVOKABLE QUuid clientAt(int row) const; ///< No client where there is no such row.
+    /// The row that many clients below or, with a number below zero, above, or the last on the way
+    /// there. Of clients of one id only the first counts. Without a row it begins with the first.
+    Q_INVOKABLE int rowBeside(int row, int by) const;
 
     /// Borrowed: the rows are empty once the store is gone.
     void setStore(Store* store);

@@ -9,7 +9,8 @@
 
 namespace quib {
 
-/// The id that stands for no client, where QML knows no absent values.
+/// The id that stands for no client, where QML knows no absent values. No client of a workspace
+/// bears it; one that a hand edited may bear the null id.
 class NoClient : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -19,7 +20,7 @@ class NoClient : public QObject {
 public:
     using QObject::QObject;
 
-    static QUuid id() { return {}; }
+    static constexpr QUuid id() { return {0x5e1ec7ed, 0, 0, 0, 0, 0, 0, 0, 0, 0, 3}; }
 };
 
 /// What the id of a client in QML means to the core.

@@ -46,8 +46,7 @@ struct CalendarControllerType {
     QML_UNCREATABLE("Created by the application delegate")
 };
 
-/// `property uuid id`: compares by value and is passed to C++ as it is. The null id stands for
-/// none.
+/// `property uuid id`: compares by value and is passed to C++ as it is.
 struct UuidType {
     Q_GADGET
     QML_FOREIGN(QUuid)

@@ -26,7 +26,8 @@ void RunningTimer::setPlaceholder(const QString& placeholder)
 void RunningTimer::start(const QUuid& client, const QString& note)
 {
     if (m_store) {
-        m_store->startTimer(clientOrNone(client), note);
+        const auto chosen = clientOrNone(client);
+        m_store->startTimer(m_store->client(chosen) ? chosen : std::nullopt, note);
     }
 }
 

@@ -1,6 +1,5 @@
 #include "views/tasklistmodel.h"
 
-#include "views/noclient.h"
 #include "views/storelink.h"
 
 #include <QHash>

@@ -2,6 +2,7 @@
 
 #include "model/recordlistmodel.h"
 #include "model/store.h"
+#include "views/noclient.h"
 
 #include <QPointer>
 
@@ -38,14 +39,14 @@ public:
     using RecordListModel::RecordListModel;
 
     Store* store() const { return m_store; }
-    QUuid filter() const { return m_filter; } ///< Null for the tasks of all clients and of none.
+    QUuid filter() const { return m_filter; } ///< No client for the tasks of all and of none.
     /// "Clear 3 done", counting the whole store; empty while no task is done.
     QString clearDoneTitle() const { return m_clearDoneTitle; }
 
     /// Borrowed: the rows are empty once the store is gone.
     void setStore(Store* store);
     void setFilter(const QUuid& filter);
-    /// A new task in the store. The null id stands for no client.
+    /// A new task in the store, of a client or of none.
     Q_INVOKABLE void addTask(const QString& title, const QUuid& client);
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -63,7 +64,7 @@ private:
     QList<TaskRecord> wanted() const;
 
     QPointer<Store> m_store;
-    QUuid m_filter;
+    QUuid m_filter = NoClient::id();
     QString m_clearDoneTitle;
     QList<TaskRecord> m_tasks;
 };

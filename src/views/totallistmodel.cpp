@@ -4,6 +4,7 @@
 #include "views/storelink.h"
 
 #include <algorithm>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -13,12 +14,19 @@ namespace {
 
 constexpr double SecondsPerHour = 3600;
 
+/// A rate may be as large as a number can be: what it earns is no infinity.
+double finite(double figure)
+{
+    constexpr auto Most = std::numeric_limits<double>::max();
+    return std::clamp(figure, -Most, Most);
+}
+
 template <typename Record>
 double sumOf(const QList<Record>& records, double Record::*figure)
 {
     double sum = 0;
     for (const auto& record : records) {
-        sum += record.*figure;
+        sum = finite(sum + record.*figure);
     }
     return sum;
 }
@@ -32,12 +40,13 @@ QList<TotalRecord> totalRecords(const QList<ClientTotal>& totals)
     records.reserve(totals.size());
     for (const auto& [client, seconds] : totals) {
         const auto fraction = all > 0 ? std::clamp(seconds / all, 0.0, 1.0) : 0;
+        const auto amount = client ? finite(seconds / SecondsPerHour * client->hourlyRate) : 0;
         records.append({.id = client ? client->id : QUuid(),
                         .name = client ? client->name : u"No client"_s,
                         .status = client ? rawText(client->status) : QString(),
                         .seconds = seconds,
                         .fraction = fraction,
-                        .amount = client ? seconds / SecondsPerHour * client->hourlyRate : 0});
+                        .amount = amount});
     }
     return records;
 }
@@ -48,6 +57,16 @@ void TotalListModel::setStore(Store* store)
                     &Store::clientsChanged)) {
         Q_EMIT storeChanged();
     }
+}
+
+void TotalListModel::setShown(bool isShown)
+{
+    if (m_isShown == isShown) {
+        return;
+    }
+    m_isShown = isShown;
+    refresh();
+    Q_EMIT shownChanged();
 }
 
 void TotalListModel::setPeriod(Period period)
@@ -62,6 +81,9 @@ void TotalListModel::setPeriod(Period period)
 
 void TotalListModel::refresh()
 {
+    if (!m_isShown) {
+        return;
+    }
     show(m_totals, m_store ? totalRecords(m_store->totals(since())) : QList<TotalRecord>());
     addUp();
 }

@@ -31,6 +31,7 @@ class TotalListModel : public quib::RecordListModel {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(quib::Store* store READ store WRITE setStore NOTIFY storeChanged REQUIRED)
+    Q_PROPERTY(bool shown READ isShown WRITE setShown NOTIFY shownChanged)
     Q_PROPERTY(Period period READ period WRITE setPeriod NOTIFY periodChanged)
     Q_PROPERTY(double totalSeconds READ totalSeconds NOTIFY totalsChanged)
     Q_PROPERTY(double totalAmount READ totalAmount NOTIFY totalsChanged)
@@ -44,12 +45,15 @@ public:
     using RecordListModel::RecordListModel;
 
     Store* store() const { return m_store; }
+    bool isShown() const { return m_isShown; }
     Period period() const { return m_period; }
     double totalSeconds() const { return m_totalSeconds; }
     double totalAmount() const { return m_totalAmount; } ///< In the user's currency.
 
     /// Borrowed: the rows are empty once the store is gone.
     void setStore(Store* store);
+    /// While nobody sees it, it follows nothing; shown again it catches up.
+    void setShown(bool isShown);
     void setPeriod(Period period);
     /// Looks at the clock anew.
     Q_INVOKABLE void refresh();
@@ -60,6 +64,7 @@ public:
 
 Q_SIGNALS:
     void storeChanged();
+    void shownChanged();
     void periodChanged();
     void totalsChanged();
 
@@ -68,6 +73,7 @@ private:
     void addUp();
 
     QPointer<Store> m_store;
+    bool m_isShown = true;
     Period m_period = Period::Week;
     QList<TotalRecord> m_totals;
     double m_totalSeconds = 0;

@@ -97,6 +97,8 @@ void MoneyTest::halves_areRoundedToEven_data()
     QTest::addRow("2.5") << 2.5 << u"£2"_s;
     QTest::addRow("more than a half") << 2.500001 << u"£3"_s;
     QTest::addRow("-2.5") << -2.5 << u"-£2"_s;
+    QTest::addRow("-0.5") << -0.5 << u"£0"_s;
+    QTest::addRow("-0.0") << -0.0 << u"£0"_s;
 }
 
 void MoneyTest::halves_areRoundedToEven()

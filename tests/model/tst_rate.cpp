@@ -16,6 +16,7 @@ class RateTest : public QObject {
 private Q_SLOTS:
     void typed_isUnderstood_data();
     void typed_isUnderstood();
+    void numbersOfAnotherCountry_areReadAndShown();
     void otherText_isNoNumber_data();
     void otherText_isNoNumber();
     void shown_isShort_data();
@@ -29,7 +30,7 @@ namespace {
 
 UserLocale in(const QByteArray& country)
 {
-    return {.money = country};
+    return {.money = country, .numbers = country};
 }
 
 } // namespace
@@ -60,6 +61,14 @@ void RateTest::typed_isUnderstood_data()
     QTest::addRow("Indian") << "hi_IN"_ba << u"1,23,456"_s << 123456.0;
     QTest::addRow("Arabic digits") << "ar_EG"_ba << u"٣٥٫٥"_s << 35.5;
     QTest::addRow("Arabic, Western digits") << "ar_EG"_ba << u"35.5"_s << 35.5;
+    QTest::addRow("spaces that group") << "en_GB"_ba << u"1 234 567.5"_s << 1234567.5;
+    QTest::addRow("a sign and a space") << "en_GB"_ba << u"- 5"_s << -5.0;
+    QTest::addRow("pounds") << "en_GB"_ba << u"£35"_s << 35.0;
+    QTest::addRow("pounds of no country") << "en"_ba << u" £ 35 "_s << 35.0;
+    QTest::addRow("pounds by their code") << "en_GB"_ba << u"35 gbp"_s << 35.0;
+    QTest::addRow("euros") << "de_DE"_ba << u"35,5 €"_s << 35.5;
+    QTest::addRow("francs") << "de_CH"_ba << u"CHF 35.5"_s << 35.5;
+    QTest::addRow("Egyptian pounds") << "ar_EG"_ba << u"٣٥ ج.م."_s << 35.0;
     QTest::addRow("Swedish, below zero") << "sv_SE"_ba << u"-5,5"_s << -5.5;
 }
 
@@ -74,6 +83,16 @@ void RateTest::typed_isUnderstood()
     QTEST(*rate, "rate");
 }
 
+void RateTest::numbersOfAnotherCountry_areReadAndShown()
+{
+    const UserLocale locale{.money = "en_GB", .numbers = "de_DE"};
+
+    QCOMPARE(rateOf(u"35,5"_s, locale), 35.5);
+    QCOMPARE(rateOf(u"£35,5"_s, locale), 35.5);
+    QCOMPARE(rateOf(u"1,234.5"_s, locale), 1234.5); // As in the country of the money.
+    QCOMPARE(rateText(35.5, locale), u"35,5"_s);
+}
+
 void RateTest::otherText_isNoNumber_data()
 {
     QTest::addColumn<QByteArray>("country");
@@ -85,6 +104,11 @@ void RateTest::otherText_isNoNumber_data()
     QTest::addRow("words") << "en_GB"_ba << u"thirty"_s;
     QTest::addRow("a number and words") << "en_GB"_ba << u"35 an hour"_s;
     QTest::addRow("a comma that groups nothing") << "en_GB"_ba << u"35,5"_s;
+    QTest::addRow("two numbers") << "en_GB"_ba << u"35 40"_s;
+    QTest::addRow("two numbers in a country that groups by spaces") << "fr_FR"_ba << u"35 40"_s;
+    QTest::addRow("a group of four") << "en_GB"_ba << u"1 2345"_s;
+    QTest::addRow("another currency") << "en_GB"_ba << u"€35"_s;
+    QTest::addRow("a currency alone") << "en_GB"_ba << u"£"_s;
     QTest::addRow("two points") << "en_GB"_ba << u"1.2.3"_s;
     QTest::addRow("not a number") << "en_GB"_ba << u"nan"_s;
     QTest::addRow("infinity") << "en_GB"_ba << u"inf"_s;

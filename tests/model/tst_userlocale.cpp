@@ -9,7 +9,8 @@ using quib::UserLocale;
 
 namespace {
 
-constexpr std::array Variables{"LC_ALL", "LC_MONETARY", "LC_TIME", "LANG", "LANGUAGE"};
+constexpr std::array Variables{"LC_ALL",  "LC_MONETARY", "LC_NUMERIC",
+                               "LC_TIME", "LANG",        "LANGUAGE"};
 
 /// "LANG=en_GB LC_TIME=de_DE" as the only such variables, put back when this ends.
 class Environment {
@@ -46,6 +47,7 @@ class UserLocaleTest : public QObject {
 private Q_SLOTS:
     void fromEnvironment_data();
     void fromEnvironment();
+    void fromEnvironment_numbersMayBeOfAnotherCountry();
     void timeZone_isTheSystems();
 };
 
@@ -98,6 +100,16 @@ void UserLocaleTest::fromEnvironment()
 
     QCOMPARE(locale.money, money);
     QCOMPARE(locale.dates, dates);
+}
+
+void UserLocaleTest::fromEnvironment_numbersMayBeOfAnotherCountry()
+{
+    const Environment environment("LANG=en_GB LC_NUMERIC=de_DE.UTF-8"_ba);
+
+    const auto locale = UserLocale::fromEnvironment();
+
+    QCOMPARE(locale.numbers, "de_DE"_ba);
+    QCOMPARE(locale.money, "en_GB"_ba);
 }
 
 void UserLocaleTest::timeZone_isTheSystems()

@@ -1,15 +1,22 @@
 #pragma once
 
+#include "support/handclock.h"
 #include "support/shownpanel.h"
 
 #include <functional>
 
-/// The clients tab of a panel that has the keyboard, with two clients in it.
-struct ClientBook : ShownPanel {
+struct ClientBookTime {
+    HandClock hands;
+};
+
+/// The clients tab of a panel that has the keyboard, with two clients in it; the store's time is
+/// the test's to turn.
+struct ClientBook : ClientBookTime, ShownPanel {
     QUuid cafe = workspace.client(QStringLiteral("Café"), quib::ClientStatus::Build);
     QUuid bloom = workspace.client(QStringLiteral("Bloom"), quib::ClientStatus::Live);
 
     ClientBook()
+        : ShownPanel({}, {.clock = hands.clock(), .schedule = hands.scheduler()})
     {
         open(quib::Tab::Clients);
         window->requestActivate();

@@ -72,22 +72,14 @@ public:
 /// Nothing is installed, unless a test says otherwise.
 class FakeAppCatalog final : public quib::AppCatalog {
 public:
-    QHash<QString, QString> paths; ///< Of names, and of ids.
+    QHash<QString, QString> paths; ///< Of names.
     QList<quib::Application> list;
 
     std::optional<QString> applicationNamed(const QString& name) const override
     {
         return paths.contains(name) ? std::optional(paths.value(name)) : std::nullopt;
     }
-    std::optional<QString> firstInstalled(const QStringList& ids) const override
-    {
-        for (const auto& id : ids) {
-            if (paths.contains(id)) {
-                return paths.value(id);
-            }
-        }
-        return std::nullopt;
-    }
+    QString nameOf(const QString& path) const override { return path; }
     QList<quib::Application> applications() const override { return list; }
 };
 
@@ -101,9 +93,10 @@ public:
     {
         asked << QStringLiteral("browse ") + QString::fromLatin1(address.toEncoded());
     }
-    void openWith(const QString& path, const QString& application) override
+    void openWithFirst(const QString& path, const QStringList& candidates) override
     {
-        asked << QStringLiteral("open %1 with %2").arg(path, application);
+        asked << QStringLiteral("open %1 with first of %2")
+                     .arg(path, candidates.join(QLatin1Char('|')));
     }
     void openInTextEditor(const QString& path) override { asked << QStringLiteral("edit ") + path; }
     void reveal(const QString& path) override { asked << QStringLiteral("reveal ") + path; }

@@ -19,8 +19,7 @@ struct ShownPanel {
     QStringList asked;
     FakePanelHost host{asked};
     FakeOpener opener;
-    FakeAppCatalog applications;
-    quib::Actions actions{opener, applications};
+    quib::Actions actions{opener};
     FakeCommands commands;
     std::unique_ptr<quib::NotchPanel> window;
 
@@ -86,6 +85,17 @@ struct ShownPanel {
     void click(const QQuickItem* on) const
     {
         QTest::mouseClick(window.get(), Qt::LeftButton, {}, inScene(on).center().toPoint());
+    }
+
+    /// Between the clicks the panel draws itself anew, and something else may come under the
+    /// pointer.
+    void doubleClick(const QQuickItem* on) const
+    {
+        const auto place = inScene(on).center().toPoint();
+        QTest::mouseClick(window.get(), Qt::LeftButton, {}, place);
+        settle();
+        QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval;
+        QTest::mouseClick(window.get(), Qt::LeftButton, {}, place);
     }
 };
 

@@ -92,7 +92,17 @@ TestCase {
 
     function test_saysThatItWasClicked() {
         clicks.target = createTemporaryObject(button, testCase);
+        clicks.clear();
         mouseClick(clicks.target);
         compare(clicks.count, 1);
+    }
+
+    function test_aDoubleClickIsOneClick() {
+        clicks.target = createTemporaryObject(button, testCase);
+        clicks.clear();
+        mouseDoubleClickSequence(clicks.target);
+        compare(clicks.count, 1);
+        mouseClick(clicks.target);
+        compare(clicks.count, 2);
     }
 }

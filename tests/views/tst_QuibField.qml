@@ -75,7 +75,7 @@ TestCase {
         const made = createTemporaryObject(field, testCase);
         const placeholder = findChild(made, "placeholder");
         verify(placeholder.visible);
-        compare(placeholder.color, Brand.muted2);
+        compare(placeholder.color, Brand.muted);
         compare(placeholder.x, 9);
         compare(placeholder.y, 6);
         made.text = "x";
@@ -159,6 +159,17 @@ TestCase {
         compare(place(made, 0).x, 9);
     }
 
+    function test_atTheEndOfALongTextTheCursorIsInSightAndStaysLit() {
+        const made = createTemporaryObject(field, testCase, { text: "A long text that does not fit into the field at all" });
+        made.forceActiveFocus();
+        keyClick(Qt.Key_End);
+        const cursor = cursorOf(made);
+        verify(cursor.mapToItem(made, cursor.width, 0).x <= 150 - 9);
+        cursor.isLit = false;
+        keyClick("x");
+        verify(cursor.isLit);
+    }
+
     function test_typedWordsCanBeUndone() {
         const made = createTemporaryObject(field, testCase);
         made.forceActiveFocus();
@@ -167,6 +178,88 @@ TestCase {
         compare(made.text, "ab");
         keySequence(StandardKey.Undo);
         compare(made.text, "");
+    }
+
+    // The clipboard is filled by copying from another field, which may hold anything.
+    function pasteInto(made, text) {
+        const source = createTemporaryQmlObject("import QtQuick; TextEdit { }", testCase);
+        source.text = text;
+        source.selectAll();
+        source.copy();
+        made.forceActiveFocus();
+        keySequence(StandardKey.Paste);
+    }
+
+    function test_pastedLineBreaksBecomeBlanks_data() {
+        return [{ tag: "a line with its end", pasted: "cafe.example\n", shown: "Corner cafe.example Cafe" },
+                { tag: "lines", pasted: "\n one\ntwo\n", shown: "Corner one two Cafe" },
+                { tag: "a word with its blanks", pasted: " x ", shown: "Corner  x  Cafe" }];
+    }
+
+    function test_pastedLineBreaksBecomeBlanks(row) {
+        const made = createTemporaryObject(field, testCase, { value: "Corner Old Cafe" });
+        edited.target = made;
+        edited.clear();
+        made.forceActiveFocus();
+        input(made).select(7, 10);
+        pasteInto(made, row.pasted);
+        compare(made.text, row.shown);
+        compare(input(made).cursorPosition, row.shown.length - 5);
+        verify(edited.count > 0);
+    }
+
+    function test_aPasteIsOneStepToUndo() {
+        const made = createTemporaryObject(field, testCase);
+        made.forceActiveFocus();
+        keyClick("a");
+        keyClick("b");
+        pasteInto(made, "x\ny");
+        keyClick("c");
+        compare(made.text, "abx yc");
+        keySequence(StandardKey.Undo);
+        compare(made.text, "abx y");
+        keySequence(StandardKey.Undo);
+        compare(made.text, "ab");
+        keySequence(StandardKey.Redo);
+        compare(made.text, "abx y");
+    }
+
+    function test_breaksThatAreThereStayWhileOtherTextIsPasted() {
+        const made = createTemporaryObject(field, testCase, { value: "one\ntwo" });
+        made.forceActiveFocus();
+        keyClick(Qt.Key_End);
+        pasteInto(made, "\nthree");
+        compare(made.text, "one\ntwothree");
+    }
+
+    function test_whatMayOnlyBeReadIsNotPastedInto() {
+        const made = createTemporaryObject(field, testCase, { text: "one", readOnly: true });
+        pasteInto(made, "two");
+        compare(made.text, "one");
+    }
+
+    function test_theRingShowsForTheKeyboardOnly_data() {
+        return [{ tag: "Tab", reason: Qt.TabFocusReason, shown: true }, { tag: "Backtab", reason: Qt.BacktabFocusReason, shown: true },
+                { tag: "a shortcut", reason: Qt.ShortcutFocusReason, shown: true }, { tag: "the pointer", reason: Qt.MouseFocusReason, shown: false },
+                { tag: "the view", reason: Qt.OtherFocusReason, shown: false }];
+    }
+
+    function test_theRingShowsForTheKeyboardOnly(row) {
+        const made = createTemporaryObject(field, testCase);
+        const ring = findChild(made, "ring");
+        verify(!ring.visible);
+        made.forceActiveFocus(row.reason);
+        compare(ring.visible, row.shown);
+        made.focus = false;
+        verify(!ring.visible);
+    }
+
+    function test_aPressEndsTheRing() {
+        const made = createTemporaryObject(field, testCase);
+        made.forceActiveFocus(Qt.TabFocusReason);
+        verify(findChild(made, "ring").visible);
+        mouseClick(made);
+        verify(!findChild(made, "ring").visible);
     }
 
     function test_returnAcceptsAndKeepsTheFocus() {

@@ -46,6 +46,23 @@ TestCase {
         QuibField { }
     }
 
+    Component {
+        id: button
+
+        PlainButton {
+            property alias menu: menu
+
+            width: 140
+            height: 24
+
+            QuibMenu {
+                id: menu
+
+                model: [{ title: "One" }, { title: "Two" }]
+            }
+        }
+    }
+
     SignalSpy {
         id: activated
 
@@ -178,6 +195,23 @@ TestCase {
         verify(!typed.isEditing);
         keyClick(Qt.Key_Escape);
         tryVerify(() => typed.isEditing);
+    }
+
+    function test_closedItLeavesTheRingWhereItWas_data() {
+        return [{ tag: "chosen by key", reason: Qt.TabFocusReason, key: Qt.Key_Return, ring: true },
+                { tag: "closed by key", reason: Qt.TabFocusReason, key: Qt.Key_Escape, ring: true },
+                { tag: "opened by pointer", reason: Qt.MouseFocusReason, key: Qt.Key_Escape, ring: false }];
+    }
+
+    function test_closedItLeavesTheRingWhereItWas(row) {
+        const opener = createTemporaryObject(button, testCase);
+        opener.forceActiveFocus(row.reason);
+        opener.menu.open();
+        tryVerify(() => opener.menu.opened);
+        keyClick(Qt.Key_Down);
+        keyClick(row.key);
+        tryVerify(() => opener.activeFocus);
+        compare(opener.visualFocus, row.ring);
     }
 
     function test_closesWithItsOpener() {

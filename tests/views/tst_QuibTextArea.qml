@@ -75,7 +75,7 @@ TestCase {
         const made = make();
         const placeholder = findChild(made, "placeholder");
         verify(placeholder.visible);
-        compare(placeholder.color, Brand.muted2);
+        compare(placeholder.color, Brand.muted);
         compare(placeholder.x, 9);
         compare(placeholder.y, 6);
         made.value = "x";
@@ -122,6 +122,30 @@ TestCase {
         tryVerify(() => cursor.visible);
         compare(cursor.width * input(made).scale, 1);
         verify(cursor.height > 10);
+    }
+
+    function test_theRingShowsForTheKeyboardOnly_data() {
+        return [{ tag: "Tab", reason: Qt.TabFocusReason, shown: true }, { tag: "Backtab", reason: Qt.BacktabFocusReason, shown: true },
+                { tag: "a shortcut", reason: Qt.ShortcutFocusReason, shown: true }, { tag: "the pointer", reason: Qt.MouseFocusReason, shown: false },
+                { tag: "the view", reason: Qt.OtherFocusReason, shown: false }];
+    }
+
+    function test_theRingShowsForTheKeyboardOnly(row) {
+        const made = make();
+        const ring = findChild(made, "ring");
+        verify(!ring.visible);
+        made.forceActiveFocus(row.reason);
+        compare(ring.visible, row.shown);
+        made.focus = false;
+        verify(!ring.visible);
+    }
+
+    function test_aPressEndsTheRing() {
+        const made = make();
+        made.forceActiveFocus(Qt.TabFocusReason);
+        verify(findChild(made, "ring").visible);
+        mouseClick(made);
+        verify(!findChild(made, "ring").visible);
     }
 
     function test_returnMakesALine() {

@@ -36,8 +36,9 @@ private Q_SLOTS:
     void entries_areThePlaceholderAndTheClients();
     void selection_isChecked();
     void goneClient_leavesThePlaceholderChecked();
-    void clientAt_isNullForNoClient();
+    void clientAt_isNobodyForThePlaceholder();
     void newClient_addsOneRow();
+    void hidden_followsNothingUntilItIsShown();
 };
 
 void ClientChoiceModelTest::entries_areThePlaceholderAndTheClients()
@@ -81,7 +82,7 @@ void ClientChoiceModelTest::goneClient_leavesThePlaceholderChecked()
     QCOMPARE(model.selectedRow(), 0);
 }
 
-void ClientChoiceModelTest::clientAt_isNullForNoClient()
+void ClientChoiceModelTest::clientAt_isNobodyForThePlaceholder()
 {
     Workspace workspace;
     const auto cafe = workspace.client(u"Corner Café"_s);
@@ -89,9 +90,9 @@ void ClientChoiceModelTest::clientAt_isNullForNoClient()
 
     model.setStore(workspace.store.get());
 
-    QVERIFY(model.clientAt(0).isNull());
+    QCOMPARE(model.clientAt(0), quib::NoClient::id());
     QCOMPARE(model.clientAt(2), cafe);
-    QVERIFY(model.clientAt(7).isNull());
+    QCOMPARE(model.clientAt(7), quib::NoClient::id());
 }
 
 void ClientChoiceModelTest::newClient_addsOneRow()
@@ -109,6 +110,22 @@ void ClientChoiceModelTest::newClient_addsOneRow()
 
     QCOMPARE(inserted.count(), 1);
     QCOMPARE(reset.count(), 0);
+}
+
+void ClientChoiceModelTest::hidden_followsNothingUntilItIsShown()
+{
+    Workspace workspace;
+    ClientChoiceModel model;
+    model.setPlaceholder(u"No client"_s);
+    model.setStore(workspace.store.get());
+    model.setShown(false);
+
+    const auto cafe = workspace.client(u"Café"_s);
+    model.setSelection(cafe);
+    QCOMPARE(entries(model), (QStringList{u"*No client"_s, u"-"_s}));
+    model.setShown(true);
+
+    QCOMPARE(entries(model), (QStringList{u"No client"_s, u"-"_s, u"*Café"_s}));
 }
 
 QTEST_GUILESS_MAIN(ClientChoiceModelTest)

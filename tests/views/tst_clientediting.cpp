@@ -17,9 +17,13 @@ private Q_SLOTS:
     void everyField_reachesTheStoreAtEachKey();
     void rate_waitsForANumber();
     void rate_isShownAnewWhenItsFieldIsLeft();
+    void halfTypedRate_waitsForItsUser_data();
+    void halfTypedRate_waitsForItsUser();
     void cursor_staysWhileTheStoreChanges_data();
     void cursor_staysWhileTheStoreChanges();
     void sameFieldChangedElsewhere_isShownWithTheCursorKept();
+    void undoAndRedo_reachTheStore_data();
+    void undoAndRedo_reachTheStore();
     void undo_belongsToOneClient();
     void showing_changesNothing();
     void editing_keepsWhatIsNotTouched();
@@ -119,6 +123,46 @@ void ClientEditingTest::rate_isShownAnewWhenItsFieldIsLeft()
     QCOMPARE(m_book->client(m_book->cafe).hourlyRate, 1234.5);
 }
 
+void ClientEditingTest::halfTypedRate_waitsForItsUser_data()
+{
+    QTest::addColumn<QByteArray>("away");
+
+    QTest::addRow("in another window") << "window"_ba;
+    QTest::addRow("while the panel is closed") << "notch"_ba;
+    QTest::addRow("on another tab") << "tab"_ba;
+}
+
+void ClientEditingTest::halfTypedRate_waitsForItsUser()
+{
+    QFETCH(QByteArray, away);
+    m_book->select(m_book->cafe);
+    m_book->click(m_book->item(u"rate"_s));
+    m_book->press(Qt::Key_A, Qt::ControlModifier);
+    m_book->type(u"4."_s);
+    QWindow other;
+
+    if (away == "window") {
+        other.show();
+        other.requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QVERIFY(!m_book->item(u"rate"_s)->property("isEditing").toBool());
+        m_book->window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(m_book->window.get()));
+    } else if (away == "notch") {
+        m_book->model.setExpanded(false);
+        QTRY_VERIFY(!m_book->item(u"clientsView"_s)->isVisible());
+        m_book->model.setExpanded(true);
+    } else {
+        m_book->model.setTab(Tab::Tasks);
+        m_book->model.setTab(Tab::Clients);
+    }
+
+    QCOMPARE(m_book->shown(u"rate"_s), u"4."_s);
+    m_book->click(m_book->item(u"rate"_s));
+    m_book->click(m_book->item(u"nameField"_s));
+    QCOMPARE(m_book->shown(u"rate"_s), u"4"_s);
+}
+
 void ClientEditingTest::cursor_staysWhileTheStoreChanges_data()
 {
     QTest::addColumn<QString>("field");
@@ -170,6 +214,41 @@ void ClientEditingTest::sameFieldChangedElsewhere_isShownWithTheCursorKept()
         QCOMPARE(m_book->shown(field), u"Cafeteria"_s);
         QCOMPARE(m_book->input(field)->property("cursorPosition").toInt(), 1);
     }
+}
+
+void ClientEditingTest::undoAndRedo_reachTheStore_data()
+{
+    QTest::addColumn<QString>("field");
+
+    QTest::addRow("name") << u"nameField"_s;
+    QTest::addRow("address") << u"siteURL"_s;
+    QTest::addRow("notes") << u"notes"_s;
+}
+
+void ClientEditingTest::undoAndRedo_reachTheStore()
+{
+    QFETCH(QString, field);
+    m_book->change(m_book->cafe, [](quib::Client& edited) {
+        edited.name = edited.siteURL = edited.notes = u"Corner"_s;
+    });
+    m_book->select(m_book->cafe);
+    const auto stored = [&] {
+        const auto client = m_book->client(m_book->cafe);
+        return field == u"notes"_s  ? client.notes
+            : field == u"siteURL"_s ? client.siteURL
+                                    : client.name;
+    };
+    m_book->click(m_book->item(field));
+    m_book->press(Qt::Key_End);
+    m_book->type(u"x"_s);
+    QCOMPARE(stored(), u"Cornerx"_s);
+
+    m_book->press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(stored(), u"Corner"_s);
+    m_book->press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+
+    QCOMPARE(stored(), u"Cornerx"_s);
+    QCOMPARE(m_book->shown(field), u"Cornerx"_s);
 }
 
 void ClientEditingTest::undo_belongsToOneClient()

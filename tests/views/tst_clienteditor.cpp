@@ -22,6 +22,7 @@ private Q_SLOTS:
     void everyStatus_isChosenByItsRow();
     void rowOutside_choosesNothing();
     void rate_isReadAndShownAsTheCountryDoes();
+    void rate_isOfTheStoresCountry();
     void textThatIsNoNumber_leavesTheRate_data();
     void textThatIsNoNumber_leavesTheRate();
     void goneClient_isNotWritten();
@@ -59,7 +60,7 @@ void ClientEditorTest::client_isShown()
 
 void ClientEditorTest::noClient_showsNothing()
 {
-    for (const auto& id : {QUuid(), QUuid::createUuid()}) {
+    for (const auto& id : {quib::NoClient::id(), QUuid(), QUuid::createUuid()}) {
         m_edited->editor->setClientID(id);
 
         QVERIFY(!m_edited->editor->exists());
@@ -122,6 +123,20 @@ void ClientEditorTest::rate_isReadAndShownAsTheCountryDoes()
     QCOMPARE(m_edited->first().hourlyRate, 36.25);
 
     QCOMPARE(m_edited->editor->rateText(), u"36,25"_s);
+}
+
+void ClientEditorTest::rate_isOfTheStoresCountry()
+{
+    Workspace abroad({}, {.locale = {.money = "en_GB", .numbers = "en_GB"}});
+    const auto id = abroad.client(u"Café"_s);
+    ClientEditor editor;
+    editor.setStore(abroad.store.get());
+    editor.setClientID(id);
+
+    editor.setRateText(u"£1,234.5"_s);
+
+    QCOMPARE(abroad.store->client(id)->hourlyRate, 1234.5);
+    QCOMPARE(editor.rateText(), u"1234.5"_s);
 }
 
 void ClientEditorTest::textThatIsNoNumber_leavesTheRate_data()

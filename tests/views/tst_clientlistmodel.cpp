@@ -1,6 +1,7 @@
 #include "views/clientlistmodel.h"
 
 #include "support/workspace.h"
+#include "views/noclient.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -36,6 +37,8 @@ private Q_SLOTS:
     void heading_countsTheClients();
     void rows_areFoundByTheirClient();
     void repeatedIds_areAllShown();
+    void rowBeside_data();
+    void rowBeside();
     void storeGone_leavesNoRows();
 };
 
@@ -196,8 +199,8 @@ void ClientListModelTest::rows_areFoundByTheirClient()
     QCOMPARE(model.rowOf(bloom), 1);
     QCOMPARE(model.clientAt(1), bloom);
     QCOMPARE(model.rowOf(QUuid()), -1);
-    QCOMPARE(model.clientAt(-1), QUuid());
-    QCOMPARE(model.clientAt(2), QUuid());
+    QCOMPARE(model.clientAt(-1), quib::NoClient::id());
+    QCOMPARE(model.clientAt(2), quib::NoClient::id());
 }
 
 void ClientListModelTest::repeatedIds_areAllShown()
@@ -212,6 +215,42 @@ void ClientListModelTest::repeatedIds_areAllShown()
     model.setStore(workspace.store.get());
 
     QCOMPARE(names(model), (QStringList{u"First"_s, u"Twin"_s}));
+}
+
+void ClientListModelTest::rowBeside_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("by");
+    QTest::addColumn<int>("found");
+
+    QTest::addRow("down") << 0 << 1 << 1;
+    QTest::addRow("down over a repeated one") << 1 << 1 << 4;
+    QTest::addRow("up over a repeated one") << 4 << -1 << 1;
+    QTest::addRow("down from the last") << 4 << 1 << 4;
+    QTest::addRow("up from the first") << 0 << -1 << 0;
+    QTest::addRow("a page") << 0 << 2 << 4;
+    QTest::addRow("more than there are") << 0 << 5 << 4;
+    QTest::addRow("down from none") << -1 << 1 << 0;
+    QTest::addRow("up from none") << -1 << -1 << 0;
+    QTest::addRow("to the end from none") << -1 << 5 << 4;
+}
+
+void ClientListModelTest::rowBeside()
+{
+    QFETCH(int, row);
+    QFETCH(int, by);
+    Workspace workspace;
+    const auto first = workspace.client(u"First"_s);
+    workspace.client(u"Second"_s);
+    auto data = workspace.store->data();
+    data.clients.append({.id = first, .name = u"Twin"_s});
+    data.clients.append({.id = first, .name = u"Triplet"_s});
+    workspace.store->setData(data);
+    workspace.client(u"Last"_s);
+    ClientListModel model;
+    model.setStore(workspace.store.get());
+
+    QTEST(model.rowBeside(row, by), "found");
 }
 
 void ClientListModelTest::storeGone_leavesNoRows()

@@ -1,5 +1,6 @@
 #include "support/clientbook.h"
 #include "support/plaintexts.h"
+#include "views/noclient.h"
 
 #include <QAccessible>
 #include <QRegularExpression>
@@ -19,23 +20,31 @@ private Q_SLOTS:
     void plus_opensTheNewClientForTyping();
     void plus_bringsTheNewClientIntoSight();
     void click_selects();
+    void clientWithTheNullId_isAClient();
     void arrows_select();
+    void arrows_passRepeatedIds();
+    void firstDown_selectsTheFirst();
+    void pagesAndEnds_select();
     void selectionFarDown_isBroughtIntoSight();
     void rowsMarks_followTasksAndTimer();
     void otherRows_keepStandingWhileOneIsEdited();
     void siteButton_comesAndGoesWithTheAddress();
     void folderButtons_comeWithTheFolder();
     void trackTime_startsAndStops();
+    void trackTime_doubleClicked_keepsTheTimer();
     void firstClick_arms();
     void secondClick_deletes();
     void armedButton_restsForAnotherClient();
     void armedButton_restsWhenShownAnew_data();
     void armedButton_restsWhenShownAnew();
     void armedButton_staysWhileTheStoreChanges();
+    void armedButton_staysWhileTimePasses();
+    void longFolderPath_showsItsEnds();
     void tabKey_goesThroughEverything();
     void deletedByKey_leavesTheKeysToTheList();
     void texts_arePlain();
     void names_tellWhatPressingDoes();
+    void rowsDescription_tellsWhatItsMarksDo();
     void longNames_leaveRoomForTheMarks_data();
     void longNames_leaveRoomForTheMarks();
 
@@ -110,6 +119,22 @@ void ClientsViewTest::click_selects()
     QVERIFY(!m_book->row(0)->property("selected").toBool());
 }
 
+void ClientsViewTest::clientWithTheNullId_isAClient()
+{
+    auto data = m_book->store().data();
+    data.clients.append({.name = u"Nil"_s});
+    m_book->store().setData(data);
+    m_book->settle();
+    QVERIFY(!m_book->row(2)->property("selected").toBool());
+
+    m_book->click(m_book->row(2));
+
+    QVERIFY(m_book->row(2)->property("selected").toBool());
+    QCOMPARE(m_book->shown(u"nameField"_s), u"Nil"_s);
+    m_book->press(Qt::Key_Up);
+    QCOMPARE(m_book->selection(), m_book->bloom);
+}
+
 void ClientsViewTest::arrows_select()
 {
     m_book->click(m_book->row(0));
@@ -123,6 +148,60 @@ void ClientsViewTest::arrows_select()
 
     QCOMPARE(m_book->selection(), m_book->cafe);
     QCOMPARE(m_book->shown(u"nameField"_s), u"Café"_s);
+}
+
+void ClientsViewTest::arrows_passRepeatedIds()
+{
+    auto data = m_book->store().data();
+    data.clients.insert(1, {.id = m_book->cafe, .name = u"Twin"_s});
+    m_book->store().setData(data);
+    m_book->click(m_book->row(0));
+
+    m_book->press(Qt::Key_Down);
+    QCOMPARE(m_book->selection(), m_book->bloom);
+    m_book->press(Qt::Key_Up);
+
+    QCOMPARE(m_book->selection(), m_book->cafe);
+}
+
+void ClientsViewTest::firstDown_selectsTheFirst()
+{
+    m_book->item(u"addClient"_s)->forceActiveFocus(Qt::TabFocusReason);
+    m_book->press(Qt::Key_Tab);
+
+    m_book->press(Qt::Key_Down);
+
+    QCOMPARE(m_book->selection(), m_book->cafe);
+}
+
+void ClientsViewTest::pagesAndEnds_select()
+{
+    for (int number = 0; number < 60; ++number) {
+        m_book->store().addClient();
+    }
+    m_book->settle();
+    const auto rowOfSelection = [&] {
+        return std::ranges::find(m_book->store().data().clients, m_book->selection(),
+                                 &quib::Client::id)
+            - m_book->store().data().clients.begin();
+    };
+    m_book->click(m_book->row(0));
+
+    m_book->press(Qt::Key_PageDown);
+    const auto page = rowOfSelection();
+    QVERIFY(page > 2 && page < 30);
+    m_book->press(Qt::Key_PageDown);
+    QCOMPARE(rowOfSelection(), 2 * page);
+    m_book->press(Qt::Key_PageUp);
+    QCOMPARE(rowOfSelection(), page);
+    m_book->press(Qt::Key_End);
+    QCOMPARE(m_book->selection(), m_book->bloom);
+    m_book->settle();
+    QVERIFY(ShownPanel::inScene(m_book->item(u"clientList"_s))
+                .contains(ShownPanel::inScene(m_book->row(61))));
+    m_book->press(Qt::Key_Home);
+
+    QCOMPARE(rowOfSelection(), 0);
 }
 
 void ClientsViewTest::selectionFarDown_isBroughtIntoSight()
@@ -233,6 +312,17 @@ void ClientsViewTest::trackTime_startsAndStops()
     QCOMPARE(track->property("title").toString(), u"Track time"_s);
 }
 
+void ClientsViewTest::trackTime_doubleClicked_keepsTheTimer()
+{
+    m_book->select(m_book->cafe);
+    m_book->settle();
+
+    m_book->doubleClick(m_book->item(u"track"_s));
+
+    QVERIFY(m_book->store().hasRunningEntry());
+    QCOMPARE(m_book->store().runningEntry()->clientID, m_book->cafe);
+}
+
 void ClientsViewTest::firstClick_arms()
 {
     m_book->select(m_book->cafe);
@@ -257,7 +347,7 @@ void ClientsViewTest::secondClick_deletes()
 
     QVERIFY(!m_book->store().client(m_book->cafe));
     QCOMPARE(m_book->store().data().tasks.size(), 1);
-    QCOMPARE(m_book->selection(), QUuid());
+    QCOMPARE(m_book->selection(), quib::NoClient::id());
     QVERIFY(m_book->item(u"noClient"_s)->isVisible());
     QCOMPARE(m_book->row(0)->property("clientID").toUuid(), m_book->bloom);
     QTRY_VERIFY(!m_book->item(u"clientDetail"_s));
@@ -311,6 +401,35 @@ void ClientsViewTest::armedButton_staysWhileTheStoreChanges()
     m_book->store().addClient();
 
     QCOMPARE(m_book->item(u"delete"_s)->property("symbol").toString(), u"trash.fill"_s);
+}
+
+void ClientsViewTest::armedButton_staysWhileTimePasses()
+{
+    m_book->select(m_book->cafe);
+    m_book->click(m_book->item(u"delete"_s));
+
+    m_book->hands.advance(std::chrono::hours(24));
+    m_book->settle();
+    QCOMPARE(m_book->item(u"delete"_s)->property("symbol").toString(), u"trash.fill"_s);
+    m_book->click(m_book->item(u"delete"_s));
+
+    QVERIFY(!m_book->store().client(m_book->cafe));
+}
+
+void ClientsViewTest::longFolderPath_showsItsEnds()
+{
+    const auto folder = u"/home/ann/"_s + u"deep/"_s.repeated(200) + u"café"_s;
+    m_book->change(m_book->cafe, [&](quib::Client& edited) { edited.folderPath = folder; });
+
+    m_book->select(m_book->cafe);
+    m_book->settle();
+
+    const auto line = m_book->item(u"folderPath"_s)->property("line").toString();
+    QVERIFY(line.startsWith(u"/home/ann/deep/"_s));
+    QVERIFY(line.endsWith(u"deep/café"_s));
+    const auto* drawn = textItems(*m_book->item(u"folderPath"_s)).front();
+    QVERIFY(drawn->property("truncated").toBool());
+    QCOMPARE(drawn->property("elide").toInt(), int(Qt::ElideMiddle));
 }
 
 void ClientsViewTest::tabKey_goesThroughEverything()
@@ -400,6 +519,22 @@ void ClientsViewTest::names_tellWhatPressingDoes()
     QVERIFY(notesInterface->state().multiLine);
 }
 
+void ClientsViewTest::rowsDescription_tellsWhatItsMarksDo()
+{
+    const auto description = [&] {
+        return QAccessible::queryAccessibleInterface(m_book->row(0))
+            ->text(QAccessible::Description);
+    };
+    QCOMPARE(description(), u"Build"_s);
+
+    m_book->workspace.task(u"x"_s, m_book->cafe);
+    QCOMPARE(description(), u"Build, 1 open task"_s);
+    m_book->workspace.task(u"y"_s, m_book->cafe);
+    m_book->store().startTimer(m_book->cafe, {});
+
+    QCOMPARE(description(), u"Build, timer running, 2 open tasks"_s);
+}
+
 void ClientsViewTest::longNames_leaveRoomForTheMarks_data()
 {
     QTest::addColumn<QString>("name");
@@ -426,6 +561,8 @@ void ClientsViewTest::longNames_leaveRoomForTheMarks()
     const auto text = ShownPanel::inScene(ShownPanel::find(m_book->row(0), u"name"_s));
     const auto timed = ShownPanel::inScene(ShownPanel::find(m_book->row(0), u"timed"_s));
     const auto badge = ShownPanel::inScene(ShownPanel::find(m_book->row(0), u"badge"_s));
+    const auto* drawn = textItems(*ShownPanel::find(m_book->row(0), u"name"_s)).front();
+    QVERIFY(drawn->property("truncated").toBool());
     QVERIFY(text.width() > 60);
     QVERIFY(text.right() < timed.left());
     QVERIFY(timed.right() < badge.left());

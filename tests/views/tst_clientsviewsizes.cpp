@@ -1,6 +1,7 @@
 #include "support/shownpanel.h"
 
 #include "brand/brand.h"
+#include "views/noclient.h"
 
 #include <QFont>
 
@@ -196,7 +197,7 @@ void ClientsViewSizesTest::badge_hasItsSizes()
 
 void ClientsViewSizesTest::noClient_isCentred()
 {
-    item(u"clientsView"_s)->setProperty("selection", QUuid());
+    item(u"clientsView"_s)->setProperty("selection", quib::NoClient::id());
 
     const auto text = rect(u"noClient"_s).center();
     const auto column = rect(u"detailColumn"_s).center();
@@ -249,6 +250,8 @@ void ClientsViewSizesTest::status_hasItsSizes()
 
     QTEST(textOf(title, "text"), "title");
     QCOMPARE(sizeOf(title), 10.5);
+    QCOMPARE(colorOf(title),
+             status == ClientStatus::Build ? Brand::glow() : Brand::color(rawText(status)));
     QCOMPARE(ShownPanel::inScene(title), frame.adjusted(8, 3, -8, -3));
     QVERIFY(frame.width() - title->implicitWidth() - 16 < 1); // On whole points.
     QVERIFY(frame.height() - title->implicitHeight() - 6 < 1);

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void placeholder_standsForNobody();
     void note_isTheRunningOnes();
     void start_startsForAClientOrNobody();
+    void start_forADeletedClientIsForNobody();
     void otherEntries_sayNothing();
 };
 
@@ -110,6 +111,20 @@ void RunningTimerTest::start_startsForAClientOrNobody()
     QCOMPARE(workspace.store->runningEntry()->note, u"for the café"_s);
     timer.start({}, QString());
 
+    QCOMPARE(workspace.store->runningEntry()->clientID, std::nullopt);
+}
+
+void RunningTimerTest::start_forADeletedClientIsForNobody()
+{
+    Workspace workspace;
+    const auto cafe = workspace.client(u"Corner Café"_s);
+    RunningTimer timer;
+    timer.setStore(workspace.store.get());
+    workspace.store->deleteClient(cafe);
+
+    timer.start(cafe, u"Call"_s);
+
+    QVERIFY(workspace.store->runningEntry());
     QCOMPARE(workspace.store->runningEntry()->clientID, std::nullopt);
 }
 

@@ -17,6 +17,11 @@ private Q_SLOTS:
     void beginning_cutsBetweenWholeCharacters_data();
     void beginning_cutsBetweenWholeCharacters();
     void beginning_ofOneEndlessCharacter_isOnlyTheEllipsis();
+    void ends_keepTheBeginningAndTheEnd();
+    void ends_cutBetweenWholeCharacters();
+    void standsInCells_data();
+    void standsInCells();
+    void isolated_onlyWhatReadsFromTheRight();
     void widestDigit_isAsWideAsTheWidest();
 };
 
@@ -31,6 +36,8 @@ void TextLineTest::unbroken_putsSpacesForLineBreaks_data()
     QTest::addRow("of Windows") << u"a\r\nb\r\n\r\nc"_s << u"a b  c"_s;
     QTest::addRow("carriage return") << u"a\rb"_s << u"a b"_s;
     QTest::addRow("vertical tab and form feed") << u"a\vb\fc"_s << u"a b c"_s;
+    QTest::addRow("what steers devices")
+        << u"a"_s + QChar::Null + u"b\u001b\u007f\u0084c\td"_s << u"abc\td"_s;
     QTest::addRow("of Unicode") << u"a\u2028b\u2029c\u0085d"_s << u"a b c d"_s;
 }
 
@@ -82,6 +89,56 @@ void TextLineTest::beginning_cutsBetweenWholeCharacters()
 void TextLineTest::beginning_ofOneEndlessCharacter_isOnlyTheEllipsis()
 {
     QCOMPARE(TextLine::beginning(u"e"_s + QString(1'000'000, QChar(0x301))), u"…"_s);
+}
+
+void TextLineTest::ends_keepTheBeginningAndTheEnd()
+{
+    const auto folder = u"/home/ann/"_s + QString(1000, u'x') + u"/Café\nweb"_s;
+
+    const auto line = TextLine::ends(folder);
+
+    QCOMPARE(line.size(), 301);
+    QVERIFY(line.startsWith(u"/home/ann/x"_s));
+    QVERIFY(line.endsWith(u"x/Café web"_s));
+    QCOMPARE(line.count(u'…'), 1);
+    QCOMPARE(TextLine::ends(QString(300, u'x')), QString(300, u'x'));
+}
+
+void TextLineTest::ends_cutBetweenWholeCharacters()
+{
+    const auto family = u"\U0001F468\u200D\U0001F469\u200D\U0001F467"_s;
+    const auto endless = u"e"_s + QString(1'000'000, QChar(0x301));
+
+    QCOMPARE(TextLine::ends(family.repeated(400)),
+             family.repeated(150) + u'…' + family.repeated(150));
+    QCOMPARE(TextLine::ends(family.repeated(60)), family.repeated(60));
+    QVERIFY(TextLine::ends(endless).size() <= 2);
+}
+
+void TextLineTest::standsInCells_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("stands");
+
+    QTest::addRow("Britain") << u"-£1,234"_s << true;
+    QTest::addRow("Germany") << u"1.234\u00a0€"_s << true;
+    QTest::addRow("Israel") << u"\u200f1,234\u00a0\u200f₪"_s << false;
+    QTest::addRow("Egypt") << u"\u200f١٬٢٣٤\u00a0ج.م.\u200f"_s << false;
+    QTest::addRow("an accent of its own") << u"e\u0301"_s << false;
+    QTest::addRow("of two code units") << u"\U0001F600"_s << false;
+}
+
+void TextLineTest::standsInCells()
+{
+    QFETCH(QString, text);
+
+    QTEST(TextLine::standsInCells(text), "stands");
+}
+
+void TextLineTest::isolated_onlyWhatReadsFromTheRight()
+{
+    QCOMPARE(TextLine::isolated(u"£1,234"_s), u"£1,234"_s);
+    QCOMPARE(TextLine::isolated(u"١٬٢٣٤"_s), u"\u2068١٬٢٣٤\u2069"_s);
 }
 
 void TextLineTest::widestDigit_isAsWideAsTheWidest()

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void cleanup() { m_tab.reset(); }
 
     void start_takesTheClientAndTheNoteAsTyped();
+    void start_doubleClicked_keepsTheTimer();
     void return_inTheNoteStartsForNobody();
     void stop_bringsTheChoiceBack();
     void timerStartedElsewhere_isShown();
@@ -87,6 +88,15 @@ void TimeViewTest::start_takesTheClientAndTheNoteAsTyped()
     for (const auto& name : {u"timerClient"_s, u"note"_s, u"start"_s}) {
         QVERIFY2(!item(name)->isVisible(), qPrintable(name));
     }
+}
+
+void TimeViewTest::start_doubleClicked_keepsTheTimer()
+{
+    type(u"Call"_s); // With a note one button stands where the other one was.
+
+    m_tab->panel.doubleClick(item(u"start"_s));
+
+    QVERIFY(m_tab->store().hasRunningEntry());
 }
 
 void TimeViewTest::return_inTheNoteStartsForNobody()
@@ -207,6 +217,8 @@ void TimeViewTest::outOfSight_nothingRuns()
 
     QTRY_VERIFY(!m_tab->clockBeat()->isRunning());
     QVERIFY(!m_tab->totalsBeat()->isRunning());
+    m_tab->entry(3600);
+    QCOMPARE(m_tab->text(u"total"_s), u"1m"_s); // No reader, no sum.
 }
 
 void TimeViewTest::shownAnew_theCheckMarkIsAtRestAndTheNoteStays_data()

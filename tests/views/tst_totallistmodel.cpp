@@ -2,6 +2,9 @@
 
 #include <QTest>
 
+#include <cmath>
+#include <limits>
+
 using namespace Qt::StringLiterals;
 using quib::Client;
 using quib::TotalListModel;
@@ -18,8 +21,10 @@ private Q_SLOTS:
     void deletedClient_becomesARowOfNobody();
     void entryThatEndsBeforeItStarts_keepsTheSharesInBounds();
     void sumBelowZero_leavesNoShares();
+    void ratesWithoutMeasure_earnWhatCanBeShown();
     void timerOfTheFuture_countsBelowZero();
     void storeChange_isFollowedAtOnce();
+    void hidden_followsNothingUntilItIsShown();
     void storeGone_leavesNoRows();
 };
 
@@ -95,6 +100,20 @@ void TotalListModelTest::sumBelowZero_leavesNoShares()
     QCOMPARE(report.model.totalSeconds(), -3600.0);
 }
 
+void TotalListModelTest::ratesWithoutMeasure_earnWhatCanBeShown()
+{
+    constexpr auto Most = std::numeric_limits<double>::max();
+    Report report;
+    report.entry(-4, -1, report.client(u"Café"_s, Most));
+    report.entry(-4, -2, report.client(u"Bloom"_s, Most));
+    QCOMPARE(report.model.totalAmount(), Most);
+
+    report.entry(-4, 0, report.client(u"Cellar"_s, -Most));
+
+    QCOMPARE(report.model.index(0).data(TotalListModel::AmountRole).toDouble(), -Most);
+    QVERIFY(std::isfinite(report.model.totalAmount()));
+}
+
 void TotalListModelTest::timerOfTheFuture_countsBelowZero()
 {
     Report report;
@@ -120,6 +139,22 @@ void TotalListModelTest::storeChange_isFollowedAtOnce()
 
     QCOMPARE(report.rows(), QStringList{u"Corner Café 3600 1 50"_s});
     QCOMPARE(report.model.totalAmount(), 50.0);
+}
+
+void TotalListModelTest::hidden_followsNothingUntilItIsShown()
+{
+    Report report;
+    report.entry(-1, 0, report.client(u"Café"_s));
+    report.model.setShown(false);
+
+    report.entry(-2, 0);
+    report.model.refresh();
+    report.model.setPeriod(TotalListModel::Period::Month);
+    QCOMPARE(report.rows(), QStringList{u"Café 3600 1 35"_s});
+    report.model.setShown(true);
+
+    QCOMPARE(report.rows().size(), 2);
+    QCOMPARE(report.model.totalSeconds(), 3 * 3600.0);
 }
 
 void TotalListModelTest::storeGone_leavesNoRows()

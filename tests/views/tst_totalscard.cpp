@@ -1,6 +1,7 @@
 #include "support/timetab.h"
 
 #include "brand/brand.h"
+#include "model/money.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -20,6 +21,9 @@ private Q_SLOTS:
     void unassignedTime_isGreyAndEarnsNothing();
     void deletedClient_readsNoClient();
     void entryThatEndsBeforeItStarts_readsNothing();
+    void amountsReadFromTheRight_areTextsOfTheirOwn_data();
+    void amountsReadFromTheRight_areTextsOfTheirOwn();
+    void weekThatBeganInThePreviousMonth_countsMoreThanTheMonth();
     void totals_followTheClockEvery15Seconds();
     void totals_areFreshWhenShownAgain();
     void refresh_keepsTheRows();
@@ -93,6 +97,46 @@ void TotalsCardTest::entryThatEndsBeforeItStarts_readsNothing()
     QCOMPARE(m_tab->part(1, u"bar"_s)->width(), 0.0);
     QCOMPARE(m_tab->part(1, u"duration"_s)->property("text").toString(), u"0m"_s);
     QCOMPARE(m_tab->text(u"total"_s), u"1h 0m"_s);
+}
+
+void TotalsCardTest::amountsReadFromTheRight_areTextsOfTheirOwn_data()
+{
+    QTest::addColumn<QByteArray>("country");
+
+    QTest::addRow("Israel") << "he_IL"_ba;
+    QTest::addRow("Egypt") << "ar_EG"_ba;
+}
+
+void TotalsCardTest::amountsReadFromTheRight_areTextsOfTheirOwn()
+{
+    QFETCH(QByteArray, country);
+    const auto before = qgetenv("LC_ALL");
+    qputenv("LC_ALL", country);
+    m_tab = std::make_unique<TimeTab>();
+    qputenv("LC_ALL", before);
+    m_tab->entry(3600, m_tab->client(u"Café"_s, quib::ClientStatus::Live, 1234));
+    m_tab->panel.settle();
+    const auto amount = quib::formatMoney(1234, {.money = country});
+
+    auto* shown = m_tab->part(0, u"shrunk"_s);
+    QVERIFY(shown->isVisible());
+    QVERIFY(!m_tab->part(0, u"digits"_s)->isVisible());
+    QCOMPARE(shown->property("text").toString(), amount);
+    QCOMPARE(m_tab->text(u"billable"_s), u"\u2068%1\u2069 billable"_s.arg(amount));
+}
+
+void TotalsCardTest::weekThatBeganInThePreviousMonth_countsMoreThanTheMonth()
+{
+    m_tab->hands.now = QDateTime({2026, 4, 1}, {12, 0}, Qt::UTC);
+    const auto cafe = m_tab->client(u"Café"_s);
+    m_tab->entry(3600, cafe);
+    m_tab->entry(36 * 3600, cafe); // Since midnight of the 31st of March.
+    QCOMPARE(m_tab->text(u"total"_s), u"37h 0m"_s);
+
+    m_tab->panel.click(m_tab->segment(1));
+
+    QCOMPARE(m_tab->text(u"total"_s), u"13h 0m"_s);
+    QCOMPARE(m_tab->text(u"billable"_s), u"£455 billable"_s);
 }
 
 void TotalsCardTest::totals_followTheClockEvery15Seconds()

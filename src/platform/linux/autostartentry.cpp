@@ -2,12 +2,11 @@
 
 #include "model/atomicfile.h"
 #include "platform/linux/gowned.h"
+#include "platform/linux/sessionentry.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-
-#include <gio/gdesktopappinfo.h>
 
 #include <optional>
 #include <utility>
@@ -19,6 +18,7 @@ namespace quib {
 namespace {
 
 constexpr auto FileName = "autostart/org.korvel.Quib.desktop"_L1;
+constexpr auto Group = G_KEY_FILE_DESKTOP_GROUP;
 constexpr auto GnomeKey = "X-GNOME-Autostart-enabled";
 
 /// An AppImage runs from a place that changes with each start.
@@ -49,20 +49,6 @@ std::optional<QString> systemFile()
     return std::nullopt;
 }
 
-/// A file that is no entry, or whose program is gone, hides the others and starts nothing.
-bool startsSomething(const QString& path)
-{
-    const GOwned<GDesktopAppInfo> entry(
-        g_desktop_app_info_new_from_filename(QFile::encodeName(path).constData()));
-    if (!entry || g_app_info_get_executable(G_APP_INFO(entry.get())) == nullptr
-        || g_desktop_app_info_get_is_hidden(entry.get())) {
-        return false;
-    }
-    const bool isSwitchedOff = g_desktop_app_info_has_key(entry.get(), GnomeKey)
-        && !g_desktop_app_info_get_boolean(entry.get(), GnomeKey);
-    return !isSwitchedOff && g_desktop_app_info_get_show_in(entry.get(), nullptr);
-}
-
 /// The text with a backslash in front of each of these characters.
 QString escaped(const QString& text, QStringView characters)
 {
@@ -76,12 +62,9 @@ QString escaped(const QString& text, QStringView characters)
     return result;
 }
 
-/// Quoted as an argument, and then escaped once more as any text in such a file.
 QString quoted(const QString& argument)
 {
-    auto text = escaped(argument, u"\"`$\\").replace(u'%', u"%%"_s);
-    text = u'"' + escaped(text, u"\\") + u'"';
-    return text.replace(u'\n', u"\\n"_s).replace(u'\r', u"\\r"_s).replace(u'\t', u"\\t"_s);
+    return u'"' + escaped(argument, u"\"`$\\").replace(u'%', u"%%"_s) + u'"';
 }
 
 /// Desktops read "%%" in arguments only, never in the name of the program itself.
@@ -91,23 +74,35 @@ QString commandFor(const QString& program)
     return wrapper + quoted(program);
 }
 
+GKeyFileOwned makeEntry()
+{
+    GKeyFileOwned entry(g_key_file_new());
+    g_key_file_set_string(entry.get(), Group, G_KEY_FILE_DESKTOP_KEY_TYPE,
+                          G_KEY_FILE_DESKTOP_TYPE_APPLICATION);
+    g_key_file_set_string(entry.get(), Group, G_KEY_FILE_DESKTOP_KEY_NAME, "Korvel Quib");
+    return entry;
+}
+
+QByteArray bytesOf(GKeyFile* entry)
+{
+    return GText(g_key_file_to_data(entry, nullptr, nullptr)).get();
+}
+
 QByteArray entryFor(const QString& program)
 {
-    const auto text = u"[Desktop Entry]\n"
-                      "Type=Application\n"
-                      "Name=Korvel Quib\n"
-                      "Icon=org.korvel.Quib\n"
-                      "Exec=%1\n"
-                      "X-GNOME-Autostart-enabled=true\n"_s;
-    return text.arg(commandFor(program)).toUtf8();
+    const auto entry = makeEntry();
+    g_key_file_set_string(entry.get(), Group, G_KEY_FILE_DESKTOP_KEY_ICON, "org.korvel.Quib");
+    g_key_file_set_string(entry.get(), Group, G_KEY_FILE_DESKTOP_KEY_EXEC,
+                          commandFor(program).toUtf8().constData());
+    g_key_file_set_boolean(entry.get(), Group, GnomeKey, TRUE);
+    return bytesOf(entry.get());
 }
 
 QByteArray hiddenEntry()
 {
-    return "[Desktop Entry]\n"
-           "Type=Application\n"
-           "Name=Korvel Quib\n"
-           "Hidden=true\n"_ba;
+    const auto entry = makeEntry();
+    g_key_file_set_boolean(entry.get(), Group, G_KEY_FILE_DESKTOP_KEY_HIDDEN, TRUE);
+    return bytesOf(entry.get());
 }
 
 /// A link would be written through, into a file that belongs to somebody else.

@@ -3,6 +3,7 @@
 #include "platform/linux/gowned.h"
 
 #include <QCollator>
+#include <QFile>
 #include <QFileInfo>
 
 #include <gio/gdesktopappinfo.h>
@@ -95,17 +96,6 @@ void sortForTheUser(QList<Application>& list)
     });
 }
 
-/// An entry by its name, a program by its full path. A folder can't be run here.
-std::optional<QString> installed(const QString& id)
-{
-    if (id.startsWith(u'/')) {
-        const QFileInfo file(id);
-        return file.isFile() && file.isExecutable() ? std::optional(id) : std::nullopt;
-    }
-    const GOwned<GDesktopAppInfo> entry(g_desktop_app_info_new(id.toUtf8().constData()));
-    return entry ? std::optional(pathOf(entry.get())) : std::nullopt;
-}
-
 } // namespace
 
 std::optional<QString> GioAppCatalog::applicationNamed(const QString& name) const
@@ -115,16 +105,6 @@ std::optional<QString> GioAppCatalog::applicationNamed(const QString& name) cons
     }
     const auto found = m_pathOfName->constFind(name);
     return found == m_pathOfName->cend() ? std::nullopt : std::optional(*found);
-}
-
-std::optional<QString> GioAppCatalog::firstInstalled(const QStringList& ids) const
-{
-    for (const auto& id : ids) {
-        if (auto path = installed(id)) {
-            return path;
-        }
-    }
-    return std::nullopt;
 }
 
 /// Reads the file alone, for GIO's own list of entries may be locked by who waits for a slow one.

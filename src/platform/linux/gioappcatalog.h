@@ -10,7 +10,6 @@ namespace quib {
 class GioAppCatalog final : public AppCatalog {
 public:
     std::optional<QString> applicationNamed(const QString& name) const override;
-    std::optional<QString> firstInstalled(const QStringList& ids) const override;
     QString nameOf(const QString& path) const override;
     QList<Application> applications() const override;
 

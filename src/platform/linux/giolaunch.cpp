@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -52,20 +53,24 @@ bool isProgram(const QByteArray& path)
         && startOf(path, ElfMagic.size()) == ElfMagic;
 }
 
-/// Keeps the connection with which GIO starts applications: it would end us together with the bus.
-bool hasBus()
+/// Keeps the connection that GIO makes for every entry: a lost one would end us, and what was asked
+/// over one that is closed is forgotten. No thread waits here for another.
+bool keepBus()
 {
-    static auto* const bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
-    if (bus != nullptr) {
-        g_dbus_connection_set_exit_on_close(bus, FALSE);
+    static std::atomic<GDBusConnection*> kept = nullptr;
+    auto* const bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
+    if (bus == nullptr) {
+        return false;
     }
-    return bus != nullptr;
+    g_dbus_connection_set_exit_on_close(bus, FALSE);
+    const GOwned<GDBusConnection> before(kept.exchange(bus));
+    return true;
 }
 
 /// GIO complains about a context of ours when an application on the bus does not answer.
 GOwned<GAppLaunchContext> contextFor(GDesktopAppInfo* application)
 {
-    const bool isOnBus = hasBus()
+    const bool isOnBus = keepBus()
         && g_desktop_app_info_get_boolean(application, G_KEY_FILE_DESKTOP_KEY_DBUS_ACTIVATABLE);
     return isOnBus ? nullptr : makeLaunchContext();
 }
@@ -86,21 +91,27 @@ void launch(GAppInfo* application, const char* address)
 }
 
 /// GIO reads entries under a lock that the whole program needs, so a dead disk has to hang here.
-void launchEntry(const QByteArray& entry, const char* address)
+void launchEntry(const QByteArray& entry)
 {
     if (startOf(entry, 1).isEmpty()) {
         return;
     }
     const GOwned<GDesktopAppInfo> application(
         g_desktop_app_info_new_from_filename(entry.constData()));
-    launch(G_APP_INFO(application.get()), address);
+    launch(G_APP_INFO(application.get()), nullptr);
 }
 
-void runProgram(const QByteArray& program, const char* argument)
+GText addressOf(const QByteArray& path)
+{
+    const GOwned<GFile> file(g_file_new_for_path(path.constData()));
+    return GText(g_file_get_uri(file.get()));
+}
+
+void runProgram(const char* program, const char* argument)
 {
     const auto context = makeLaunchContext();
-    std::array<char*, 3> arguments{const_cast<char*>(program.constData()),
-                                   const_cast<char*>(argument), nullptr};
+    std::array<char*, 3> arguments{const_cast<char*>(program), const_cast<char*>(argument),
+                                   nullptr};
     auto** const environment = g_app_launch_context_get_environment(context.get());
     g_spawn_async(nullptr, arguments.data(), environment, G_SPAWN_DEFAULT, standAlone, nullptr,
                   nullptr, nullptr);
@@ -166,18 +177,32 @@ GOwned<GAppInfo> textEditor()
     return other ? std::move(other) : std::move(chosen);
 }
 
+/// False where the candidate is not installed.
+bool launchWith(const QByteArray& path, const QByteArray& candidate)
+{
+    if (!candidate.endsWith(".desktop")) {
+        const GText program(g_find_program_in_path(candidate.constData()));
+        if (program) {
+            runProgram(program.get(), path.constData());
+        }
+        return program != nullptr;
+    }
+    const GOwned<GDesktopAppInfo> entry(g_desktop_app_info_new(candidate.constData()));
+    launch(G_APP_INFO(entry.get()), addressOf(path).get());
+    return entry != nullptr;
+}
+
 } // namespace
 
 void launchPath(const QByteArray& path)
 {
     if (isDesktopEntry(path)) {
-        launchEntry(path, nullptr);
+        launchEntry(path);
     } else if (isProgram(path)) {
-        runProgram(path, nullptr);
+        runProgram(path.constData(), nullptr);
     } else {
         const GOwned<GFile> file(g_file_new_for_path(path.constData()));
-        const GText address(g_file_get_uri(file.get()));
-        launch(defaultForFile(file.get()).get(), address.get());
+        launch(defaultForFile(file.get()).get(), addressOf(path).get());
     }
 }
 
@@ -186,22 +211,18 @@ void launchAddress(const QByteArray& address)
     launch(defaultForAddress(address).get(), address.constData());
 }
 
-void launchWith(const QByteArray& path, const QByteArray& application)
+void launchWithFirst(const QByteArray& path, const QByteArrayList& candidates)
 {
-    if (!isDesktopEntry(application)) {
-        runProgram(application, path.constData());
-        return;
+    const bool isOpen = std::ranges::any_of(
+        candidates, [&path](const QByteArray& candidate) { return launchWith(path, candidate); });
+    if (!isOpen) {
+        launchPath(path);
     }
-    const GOwned<GFile> file(g_file_new_for_path(path.constData()));
-    const GText address(g_file_get_uri(file.get()));
-    launchEntry(application, address.get());
 }
 
 void launchInTextEditor(const QByteArray& path)
 {
-    const GOwned<GFile> file(g_file_new_for_path(path.constData()));
-    const GText address(g_file_get_uri(file.get()));
-    launch(textEditor().get(), address.get());
+    launch(textEditor().get(), addressOf(path).get());
 }
 
 } // namespace quib

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayList>
 
 namespace quib {
 
@@ -10,7 +11,7 @@ namespace quib {
 
 void launchPath(const QByteArray& path);
 void launchAddress(const QByteArray& address);
-void launchWith(const QByteArray& path, const QByteArray& application);
+void launchWithFirst(const QByteArray& path, const QByteArrayList& candidates);
 void launchInTextEditor(const QByteArray& path);
 
 } // namespace quib

@@ -9,8 +9,11 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <functional>
+#include <algorithm>
+#include <iterator>
+#include <system_error>
 #include <thread>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -20,13 +23,6 @@ namespace {
 
 constexpr auto FileManagerName = "org.freedesktop.FileManager1"_L1;
 constexpr auto FileManagerPath = "/org/freedesktop/FileManager1"_L1;
-
-/// On a thread that nobody waits for: what hangs on a dead disk holds up neither the next opening
-/// nor the end of the program.
-void inBackground(std::function<void()> work)
-{
-    std::thread(std::move(work)).detach();
-}
 
 QDBusMessage showItems(const QString& path)
 {
@@ -39,12 +35,20 @@ QDBusMessage showItems(const QString& path)
 
 } // namespace
 
-GioOpener::GioOpener(std::chrono::milliseconds patience)
+GioOpener::GioOpener(const Patience& patience)
     : m_patience(patience)
 {
     if (!hasSessionBus()) {
         // Where it finds none GIO would start a stray bus, that no other program is on.
         qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+    }
+}
+
+GioOpener::~GioOpener()
+{
+    const auto latest = std::chrono::steady_clock::now() + m_patience.atTheEnd;
+    for (const auto& opening : m_underWay) {
+        opening.wait_until(latest);
     }
 }
 
@@ -58,11 +62,12 @@ void GioOpener::openAddress(const QUrl& address)
     inBackground([address = address.toEncoded()] { launchAddress(address); });
 }
 
-void GioOpener::openWith(const QString& path, const QString& application)
+void GioOpener::openWithFirst(const QString& path, const QStringList& candidates)
 {
-    inBackground([path = QFile::encodeName(path), application = QFile::encodeName(application)] {
-        launchWith(path, application);
-    });
+    QByteArrayList names;
+    std::ranges::transform(candidates, std::back_inserter(names),
+                           qOverload<const QString&>(&QFile::encodeName));
+    inBackground([path = QFile::encodeName(path), names] { launchWithFirst(path, names); });
 }
 
 void GioOpener::openInTextEditor(const QString& path)
@@ -82,7 +87,7 @@ void GioOpener::reveal(const QString& path)
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(showItems(path)), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, asked, path] {
         watcher->deleteLater();
-        if (watcher->isError() && asked.elapsed() < m_patience.count()) {
+        if (watcher->isError() && asked.elapsed() < m_patience.withFileManager.count()) {
             openFolderOf(path);
         }
     });
@@ -91,6 +96,21 @@ void GioOpener::reveal(const QString& path)
 void GioOpener::openFolderOf(const QString& path)
 {
     openPath(QFileInfo(path).path());
+}
+
+void GioOpener::inBackground(std::function<void()> work)
+{
+    std::erase_if(m_underWay, [](const auto& opening) {
+        return opening.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+    });
+    std::packaged_task<void()> task(std::move(work));
+    auto opening = task.get_future();
+    try {
+        std::thread(std::move(task)).detach();
+        m_underWay.push_back(std::move(opening));
+    } catch (const std::system_error&) {
+        return; // The system has no thread to give: nothing opens.
+    }
 }
 
 } // namespace quib

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QProcess>
 
+#include <memory>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -12,6 +13,9 @@ using namespace Qt::StringLiterals;
 namespace quib {
 
 namespace {
+
+/// A killed program is gone at once, unless the system itself hangs.
+constexpr int PatienceMs = 200;
 
 QString programBesideOurs()
 {
@@ -33,7 +37,7 @@ QString rectText(const QRect& rect)
 
 } // namespace
 
-/// One run of the program. Its answer is given exactly once, unless we end first.
+/// One run of the program. Its answer is given exactly once, unless this ends first.
 class PickerProgram::Choice : public QObject {
 public:
     Choice(XcbPanelHost& host, Answer answer, QObject* parent)
@@ -41,34 +45,50 @@ public:
         , m_host(host)
         , m_answer(std::move(answer))
     {
-        connect(&m_process, &QProcess::readyReadStandardOutput, this, &Choice::read);
-        connect(&m_process, &QProcess::finished, this, &Choice::end);
-        connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-            if (error == QProcess::FailedToStart) {
-                QMetaObject::invokeMethod(this, &Choice::end, Qt::QueuedConnection);
-            }
-        });
+        connect(m_process.get(), &QProcess::readyReadStandardOutput, this, &Choice::read);
+        connect(m_process.get(), &QProcess::finished, this, &Choice::end);
+        connect(m_process.get(), &QProcess::errorOccurred, this,
+                [this](QProcess::ProcessError error) {
+                    if (error == QProcess::FailedToStart) {
+                        QMetaObject::invokeMethod(this, &Choice::end, Qt::QueuedConnection);
+                    }
+                });
     }
+
+    ~Choice() override
+    {
+        m_process->disconnect(this);
+        m_process->kill();
+        m_process->waitForFinished(PatienceMs);
+        if (m_process->state() != QProcess::NotRunning) {
+            // Its own destructor would wait for half a minute.
+            auto* const hung = m_process.release();
+            connect(hung, &QProcess::finished, hung, &QObject::deleteLater);
+        }
+    }
+
+    Choice(const Choice&) = delete;
+    Choice& operator=(const Choice&) = delete;
 
     void start(const QString& program, const QStringList& arguments)
     {
-        m_process.setProcessEnvironment(environment());
-        m_process.setStandardErrorFile(QProcess::nullDevice());
-        m_process.start(program, arguments);
+        m_process->setProcessEnvironment(environment());
+        m_process->setStandardErrorFile(QProcess::nullDevice());
+        m_process->start(program, arguments);
     }
 
     /// The answer comes once the program has ended.
     void cancel()
     {
         m_isCancelled = true;
-        m_process.kill();
+        m_process->kill();
     }
 
 private:
     void read()
     {
-        while (m_process.canReadLine()) {
-            const auto line = m_process.readLine().trimmed();
+        while (m_process->canReadLine()) {
+            const auto line = m_process->readLine().trimmed();
             if (line.startsWith("shown ")) {
                 m_host.placeBelow(line.mid(6).toUInt());
             } else if (line.startsWith("chosen ")) {
@@ -89,7 +109,7 @@ private:
 
     XcbPanelHost& m_host;
     Answer m_answer;
-    QProcess m_process;
+    std::unique_ptr<QProcess> m_process = std::make_unique<QProcess>();
     std::optional<QUrl> m_chosen;
     bool m_isCancelled = false;
 };

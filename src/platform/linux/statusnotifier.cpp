@@ -21,6 +21,8 @@ constexpr auto WatcherPath = "/StatusNotifierWatcher"_L1;
 constexpr auto WatcherInterface = "org.kde.StatusNotifierWatcher"_L1;
 constexpr auto ItemPath = "/StatusNotifierItem"_L1; // Where watchers look when told only a name.
 constexpr auto MenuPath = "/MenuBar"_L1;
+constexpr auto LocalPath = "/org/freedesktop/DBus/Local"_L1; // The connection itself speaks there.
+constexpr auto LocalInterface = "org.freedesktop.DBus.Local"_L1;
 
 /// A hung watcher answers once it goes on, and the bus answers for one that dies.
 constexpr int ForEver = std::numeric_limits<int>::max();
@@ -93,6 +95,13 @@ void StatusNotifier::followWatcher()
         // Without the name of the sender, which Qt would ask the bus for and wait.
         m_bus.connect({}, WatcherPath, WatcherInterface, signal, this, SLOT(askForHost()));
     }
+    m_bus.connect({}, LocalPath, LocalInterface, u"Disconnected"_s, this, SLOT(loseBus()));
+}
+
+/// No bus, no status bar that shows anything.
+void StatusNotifier::loseBus()
+{
+    changeWatcher({}, {}, {});
 }
 
 void StatusNotifier::changeWatcher(const QString& /*name*/, const QString& /*before*/,

@@ -31,6 +31,7 @@ public:
 
 private Q_SLOTS:
     void askForHost();
+    void loseBus();
 
 private: // NOLINT(readability-redundant-access-specifiers): ends the slots
     using Answer = std::unique_ptr<QDBusPendingCallWatcher>;

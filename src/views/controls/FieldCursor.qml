@@ -8,6 +8,7 @@ Rectangle {
     id: root
 
     required property bool isShown
+    required property int position // In the text: in one that scrolls the cursor itself may stay in its place.
 
     property bool isLit: true
 
@@ -15,6 +16,7 @@ Rectangle {
     color: "white"
     visible: root.isShown && root.isLit
 
+    onPositionChanged: root.light()
     onXChanged: root.light()
     onYChanged: root.light()
 

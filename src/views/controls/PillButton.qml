@@ -4,7 +4,8 @@ import Quib.Brand
 import Quib.Views
 
 /*!
-    A capsule with a title and, if it has one, a symbol. Lights up under the pointer.
+    A capsule with a title and, if it has one, a symbol. Lights up under the pointer. A double click
+    is one click, so that what the first one starts is not stopped by the second.
 */
 PlainButton {
     id: root
@@ -16,6 +17,8 @@ PlainButton {
     horizontalPadding: 10
     verticalPadding: 5
     Accessible.name: root.title
+
+    onDoubleClicked: {} // Taken, it clicks no second time.
 
     background: ContinuousRectangle {
         objectName: "capsule"

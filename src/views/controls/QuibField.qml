@@ -31,10 +31,29 @@ FocusScope {
     implicitHeight: input.implicitHeight / 2 + 2 * root.verticalPadding
 
     onValueChanged: if (!root.settles || !root.isEditing) root.settle()
-    onIsEditingChanged: if (root.settles && !root.isEditing) root.settle()
+    onIsEditingChanged: if (root.settles && root.isLeft()) root.settle()
 
     function selectAll() {
         input.selectAll();
+    }
+
+    // A field that is hidden, or whose window is not the one that has the keys, has not been left.
+    function isLeft() {
+        return !root.isEditing && root.visible && root.Window.active;
+    }
+
+    // Stands in the text as one step that can be undone: moving the cursor ends a step.
+    function paste(line) {
+        if (root.readOnly || line === "") {
+            return;
+        }
+        input.remove(input.selectionStart, input.selectionEnd);
+        const cursor = input.cursorPosition;
+        input.cursorPosition = 0;
+        input.cursorPosition = input.length;
+        input.insert(cursor, line);
+        input.cursorPosition = cursor;
+        input.cursorPosition = cursor + line.length;
     }
 
     // Says the value again.
@@ -64,7 +83,7 @@ FocusScope {
         visible: input.length === 0 && input.preeditText === ""
         text: root.placeholder
         size: root.size
-        color: Brand.muted2
+        color: Brand.muted
         elide: Text.ElideRight
         Accessible.ignored: true
     }
@@ -88,7 +107,7 @@ FocusScope {
             id: input
 
             objectName: "input"
-            width: opening.width * 2
+            width: opening.width * 2 - 2 // Past the end of a long text there is room for the cursor.
             height: opening.height * 2
             scale: 0.5
             transformOrigin: Item.TopLeft
@@ -113,11 +132,44 @@ FocusScope {
 
             cursorDelegate: FieldCursor {
                 isShown: input.cursorVisible
+                position: input.cursorPosition
             }
 
             onAccepted: root.accepted()
             onTextEdited: root.edited()
+
+            Keys.onPressed: event => {
+                event.accepted = event.matches(StandardKey.Paste);
+                if (event.accepted) {
+                    root.paste(PastedLine.ofClipboard());
+                }
+            }
+
+            MouseArea {
+                x: -2 * root.horizontalPadding
+                width: root.width * 2
+                height: root.height * 2
+                acceptedButtons: Qt.MiddleButton
+
+                onPressed: mouse => {
+                    input.forceActiveFocus(Qt.MouseFocusReason);
+                    input.cursorPosition = input.positionAt(mouse.x - 2 * root.horizontalPadding, mouse.y);
+                    root.paste(PastedLine.ofSelection());
+                }
+            }
         }
+    }
+
+    KeyboardFocus {
+        id: keyboard
+
+        item: input
+    }
+
+    FocusRing {
+        objectName: "ring"
+        visible: keyboard.isShown
+        radius: 10
     }
 
     HoverHandler {

@@ -15,6 +15,7 @@ T.Popup {
     property int startIndex: -1 // Highlighted and in sight when the menu opens.
 
     property Item focusedBefore: null
+    property bool hadRing: false // Choosing leaves the ring where it was.
 
     readonly property Connections opener: Connections {
         target: root.parent
@@ -53,10 +54,11 @@ T.Popup {
     }
 
     onAboutToShow: root.begin()
-    onClosed: root.focusedBefore?.forceActiveFocus()
+    onClosed: root.focusedBefore?.forceActiveFocus(root.hadRing ? Qt.TabFocusReason : Qt.PopupFocusReason)
 
     function begin() {
         root.focusedBefore = root.parent.Window.activeFocusItem;
+        root.hadRing = (root.focusedBefore as PlainButton)?.visualFocus ?? false;
         (root.contentItem as MenuList).begin(root.startIndex);
     }
 

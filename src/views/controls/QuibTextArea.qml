@@ -81,7 +81,7 @@ FocusScope {
         visible: input.length === 0 && input.preeditText === ""
         text: root.placeholder
         size: root.size
-        color: Brand.muted2
+        color: Brand.muted
         elide: Text.ElideRight
         Accessible.ignored: true
     }
@@ -123,6 +123,7 @@ FocusScope {
 
             cursorDelegate: FieldCursor {
                 isShown: input.cursorVisible
+                position: input.cursorPosition
             }
 
             onTextChanged: root.follow()
@@ -135,6 +136,18 @@ FocusScope {
         ScrollThumb {
             flickable: flickable
         }
+    }
+
+    KeyboardFocus {
+        id: keyboard
+
+        item: input
+    }
+
+    FocusRing {
+        objectName: "ring"
+        visible: keyboard.isShown
+        radius: 10
     }
 
     HoverHandler {

@@ -5,14 +5,15 @@ import Quib.Views
 
 /*!
     An amount of money at the right end of a frame. One too wide for it shrinks, and is elided in the
-    end.
+    end. One that is not read letter by letter from the left is a text like others.
 */
 Item {
     id: root
 
     required property string text
 
-    readonly property bool isShort: root.text.length < 16 && digits.implicitWidth <= root.width
+    readonly property bool isShort: TextLine.standsInCells(root.text) && root.text.length < 16
+                                    && digits.implicitWidth <= root.width
 
     implicitHeight: digits.implicitHeight
     baselineOffset: digits.baselineOffset

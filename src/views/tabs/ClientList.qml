@@ -6,7 +6,7 @@ import Quib.Views
 
 /*!
     Every client, below how many they are and a button that adds one. The selected row is the stop of
-    the keyboard, and the arrows select.
+    the keyboard, and arrows, pages and ends select.
 */
 Card {
     id: root
@@ -37,11 +37,29 @@ Card {
     }
 
     function step(by) {
-        const client = clients.clientAt(list.currentIndex + by);
+        const client = clients.clientAt(clients.rowBeside(clients.rowOf(root.selection), by));
         if (client !== NoClient.id) {
             root.chosen(client);
             root.focusRow(Qt.TabFocusReason);
         }
+    }
+
+    function stepByKey(event) {
+        event.accepted = true;
+        switch (event.key) {
+        case Qt.Key_Up: return root.step(-1);
+        case Qt.Key_Down: return root.step(1);
+        case Qt.Key_PageUp: return root.step(-root.rowsInSight());
+        case Qt.Key_PageDown: return root.step(root.rowsInSight());
+        case Qt.Key_Home: return root.step(-clients.count);
+        case Qt.Key_End: return root.step(clients.count);
+        }
+        event.accepted = false;
+    }
+
+    function rowsInSight() {
+        const height = list.currentItem ? list.currentItem.height + list.spacing : list.height;
+        return Math.max(1, Math.floor(list.height / height));
     }
 
     FocusScope {
@@ -102,8 +120,7 @@ Card {
                 }
             }
 
-            Keys.onUpPressed: root.step(-1)
-            Keys.onDownPressed: root.step(1)
+            Keys.onPressed: event => root.stepByKey(event)
 
             ScrollThumb {
                 flickable: list

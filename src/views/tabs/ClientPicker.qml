@@ -39,6 +39,7 @@ PlainButton {
         id: choices
 
         store: root.store
+        shown: root.visible
         placeholder: root.placeholder
         selection: root.selection
     }

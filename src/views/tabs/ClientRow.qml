@@ -16,6 +16,7 @@ PlainButton {
     required property string status
     required property bool isTimed
     required property int openTasks
+    required property string details
 
     property bool selected: false
 
@@ -23,6 +24,7 @@ PlainButton {
     verticalPadding: 6
     ringRadius: 8
     Accessible.name: root.name
+    Accessible.description: root.details
     Accessible.checkable: true
     Accessible.checked: root.selected
 

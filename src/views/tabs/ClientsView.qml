@@ -17,7 +17,7 @@ FocusScope {
     required property Commands commands
     required property bool shown
 
-    property uuid selection
+    property uuid selection: NoClient.id
 
     readonly property uuid shownClient: chosen.exists ? chosen.clientID : NoClient.id
 

@@ -44,7 +44,7 @@ PlainButton {
         objectName: "title"
         text: root.title
         size: 10.5
-        color: Brand.color(root.status)
+        color: Brand.letterColor(root.status)
         Accessible.ignored: true
     }
 }

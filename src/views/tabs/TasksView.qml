@@ -14,8 +14,8 @@ FocusScope {
 
     required property Store store
 
-    property uuid filter
-    property uuid newClient
+    property uuid filter: NoClient.id
+    property uuid newClient: NoClient.id
 
     function addTask() {
         tasks.addTask(field.text, root.newClient === NoClient.id ? root.filter : root.newClient);

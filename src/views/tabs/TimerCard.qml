@@ -11,7 +11,7 @@ FocusScope {
 
     required property Store store
 
-    property uuid client
+    property uuid client: NoClient.id
 
     // While a timer runs no button has the focus by itself: a stray Return would stop it.
     Keys.onTabPressed: stop.forceActiveFocus(Qt.TabFocusReason)

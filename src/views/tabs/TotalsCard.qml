@@ -20,6 +20,7 @@ Item {
         id: totals
 
         store: root.store
+        shown: root.visible
     }
 
     TimesheetExport {
@@ -62,7 +63,7 @@ Item {
                 anchors.leftMargin: 8
                 anchors.right: parent.right
                 anchors.baseline: total.baseline
-                text: "%1 billable".arg(Format.formatMoney(totals.totalAmount))
+                text: "%1 billable".arg(TextLine.isolated(Format.formatMoney(totals.totalAmount)))
                 size: 12
                 color: Brand.muted
                 elide: Text.ElideRight

@@ -15,7 +15,7 @@ class AutostartDesk {
 public:
     AutostartDesk()
     {
-        qputenv("XDG_CURRENT_DESKTOP", "KDE"); // Always the same: GIO reads it once.
+        qputenv("XDG_CURRENT_DESKTOP", "KDE");
         qputenv("HOME", QFile::encodeName(path(QStringLiteral("home"))));
         qputenv("XDG_CONFIG_HOME", QFile::encodeName(path(QStringLiteral("config"))));
         qputenv("XDG_CONFIG_DIRS",

@@ -122,11 +122,22 @@ void OpenerDesk::start()
     m_opener.start(QStringLiteral(OPENER_PROGRAM), {});
 }
 
-bool OpenerDesk::ask(const QStringList& command)
+void OpenerDesk::tell(const QStringList& command)
 {
     m_opener.write(QJsonDocument(QJsonArray::fromStringList(command)).toJson(QJsonDocument::Compact)
                    + '\n');
-    return m_opener.waitForReadyRead(LongEnoughMs) && m_opener.readLine() == "done\n";
+}
+
+bool OpenerDesk::ask(const QStringList& command)
+{
+    return answer(command) == u"done"_s;
+}
+
+QString OpenerDesk::answer(const QStringList& command)
+{
+    tell(command);
+    m_opener.waitForReadyRead(LongEnoughMs);
+    return QString::fromUtf8(m_opener.readLine()).trimmed();
 }
 
 bool OpenerDesk::quit()

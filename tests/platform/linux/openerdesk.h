@@ -34,8 +34,11 @@ public:
     std::unique_ptr<QProcess> startService(const QString& name, const QStringList& more = {}) const;
 
     void start();
+    void tell(const QStringList& command);
     /// False when the program is not free again.
     bool ask(const QStringList& command);
+    /// What it says to that; empty when it is not free again.
+    QString answer(const QStringList& command);
     bool quit();
     void kill();
     qint64 pid() const { return m_opener.processId(); }

@@ -1,3 +1,4 @@
+#include "platform/linux/autostartentry.h"
 #include "platform/linux/gioopener.h"
 
 #include <QCoreApplication>
@@ -16,22 +17,26 @@ using namespace quib;
 
 namespace {
 
-void obey(GioOpener& opener, const QStringList& line)
+/// What there is to say to it.
+QString obey(GioOpener& opener, const QStringList& line)
 {
     const auto command = line.value(0);
     if (command == u"openPath"_s) {
         opener.openPath(line.value(1));
     } else if (command == u"openAddress"_s) {
         opener.openAddress(QUrl(line.value(1)));
-    } else if (command == u"openWith"_s) {
-        opener.openWith(line.value(1), line.value(2));
+    } else if (command == u"openWithFirst"_s) {
+        opener.openWithFirst(line.value(1), line.mid(2));
     } else if (command == u"openInTextEditor"_s) {
         opener.openInTextEditor(line.value(1));
     } else if (command == u"reveal"_s) {
         opener.reveal(line.value(1));
+    } else if (command == u"startsAtLogin"_s) {
+        return AutostartEntry().isEnabled() ? u"yes"_s : u"no"_s;
     } else if (command == u"quit"_s) {
         QCoreApplication::quit();
     }
+    return u"done"_s;
 }
 
 QStringList textsOf(const QByteArray& line)
@@ -44,10 +49,16 @@ QStringList textsOf(const QByteArray& line)
     return texts;
 }
 
-std::chrono::milliseconds patience()
+GioOpener::Patience patience()
 {
-    return qEnvironmentVariableIsSet("QUIB_IMPATIENT") ? std::chrono::milliseconds(0)
-                                                       : GioOpener::Patience;
+    GioOpener::Patience patience;
+    if (qEnvironmentVariableIsSet("QUIB_IMPATIENT")) {
+        patience.withFileManager = std::chrono::milliseconds(0);
+    }
+    if (qEnvironmentVariableIsSet("QUIB_PATIENT_AT_THE_END")) {
+        patience.atTheEnd = std::chrono::seconds(10);
+    }
+    return patience;
 }
 
 void blockASignal()
@@ -60,8 +71,8 @@ void blockASignal()
 
 } // namespace
 
-/// Opens what the lines on its input ask for, each a JSON array, and says "done" after each once
-/// its event loop is free again.
+/// Does what the lines on its input ask for, each a JSON array, and answers each, mostly with
+/// "done", once its event loop is free again.
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
@@ -81,9 +92,9 @@ int main(int argc, char* argv[])
         if (line.isEmpty()) {
             QCoreApplication::exit(2);
         }
-        obey(opener, textsOf(line));
+        const auto answer = obey(opener, textsOf(line));
         QMetaObject::invokeMethod(
-            &opener, [&out] { out << "done" << Qt::endl; }, Qt::QueuedConnection);
+            &opener, [&out, answer] { out << answer << Qt::endl; }, Qt::QueuedConnection);
     });
     return QCoreApplication::exec();
 }

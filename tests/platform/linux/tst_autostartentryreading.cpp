@@ -57,6 +57,10 @@ void AutostartEntryReadingTest::isEnabled_followsTheEntries_data()
     QTest::addRow("empty") << ""_ba << plain << none << false;
     QTest::addRow("not displayed in menus")
         << "Exec=true\nNoDisplay=true\n"_ba << none << none << true;
+    QTest::addRow("with an action")
+        << "Exec=true\n[Desktop Action x]\nExec=true\n"_ba << none << none << true;
+    QTest::addRow("for this desktop")
+        << "Exec=true\nOnlyShowIn=GNOME;KDE;\n"_ba << none << none << true;
     QTest::addRow("switched on by GNOME")
         << "Exec=true\nX-GNOME-Autostart-enabled=true\n"_ba << none << none << true;
 }

@@ -18,10 +18,6 @@ private Q_SLOTS:
     void applicationNamed_data();
     void applicationNamed();
     void applicationNamed_userEntryHidesTheSystems();
-    void firstInstalled_data();
-    void firstInstalled();
-    void firstInstalled_programFile_countsWhereItCanBeRun();
-    void firstInstalled_removedMeanwhile_isAbsent();
     void applications_areThoseThatTheUserMaySee();
     void applications_areSortedAsTheUserReads();
     void applications_icon_data();
@@ -53,13 +49,11 @@ void GioAppCatalogTest::initTestCase()
     install(u"home"_s, u"mail"_s, u"Name=Mail of mine\n"_s);
     install(u"system"_s, u"masked"_s, u"Name=Masked\n"_s);
     install(u"home"_s, u"masked"_s, u"Name=Masked\nHidden=true\n"_s);
-    install(u"system"_s, u"absent"_s, u"Name=Absent\nExec=/nowhere/at/all\n"_s);
     install(u"system"_s, u"lower"_s, u"Name=lower case\n"_s);
     install(u"system"_s, u"zebra"_s, u"Name=Zebra\nIcon=zebra.png\n"_s);
     install(u"system"_s, u"full"_s, u"Name=F\nX-GNOME-FullName=Full Name\n"_s);
     install(u"system"_s, u"icon.name"_s, u"Name=Icon name\nIcon=org.example.Icon\n"_s);
     install(u"system"_s, u"icon.path"_s, u"Name=Icon path\nIcon=/tmp/a b%20ü.png\n"_s);
-    install(u"system"_s, u"removed"_s, u"Name=Removed\nNoDisplay=true\n"_s);
 }
 
 QString GioAppCatalogTest::install(const QString& folder, const QString& id,
@@ -116,69 +110,6 @@ void GioAppCatalogTest::applicationNamed_userEntryHidesTheSystems()
     QVERIFY(!catalog.applicationNamed(u"Mail"_s));
     QCOMPARE(catalog.applicationNamed(u"Mail of mine"_s),
              m_folder.filePath(u"home/applications/mail.desktop"_s));
-}
-
-void GioAppCatalogTest::firstInstalled_data()
-{
-    QTest::addColumn<QStringList>("ids");
-    QTest::addColumn<QString>("found"); // Empty for none.
-
-    QTest::addRow("one") << QStringList{u"files.desktop"_s} << u"system/applications/files"_s;
-    QTest::addRow("the first of two")
-        << QStringList{u"zebra.desktop"_s, u"files.desktop"_s} << u"system/applications/zebra"_s;
-    QTest::addRow("the first that is installed")
-        << QStringList{u"/Applications/None.app"_s, u"none.desktop"_s, u"files.desktop"_s}
-        << u"system/applications/files"_s;
-    QTest::addRow("the user's own")
-        << QStringList{u"mail.desktop"_s} << u"home/applications/mail"_s;
-    QTest::addRow("not displayed in menus")
-        << QStringList{u"settings.desktop"_s} << u"system/applications/settings"_s;
-    QTest::addRow("in a folder of its own")
-        << QStringList{u"kde-deep.desktop"_s} << u"system/applications/kde/deep"_s;
-    QTest::addRow("removed by the user") << QStringList{u"masked.desktop"_s} << QString();
-    QTest::addRow("its program is missing") << QStringList{u"absent.desktop"_s} << QString();
-    QTest::addRow("what it tries is missing") << QStringList{u"missing.desktop"_s} << QString();
-    QTest::addRow("without its ending") << QStringList{u"files"_s} << QString();
-    QTest::addRow("a folder") << QStringList{QDir::tempPath()} << QString();
-    QTest::addRow("no name") << QStringList{QString()} << QString();
-    QTest::addRow("none") << QStringList() << QString();
-}
-
-void GioAppCatalogTest::firstInstalled()
-{
-    QFETCH(const QStringList, ids);
-    QFETCH(const QString, found);
-
-    const auto path = GioAppCatalog().firstInstalled(ids);
-
-    QCOMPARE(path.has_value(), !found.isEmpty());
-    if (path) {
-        QCOMPARE(*path, m_folder.filePath(found + u".desktop"_s));
-    }
-}
-
-void GioAppCatalogTest::firstInstalled_programFile_countsWhereItCanBeRun()
-{
-    const auto path = m_folder.filePath(u"Editor.app"_s);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    const GioAppCatalog catalog;
-    QCOMPARE(catalog.firstInstalled({path}), std::nullopt);
-
-    file.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
-
-    QCOMPARE(catalog.firstInstalled({path}), path);
-}
-
-void GioAppCatalogTest::firstInstalled_removedMeanwhile_isAbsent()
-{
-    const GioAppCatalog catalog;
-    const auto found = catalog.firstInstalled({u"removed.desktop"_s});
-    QVERIFY(found);
-
-    QVERIFY(QFile::remove(*found));
-
-    QTRY_COMPARE(catalog.firstInstalled({u"removed.desktop"_s}), std::nullopt);
 }
 
 void GioAppCatalogTest::applications_areThoseThatTheUserMaySee()

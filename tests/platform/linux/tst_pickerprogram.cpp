@@ -82,6 +82,9 @@ private Q_SLOTS:
     void window_isWhollyVisible();
     void window_draggedOverThePanel_staysAbove();
     void secondChoice_endsTheFirst();
+    void choicesInARow_onlyTheLastStays();
+    void destroyedWhileOpen_answersNothingAndEndsTheProgram();
+    void parentEnds_endsTheProgram();
     void killedProgram_endsTheChoice();
     void closedWindow_endsTheChoice();
     void missingProgram_endsTheChoice();
@@ -297,6 +300,44 @@ void PickerProgramTest::secondChoice_endsTheFirst()
     QTRY_COMPARE(chosen(), QStringList{QString()});
     key(u"Escape"_s);
     QTRY_COMPARE(chosen(), (QStringList{QString(), QString()}));
+}
+
+void PickerProgramTest::choicesInARow_onlyTheLastStays()
+{
+    m_picker->chooseApplication(note()); // Before their windows are there.
+    m_picker->chooseFolder(std::nullopt, note());
+    chooseFolder(m_home->path());
+
+    QTRY_COMPARE(chosen(), (QStringList{QString(), QString()}));
+    key(u"Escape"_s);
+    QTRY_COMPARE(chosen(), (QStringList{QString(), QString(), QString()}));
+    QTRY_VERIFY(windowNamed(u"Choose"_s) == XCB_NONE);
+}
+
+void PickerProgramTest::destroyedWhileOpen_answersNothingAndEndsTheProgram()
+{
+    chooseFolder(m_home->path());
+    const auto program = pid_t(processOfWindow());
+    QVERIFY(program > 0);
+
+    m_picker.reset();
+
+    QVERIFY(kill(program, 0) != 0);
+    QTRY_VERIFY(windowNamed(u"Choose"_s) == XCB_NONE);
+    QCOMPARE(m_answers.size(), 0);
+}
+
+void PickerProgramTest::parentEnds_endsTheProgram()
+{
+    QProcess program;
+    program.start(QStringLiteral(PICKER_PROGRAM), {u"--folder"_s, m_home->path()});
+    QTRY_VERIFY(windowNamed(u"Choose Folder"_s) != XCB_NONE);
+
+    program.closeWriteChannel(); // As the system does when a parent ends.
+
+    QTRY_COMPARE(program.state(), QProcess::NotRunning);
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QVERIFY(!program.readAllStandardOutput().contains("chosen"));
 }
 
 void PickerProgramTest::killedProgram_endsTheChoice()

@@ -1,80 +1,15 @@
 #include "platform/linux/itemonbus.h"
+#include "platform/linux/privatebus.h"
+#include "platform/linux/statuswatcher.h"
 
 #include <QDBusConnectionInterface>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
-#include <csignal>
 #include <memory>
-
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace quib;
-
-namespace {
-
-const auto WatcherName = u"org.kde.StatusNotifierWatcher"_s;
-
-/// A watcher of status items, in a process that can hang and die.
-class WatcherProcess {
-public:
-    WatcherProcess()
-    {
-        m_process.start(QStringLiteral(WATCHER_PROGRAM), QStringList());
-        m_process.waitForReadyRead();
-    }
-
-    ~WatcherProcess() { die(); }
-    WatcherProcess(const WatcherProcess&) = delete;
-    WatcherProcess& operator=(const WatcherProcess&) = delete;
-
-    void hang() const { kill(pid_t(m_process.processId()), SIGSTOP); }
-    void goOn() const { kill(pid_t(m_process.processId()), SIGCONT); }
-
-    void die()
-    {
-        m_process.kill();
-        m_process.waitForFinished();
-    }
-
-    qsizetype questions() { return told("asked"); }
-
-    qsizetype registrations(const QString& item) { return told("registered " + item.toLatin1()); }
-
-private:
-    qsizetype told(const QByteArray& line)
-    {
-        m_told += m_process.readAllStandardOutput();
-        return m_told.split('\n').count(line);
-    }
-
-    QProcess m_process;
-    QByteArray m_told;
-};
-
-/// A status bar, which shows what the watcher knows for as long as it lives.
-class Host {
-public:
-    explicit Host(const QString& name)
-        : m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, name))
-    {
-        auto message = QDBusMessage::createMethodCall(WatcherName, u"/StatusNotifierWatcher"_s,
-                                                      WatcherName, u"RegisterStatusNotifierHost"_s);
-        message << m_bus.baseService();
-        m_bus.call(message);
-    }
-
-    ~Host() { QDBusConnection::disconnectFromBus(m_bus.name()); }
-    Host(const Host&) = delete;
-    Host& operator=(const Host&) = delete;
-
-private:
-    QDBusConnection m_bus;
-};
-
-} // namespace
 
 class StatusNotifierTest : public QObject {
     Q_OBJECT
@@ -93,6 +28,7 @@ private Q_SLOTS:
     void isShown_oneOfTwoHostsLeaves_isTrue();
     void isShown_lastHostLeaves_isFalse();
     void isShown_watcherDies_isFalse();
+    void isShown_busDies_isFalse();
     void noBus_nothingHappens();
     void destroyed_leavesTheBus();
 };
@@ -248,6 +184,22 @@ void StatusNotifierTest::isShown_watcherDies_isFalse()
     watcher.die();
 
     QTRY_VERIFY(!item->isShown());
+}
+
+void StatusNotifierTest::isShown_busDies_isFalse()
+{
+    PrivateBus bus;
+    const WatcherProcess watcher(bus.address());
+    const Host host(bus.connect(u"host of a bus that dies"_s));
+    StatusNotifier item(bus.connect(u"item of a bus that dies"_s));
+    item.install(squareIcon());
+    QTRY_VERIFY(item.isShown());
+    const QSignalSpy changes(&item, &StatusItem::isShownChanged);
+
+    bus.die();
+
+    QTRY_VERIFY(!item.isShown());
+    QCOMPARE(changes.size(), 1);
 }
 
 void StatusNotifierTest::noBus_nothingHappens()
