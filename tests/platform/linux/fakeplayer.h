@@ -35,6 +35,12 @@ public:
             && bus.registerService(m_name);
     }
 
+    void setTitle(const QString& title)
+    {
+        properties[QStringLiteral("Metadata")]
+            = QVariantMap{{QStringLiteral("xesam:title"), title}};
+    }
+
     QString introspect(const QString& /*path*/) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override
     {

@@ -1,4 +1,5 @@
 #include "platform/linux/gioopener.h"
+#include "platform/linux/mprisplayerlink.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -29,6 +30,8 @@ void obey(GioOpener& opener, const QStringList& line)
         opener.openInTextEditor(line.value(1));
     } else if (command == u"reveal"_s) {
         opener.reveal(line.value(1));
+    } else if (command == u"launchSpotify"_s) {
+        MprisPlayerLink().launchSpotify();
     } else if (command == u"quit"_s) {
         QCoreApplication::quit();
     }
