@@ -1,3 +1,4 @@
+#include "platform/linux/hungfile.h"
 #include "platform/linux/openerdesk.h"
 
 #include <QTest>
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void theFirstInstalled_isLaunched();
     void noneInstalled_nothingHappens();
     void brokenEntry_nothingHappens();
+    void hungDisk_blocksNothing();
 };
 
 void LaunchInstalledTest::theFirstInstalled_isLaunched_data()
@@ -77,6 +79,26 @@ void LaunchInstalledTest::brokenEntry_nothingHappens()
     QTRY_COMPARE(desk.started(), Started{{u"org.gnome.Music"_s}});
     QVERIFY(desk.quit());
     QCOMPARE(desk.complaints(), QByteArray());
+}
+
+void LaunchInstalledTest::hungDisk_blocksNothing()
+{
+    OpenerDesk desk;
+    const auto entry = desk.install(u"spotify"_s);
+    const auto other = desk.install(u"org.gnome.Music"_s);
+    desk.start();
+    const HungFile disk(entry);
+    if (!disk.isHung()) {
+        QSKIP("this file system knows no leases");
+    }
+
+    for (int i = 0; i < 20; ++i) {
+        QVERIFY(desk.ask({u"launchSpotify"_s}));
+    }
+
+    QVERIFY(desk.ask({u"openPath"_s, other}));
+    QTRY_COMPARE(desk.started(), Started{{u"org.gnome.Music"_s}});
+    QVERIFY(desk.quit());
 }
 
 QTEST_GUILESS_MAIN(LaunchInstalledTest)
