@@ -1,5 +1,6 @@
 #include "platform/linux/autostartentry.h"
 #include "platform/linux/gioopener.h"
+#include "platform/linux/mprisplayerlink.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -33,6 +34,8 @@ QString obey(GioOpener& opener, const QStringList& line)
         opener.reveal(line.value(1));
     } else if (command == u"startsAtLogin"_s) {
         return AutostartEntry().isEnabled() ? u"yes"_s : u"no"_s;
+    } else if (command == u"launchSpotify"_s) {
+        MprisPlayerLink().launchSpotify();
     } else if (command == u"quit"_s) {
         QCoreApplication::quit();
     }

@@ -1,3 +1,4 @@
+#include "platform/linux/hungfile.h"
 #include "platform/linux/openerdesk.h"
 
 #include <QDir>
@@ -6,9 +7,6 @@
 #include <QUrl>
 
 #include <csignal>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -25,28 +23,6 @@ bool isRunning(int pid)
 {
     return kill(pid, 0) == 0;
 }
-
-/// While it lives, whoever opens the file waits as for a disk that is gone: for as long as the
-/// kernel gives a holder of a lease to give it back, 45 seconds.
-class HungFile {
-public:
-    explicit HungFile(const QString& path)
-        : m_file(open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC))
-    {
-        std::signal(SIGIO, SIG_IGN); // The kernel asks for the lease with it.
-        m_isHung = fcntl(m_file, F_SETLEASE, F_WRLCK) == 0;
-    }
-    ~HungFile() { close(m_file); }
-    Q_DISABLE_COPY_MOVE(HungFile)
-
-    bool isHung() const { return m_isHung; }
-    /// That somebody waits to open it.
-    bool isWaitedFor() const { return fcntl(m_file, F_GETLEASE) != F_WRLCK; }
-
-private:
-    int m_file;
-    bool m_isHung = false;
-};
 
 /// Those that run and those that nobody has buried.
 int childrenOf(qint64 parent)

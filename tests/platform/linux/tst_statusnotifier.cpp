@@ -188,9 +188,10 @@ void StatusNotifierTest::isShown_watcherDies_isFalse()
 
 void StatusNotifierTest::isShown_busDies_isFalse()
 {
-    PrivateBus bus;
+    PrivateBus bus(u"host of a bus that dies"_s);
+    QVERIFY(bus.start());
     const WatcherProcess watcher(bus.address());
-    const Host host(bus.connect(u"host of a bus that dies"_s));
+    const Host host(bus.connection());
     StatusNotifier item(bus.connect(u"item of a bus that dies"_s));
     item.install(squareIcon());
     QTRY_VERIFY(item.isShown());

@@ -1,0 +1,105 @@
+#include "platform/linux/hungfile.h"
+#include "platform/linux/openerdesk.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Started = QList<QStringList>;
+
+/// A player in the ways in which it may be installed, the preferred one first.
+const QStringList Ways{u"spotify"_s, u"com.spotify.Client"_s, u"spotify_spotify"_s};
+
+} // namespace
+
+class LaunchInstalledTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theFirstInstalled_isLaunched_data();
+    void theFirstInstalled_isLaunched();
+    void noneInstalled_nothingHappens();
+    void brokenEntry_nothingHappens();
+    void hungDisk_blocksNothing();
+};
+
+void LaunchInstalledTest::theFirstInstalled_isLaunched_data()
+{
+    QTest::addColumn<QStringList>("installed");
+    QTest::addColumn<QString>("launched");
+
+    QTest::addRow("package") << QStringList(Ways[0]) << Ways[0];
+    QTest::addRow("Flatpak") << QStringList(Ways[1]) << Ways[1];
+    QTest::addRow("Snap") << QStringList(Ways[2]) << Ways[2];
+    QTest::addRow("all") << Ways << Ways[0];
+}
+
+void LaunchInstalledTest::theFirstInstalled_isLaunched()
+{
+    QFETCH(const QStringList, installed);
+    QFETCH(const QString, launched);
+    OpenerDesk desk;
+    desk.install(u"rhythmbox"_s);
+    for (const auto& name : installed) {
+        desk.install(name, u"%U"_s);
+    }
+    desk.start();
+
+    QVERIFY(desk.ask({u"launchSpotify"_s}));
+
+    QTRY_COMPARE(desk.started(), Started{{launched}});
+}
+
+void LaunchInstalledTest::noneInstalled_nothingHappens()
+{
+    OpenerDesk desk;
+    const auto other = desk.install(u"org.gnome.Music"_s);
+    desk.start();
+
+    QVERIFY(desk.ask({u"launchSpotify"_s}));
+
+    QVERIFY(desk.ask({u"openPath"_s, other}));
+    QTRY_COMPARE(desk.started(), Started{{u"org.gnome.Music"_s}});
+    QVERIFY(desk.quit());
+    QCOMPARE(desk.complaints(), QByteArray());
+}
+
+void LaunchInstalledTest::brokenEntry_nothingHappens()
+{
+    OpenerDesk desk;
+    desk.makeFile(u"data/applications/spotify.desktop"_s, "[[[[\0\xff"_ba);
+    const auto other = desk.install(u"org.gnome.Music"_s);
+    desk.start();
+
+    QVERIFY(desk.ask({u"launchSpotify"_s}));
+
+    QVERIFY(desk.ask({u"openPath"_s, other}));
+    QTRY_COMPARE(desk.started(), Started{{u"org.gnome.Music"_s}});
+    QVERIFY(desk.quit());
+    QCOMPARE(desk.complaints(), QByteArray());
+}
+
+void LaunchInstalledTest::hungDisk_blocksNothing()
+{
+    OpenerDesk desk;
+    const auto entry = desk.install(u"spotify"_s);
+    const auto other = desk.install(u"org.gnome.Music"_s);
+    desk.start();
+    const HungFile disk(entry);
+    if (!disk.isHung()) {
+        QSKIP("this file system knows no leases");
+    }
+
+    for (int i = 0; i < 20; ++i) {
+        QVERIFY(desk.ask({u"launchSpotify"_s}));
+    }
+
+    QVERIFY(desk.ask({u"openPath"_s, other}));
+    QTRY_COMPARE(desk.started(), Started{{u"org.gnome.Music"_s}});
+    QVERIFY(desk.quit());
+}
+
+QTEST_GUILESS_MAIN(LaunchInstalledTest)
+#include "tst_launchinstalled.moc"

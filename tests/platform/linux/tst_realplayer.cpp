@@ -1,0 +1,209 @@
+#include "platform/linux/mprisplayerlink.h"
+#include "support/playerreply.h"
+
+#include <QDBusConnectionInterface>
+#include <QDataStream>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+using namespace quib;
+
+/// A player as people have it, mpv, on a bus of its own.
+class RealPlayerTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void track_isReadFromTheFile();
+    void playpause_pausesAndPlays();
+    void next_playsTheNextFile();
+    void previous_playsTheOneBefore();
+    void nothingToPlay_isNoTrack();
+    void quits_runsNoMore();
+    void hung_givesNothingUntilItGoesOn();
+    void two_theFirstIsKeptWhileItRuns();
+
+private:
+    QString makeFile(const QString& name, const QByteArray& title, const QByteArray& artist) const;
+    /// Another player, with its files in order.
+    qint64 play(const QStringList& files);
+    QString reply() { return replyOf(*m_link, Player::Music); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::vector<std::unique_ptr<QProcess>> m_players;
+    std::unique_ptr<MprisPlayerLink> m_link;
+};
+
+namespace {
+
+const auto SoWhat = u"So What||Miles Davis||playing"_s;
+const auto BlueInGreen = u"Blue in Green||Bill Evans||playing"_s;
+
+QByteArray chunk(const QByteArray& name, const QByteArray& bytes)
+{
+    QByteArray size;
+    QDataStream out(&size, QIODevice::WriteOnly);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out << quint32(bytes.size());
+    return name + size + bytes + QByteArray(bytes.size() % 2, '\0');
+}
+
+/// One byte for each sample, of one channel.
+QByteArray format()
+{
+    constexpr quint32 SamplesPerSecond = 8000;
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out << quint16(1) << quint16(1) << SamplesPerSecond << SamplesPerSecond << quint16(1)
+        << quint16(8);
+    return bytes;
+}
+
+} // namespace
+
+void RealPlayerTest::init()
+{
+    if (!QFile::exists(u"/usr/lib/mpv-mpris/mpris.so"_s)) {
+        QSKIP("mpv-mpris is not installed");
+    }
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_link = std::make_unique<MprisPlayerLink>();
+}
+
+void RealPlayerTest::cleanup()
+{
+    for (const auto& player : m_players) {
+        player->kill();
+        player->waitForFinished();
+    }
+    m_players.clear();
+    if (m_link) {
+        QTRY_VERIFY(!m_link->isRunning(Player::Music));
+    }
+}
+
+/// Two minutes of silence.
+QString RealPlayerTest::makeFile(const QString& name, const QByteArray& title,
+                                 const QByteArray& artist) const
+{
+    const auto tags = "INFO" + chunk("INAM", title) + chunk("IART", artist);
+    const auto sound = QByteArray(120 * 8000, '\x80');
+    auto path = m_folder->filePath(name);
+    QFile file(path);
+    file.open(QIODevice::WriteOnly);
+    file.write(chunk(
+        "RIFF", "WAVE" + chunk("fmt ", format()) + chunk("LIST", tags) + chunk("data", sound)));
+    return path;
+}
+
+qint64 RealPlayerTest::play(const QStringList& files)
+{
+    m_players.push_back(std::make_unique<QProcess>());
+    auto& player = *m_players.back();
+    player.start(u"mpv"_s,
+                 QStringList{u"--no-config"_s, u"--ao=null"_s, u"--no-video"_s, u"--idle"_s,
+                             u"--really-quiet"_s, u"--script=/usr/lib/mpv-mpris/mpris.so"_s}
+                     + files);
+    player.waitForStarted();
+    return player.processId();
+}
+
+void RealPlayerTest::track_isReadFromTheFile()
+{
+    play({makeFile(u"1.wav"_s, "So What", "Miles Davis")});
+
+    QTRY_COMPARE(reply(), SoWhat);
+}
+
+void RealPlayerTest::playpause_pausesAndPlays()
+{
+    play({makeFile(u"1.wav"_s, "So What", "Miles Davis")});
+    QTRY_COMPARE(reply(), SoWhat);
+
+    m_link->send(Player::Music, u"playpause"_s);
+    QTRY_COMPARE(reply(), u"So What||Miles Davis||paused"_s);
+    m_link->send(Player::Music, u"playpause"_s);
+
+    QTRY_COMPARE(reply(), SoWhat);
+}
+
+void RealPlayerTest::next_playsTheNextFile()
+{
+    play({makeFile(u"1.wav"_s, "So What", "Miles Davis"),
+          makeFile(u"2.wav"_s, "Blue in Green", "Bill Evans")});
+    QTRY_COMPARE(reply(), SoWhat);
+
+    m_link->send(Player::Music, u"next track"_s);
+
+    QTRY_COMPARE(reply(), BlueInGreen);
+}
+
+void RealPlayerTest::previous_playsTheOneBefore()
+{
+    play({u"--playlist-start=1"_s, makeFile(u"1.wav"_s, "So What", "Miles Davis"),
+          makeFile(u"2.wav"_s, "Blue in Green", "Bill Evans")});
+    QTRY_COMPARE(reply(), BlueInGreen);
+
+    m_link->send(Player::Music, u"previous track"_s);
+
+    QTRY_COMPARE(reply(), SoWhat);
+}
+
+void RealPlayerTest::nothingToPlay_isNoTrack()
+{
+    play({});
+    QTRY_VERIFY(m_link->isRunning(Player::Music));
+
+    QCOMPARE(reply(), QString());
+}
+
+void RealPlayerTest::quits_runsNoMore()
+{
+    const auto pid = play({makeFile(u"1.wav"_s, "So What", "Miles Davis")});
+    QTRY_COMPARE(reply(), SoWhat);
+
+    kill(pid_t(pid), SIGTERM);
+
+    QTRY_VERIFY(!m_link->isRunning(Player::Music));
+    QCOMPARE(reply(), QString());
+}
+
+void RealPlayerTest::hung_givesNothingUntilItGoesOn()
+{
+    const auto pid = play({makeFile(u"1.wav"_s, "So What", "Miles Davis")});
+    QTRY_COMPARE(reply(), SoWhat);
+
+    kill(pid_t(pid), SIGSTOP);
+    QCOMPARE(reply(), QString());
+    QVERIFY(m_link->isRunning(Player::Music));
+    kill(pid_t(pid), SIGCONT);
+
+    QTRY_COMPARE(reply(), SoWhat);
+}
+
+void RealPlayerTest::two_theFirstIsKeptWhileItRuns()
+{
+    const auto first = play({makeFile(u"1.wav"_s, "So What", "Miles Davis")});
+    QTRY_COMPARE(reply(), SoWhat);
+    play({makeFile(u"2.wav"_s, "Blue in Green", "Bill Evans")});
+    const auto second
+        = u"org.mpris.MediaPlayer2.mpv.instance%1"_s.arg(m_players.back()->processId());
+    const auto bus = QDBusConnection::sessionBus();
+    QTRY_VERIFY(bus.interface()->isServiceRegistered(second));
+
+    QCOMPARE(reply(), SoWhat);
+    kill(pid_t(first), SIGKILL);
+
+    QTRY_COMPARE(reply(), BlueInGreen);
+}
+
+QTEST_GUILESS_MAIN(RealPlayerTest)
+#include "tst_realplayer.moc"
