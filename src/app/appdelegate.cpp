@@ -37,7 +37,12 @@ AppDelegate::~AppDelegate() = default;
 
 ViewContext AppDelegate::viewContext()
 {
-    return {.model = m_model, .store = m_store, .actions = m_actions, .commands = *this};
+    return {.model = m_model,
+            .store = m_store,
+            .shortcuts = Shortcuts::shared(),
+            .actions = m_actions,
+            .icons = *m_platform.icons,
+            .commands = *this};
 }
 
 QRectF AppDelegate::collapsedRect() const

@@ -5,7 +5,9 @@
 #include "app/notch/notchmodel.h"
 #include "app/notch/panelhost.h"
 #include "integrations/actions.h"
+#include "integrations/iconsource.h"
 #include "model/store.h"
+#include "shortcuts/shortcuts.h"
 #include "views/notchshape.h"
 
 #include <QMouseEvent>
@@ -73,7 +75,9 @@ QVariantMap rootProperties(const ViewContext& context)
     return {
         {u"model"_s, QVariant::fromValue(&context.model)},
         {u"store"_s, QVariant::fromValue(&context.store)},
+        {u"shortcuts"_s, QVariant::fromValue(&context.shortcuts)},
         {u"actions"_s, QVariant::fromValue(&context.actions)},
+        {u"icons"_s, QVariant::fromValue(&context.icons)},
         {u"commands"_s, QVariant::fromValue(&context.commands)},
     };
 }

@@ -7,15 +7,19 @@ namespace quib {
 
 class Actions;
 class Commands;
+class IconSource;
 class NotchModel;
 class PanelHost;
+class Shortcuts;
 class Store;
 
 /// What every view is made with. Everything is borrowed and outlives the views.
 struct ViewContext {
     NotchModel& model;
     Store& store;
+    Shortcuts& shortcuts;
     Actions& actions;
+    IconSource& icons;
     Commands& commands;
 };
 

@@ -9,6 +9,7 @@
 #include "app/notch/singleinstance.h"
 #include "app/notch/statusitem.h"
 #include "integrations/appcatalog.h"
+#include "integrations/iconsource.h"
 #include "integrations/opener.h"
 
 #include <memory>
@@ -24,6 +25,7 @@ struct Platform {
     std::unique_ptr<Desktop> desktop;
     std::unique_ptr<AppCatalog> applications;
     std::unique_ptr<Opener> opener;
+    std::unique_ptr<IconSource> icons;
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<FilePicker> filePicker;
@@ -38,8 +40,8 @@ bool hasDisplay();
 /// QGuiApplication on that desktop.
 Platform makePlatform();
 
-/// What remains where nothing is shown: `desktop`, `applications` and `opener`; the rest is
-/// null.
+/// What remains where nothing is shown: `desktop`, `applications`, `opener` and `icons`; the rest
+/// is null.
 Platform makePlatformWithoutDisplay();
 
 } // namespace quib

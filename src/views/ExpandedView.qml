@@ -14,7 +14,9 @@ FocusScope {
 
     required property NotchModel model
     required property Store store
+    required property Shortcuts shortcuts
     required property Actions actions
+    required property IconSource icons
     required property Commands commands
     required property real arrival
 
@@ -51,8 +53,20 @@ FocusScope {
         }
 
         Page {
+            id: linksPage
+
             tab: Tab.Links
-            view: EmptyTab { tab: Tab.Links }
+
+            view: ShortcutsView {
+                objectName: "shortcutsView"
+                anchors.fill: parent
+                focus: true
+                shortcuts: root.shortcuts
+                actions: root.actions
+                icons: root.icons
+                commands: root.commands
+                shown: linksPage.shown
+            }
         }
 
         Page {

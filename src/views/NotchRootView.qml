@@ -15,7 +15,9 @@ FocusScope {
 
     required property NotchModel model
     required property Store store
+    required property Shortcuts shortcuts
     required property Actions actions
+    required property IconSource icons
     required property Commands commands
 
     readonly property size shapeSize: root.model.isExpanded ? root.cardSize : root.collapsedSize
@@ -110,7 +112,9 @@ FocusScope {
                 focus: true
                 model: root.model
                 store: root.store
+                shortcuts: root.shortcuts
                 actions: root.actions
+                icons: root.icons
                 commands: root.commands
                 arrival: spring.value
             }

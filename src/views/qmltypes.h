@@ -1,7 +1,9 @@
 #pragma once
 
 #include "integrations/actions.h"
+#include "integrations/iconsource.h"
 #include "model/store.h"
+#include "shortcuts/shortcuts.h"
 
 #include <QtQml/qqml.h>
 
@@ -20,6 +22,27 @@ struct ActionsType {
     QML_FOREIGN(quib::Actions)
     QML_NAMED_ELEMENT(Actions)
     QML_UNCREATABLE("Created by the application delegate")
+};
+
+struct ShortcutsType {
+    Q_GADGET
+    QML_FOREIGN(quib::Shortcuts)
+    QML_NAMED_ELEMENT(Shortcuts)
+    QML_UNCREATABLE("One for the whole process")
+};
+
+struct IconSourceType {
+    Q_GADGET
+    QML_FOREIGN(quib::IconSource)
+    QML_NAMED_ELEMENT(IconSource)
+    QML_UNCREATABLE("Made with the platform")
+};
+
+/// `property shortcutGroup group`: a value that only C++ looks into.
+struct ShortcutGroupType {
+    Q_GADGET
+    QML_FOREIGN(quib::ShortcutGroup)
+    QML_VALUE_TYPE(shortcutGroup)
 };
 
 /// `property uuid id`: compares by value and is passed to C++ as it is. The null id stands for
