@@ -8,6 +8,7 @@
 #include "platform/linux/portaldesktop.h"
 #include "platform/linux/quitsignals.h"
 #include "platform/linux/statusnotifier.h"
+#include "platform/linux/themeiconsource.h"
 #include "platform/linux/x11/xcbpanelhost.h"
 #include "platform/linux/x11/xcbpointersource.h"
 #include "platform/linux/x11/xcbscreensource.h"
@@ -39,7 +40,8 @@ Platform makePlatformWithoutDisplay()
 {
     return {.desktop = std::make_unique<PortalDesktop>(),
             .applications = std::make_unique<GioAppCatalog>(),
-            .opener = std::make_unique<GioOpener>()};
+            .opener = std::make_unique<GioOpener>(),
+            .icons = std::make_unique<ThemeIconSource>()};
 }
 
 } // namespace quib
