@@ -52,6 +52,7 @@ void PlatformTest::makePlatform_makesEverySeam()
     QVERIFY(platform.instance);
     QVERIFY(platform.desktop);
     QVERIFY(platform.applications);
+    QVERIFY(platform.icons);
     QVERIFY(platform.quitSignals);
 }
 
@@ -61,6 +62,7 @@ void PlatformTest::makePlatformWithoutDisplay_makesWhatNeedsNone()
 
     QVERIFY(platform.desktop);
     QVERIFY(platform.applications);
+    QVERIFY(platform.icons);
     QVERIFY(!platform.screens);
     QVERIFY(!platform.panelHost);
     QVERIFY(!platform.instance);
