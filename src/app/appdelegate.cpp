@@ -43,6 +43,7 @@ ViewContext AppDelegate::viewContext()
             .store = m_store,
             .media = m_media,
             .calendar = m_calendar,
+            .shortcuts = Shortcuts::shared(),
             .actions = m_actions,
             .icons = *m_platform.icons,
             .commands = *this};

@@ -18,8 +18,9 @@ namespace {
 
 void prepareToDraw(const char* qtPlatform)
 {
-    // Qt tells the console what it finds missing around it, such as a runtime folder.
-    QLoggingCategory::setFilterRules(u"default.warning=false"_s);
+    // Qt tells the console what it finds missing around it, such as a runtime folder, and wrong in
+    // an icon.
+    QLoggingCategory::setFilterRules(u"default.warning=false\nqt.svg*=false"_s);
     qputenv("QT_QPA_PLATFORM", qtPlatform);
     qputenv("QT_QPA_UPDATE_IDLE_TIME", "0"); // Qt would wait 5 ms before it draws.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);

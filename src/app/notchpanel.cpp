@@ -9,6 +9,7 @@
 #include "integrations/iconsource.h"
 #include "integrations/mediacontroller.h"
 #include "model/store.h"
+#include "shortcuts/shortcuts.h"
 #include "views/notchshape.h"
 
 #include <QMouseEvent>
@@ -78,6 +79,7 @@ QVariantMap rootProperties(const ViewContext& context)
         {u"store"_s, QVariant::fromValue(&context.store)},
         {u"media"_s, QVariant::fromValue(&context.media)},
         {u"calendar"_s, QVariant::fromValue(&context.calendar)},
+        {u"shortcuts"_s, QVariant::fromValue(&context.shortcuts)},
         {u"actions"_s, QVariant::fromValue(&context.actions)},
         {u"icons"_s, QVariant::fromValue(&context.icons)},
         {u"commands"_s, QVariant::fromValue(&context.commands)},

@@ -12,6 +12,7 @@ class IconSource;
 class MediaController;
 class NotchModel;
 class PanelHost;
+class Shortcuts;
 class Store;
 
 /// What every view is made with. Everything is borrowed and outlives the views.
@@ -20,6 +21,7 @@ struct ViewContext {
     Store& store;
     MediaController& media;
     CalendarController& calendar;
+    Shortcuts& shortcuts;
     Actions& actions;
     IconSource& icons;
     Commands& commands;

@@ -24,6 +24,7 @@ namespace quib::Snapshot {
 namespace {
 
 constexpr auto SettlingTime = 400ms;
+constexpr auto LongestWait = 3s;
 
 /// The main loop of this mode: there is no other.
 void runLoop(std::chrono::milliseconds time)
@@ -33,6 +34,18 @@ void runLoop(std::chrono::milliseconds time)
     timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
     timer.start(time);
+    loop.exec();
+}
+
+/// Icons come when their files have been read. Patience ends before the user's does.
+void awaitIcons(const IconSource& icons)
+{
+    if (!icons.isBusy()) {
+        return;
+    }
+    QEventLoop loop;
+    QObject::connect(&icons, &IconSource::settled, &loop, &QEventLoop::quit);
+    QTimer::singleShot(LongestWait, &loop, &QEventLoop::quit);
     loop.exec();
 }
 
@@ -52,6 +65,7 @@ public:
         if (m_root) {
             m_root->setParentItem(m_window.contentItem());
             m_root->setSize(PanelSize);
+            m_control.polishItems(); // Lists make their rows, and these ask for icons.
         }
     }
 
@@ -93,6 +107,7 @@ void run(const QString& folder, AppDelegate& delegate)
         delegate.model().setExpanded(true);
         OffscreenPanel panel(delegate.viewContext());
         runLoop(SettlingTime);
+        awaitIcons(*delegate.platform().icons);
         panel.picture().save(QDir(folder).filePath(rawText(tab) + u".png"_s), "PNG");
     }
 }

@@ -44,8 +44,8 @@ bool hasDisplay();
 /// QGuiApplication on that desktop.
 Platform makePlatform();
 
-/// What remains where nothing is shown: `desktop`, `applications` and `opener`; the rest is
-/// null.
+/// What remains where nothing is shown: `desktop`, `applications`, `opener` and `icons`; the rest
+/// is null.
 Platform makePlatformWithoutDisplay();
 
 } // namespace quib

@@ -26,7 +26,7 @@ public:
     const std::optional<QString>& problem() const { return m_problem; }
 
     /// Reads the file anew, written first where there is none.
-    void reload();
+    Q_INVOKABLE void reload();
     /// Reloads the shared ones, so that there is a file, and has it opened.
     static void edit(const std::function<void(const QString& file)>& openInTextEditor);
 

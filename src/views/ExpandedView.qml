@@ -16,6 +16,7 @@ FocusScope {
     required property Store store
     required property MediaController media
     required property CalendarController calendar
+    required property Shortcuts shortcuts
     required property Actions actions
     required property IconSource icons
     required property Commands commands
@@ -66,8 +67,20 @@ FocusScope {
         }
 
         Page {
+            id: linksPage
+
             tab: Tab.Links
-            view: EmptyTab { tab: Tab.Links }
+
+            view: ShortcutsView {
+                objectName: "shortcutsView"
+                anchors.fill: parent
+                focus: true
+                shortcuts: root.shortcuts
+                actions: root.actions
+                icons: root.icons
+                commands: root.commands
+                shown: linksPage.shown
+            }
         }
 
         Page {

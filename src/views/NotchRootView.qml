@@ -17,6 +17,7 @@ FocusScope {
     required property Store store
     required property MediaController media
     required property CalendarController calendar
+    required property Shortcuts shortcuts
     required property Actions actions
     required property IconSource icons
     required property Commands commands
@@ -115,6 +116,7 @@ FocusScope {
                 store: root.store
                 media: root.media
                 calendar: root.calendar
+                shortcuts: root.shortcuts
                 actions: root.actions
                 icons: root.icons
                 commands: root.commands

@@ -77,13 +77,12 @@ void FileIcon::ask()
         return;
     }
     m_asked = wanted;
-    m_source->find(
-        m_path, wanted,
-        [self = QPointer(this), question = ++m_question](const QImage& picture) {
-            if (self && self->m_question == question) {
-                self->take(picture);
-            }
-        });
+    m_source->find(m_path, wanted,
+                   [self = QPointer(this), question = ++m_question](const QImage& picture) {
+                       if (self && self->m_question == question) {
+                           self->take(picture);
+                       }
+                   });
 }
 
 /// The picture that is there stays until the new one comes.

@@ -5,6 +5,7 @@
 #include "integrations/iconsource.h"
 #include "integrations/mediacontroller.h"
 #include "model/store.h"
+#include "shortcuts/shortcuts.h"
 
 #include <QtQml/qqml.h>
 
@@ -23,6 +24,13 @@ struct ActionsType {
     QML_FOREIGN(quib::Actions)
     QML_NAMED_ELEMENT(Actions)
     QML_UNCREATABLE("Created by the application delegate")
+};
+
+struct ShortcutsType {
+    Q_GADGET
+    QML_FOREIGN(quib::Shortcuts)
+    QML_NAMED_ELEMENT(Shortcuts)
+    QML_UNCREATABLE("One for the whole process")
 };
 
 struct IconSourceType {
@@ -44,6 +52,13 @@ struct CalendarControllerType {
     QML_FOREIGN(quib::CalendarController)
     QML_NAMED_ELEMENT(CalendarController)
     QML_UNCREATABLE("Created by the application delegate")
+};
+
+/// `property shortcutGroup group`: a value that only C++ looks into.
+struct ShortcutGroupType {
+    Q_GADGET
+    QML_FOREIGN(quib::ShortcutGroup)
+    QML_VALUE_TYPE(shortcutGroup)
 };
 
 /// `property uuid id`: compares by value and is passed to C++ as it is.

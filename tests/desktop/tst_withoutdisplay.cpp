@@ -18,12 +18,14 @@ private Q_SLOTS:
     void help_andVersion_needNoDisplay_data();
     void help_andVersion_needNoDisplay();
     void snapshot_isTheSameTwice();
+    void snapshot_showsTheIconsOfApplications();
     void snapshot_growsWithTheScaleFactor();
     void snapshot_leavesAMissingFolderMissing();
 
 private:
     void run(const QStringList& arguments);
     QByteArray picture(const QString& folder, const QString& name) const;
+    QString put(const QString& name, const QByteArray& bytes) const;
 
     std::unique_ptr<QTemporaryDir> m_home;
     QProcessEnvironment m_environment;
@@ -57,6 +59,16 @@ QByteArray WithoutDisplayTest::picture(const QString& folder, const QString& nam
 {
     QFile file(m_home->filePath(folder + u'/' + name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString WithoutDisplayTest::put(const QString& name, const QByteArray& bytes) const
+{
+    const auto path = m_home->filePath(name);
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    file.open(QIODevice::WriteOnly);
+    file.write(bytes);
+    return path;
 }
 
 void WithoutDisplayTest::noDisplay_saysSoInOneLine()
@@ -115,6 +127,28 @@ void WithoutDisplayTest::snapshot_isTheSameTwice()
         QCOMPARE(QImage(m_home->filePath(u"first/"_s + name)).size(), QSize(760, 330));
         QVERIFY2(picture(u"first"_s, name) == picture(u"second"_s, name), qPrintable(name));
     }
+}
+
+void WithoutDisplayTest::snapshot_showsTheIconsOfApplications()
+{
+    const auto icon = m_home->filePath(u"icon.png"_s);
+    QImage red(64, 64, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    QVERIFY(red.save(icon));
+    put(u"mine.desktop"_s, "[Desktop Entry]\nName=Mine\nIcon=" + QFile::encodeName(icon) + "\n");
+    put(u".local/share/KorvelQuib/shortcuts.json"_s,
+        R"({"groups": [{"title": "A", "buttons": [{"name": "Mine", "url": "~/mine.desktop"}]}]})");
+
+    run({u"--snapshot"_s, m_home->path()});
+
+    const QImage links(m_home->filePath(u"links.png"_s));
+    int count = 0;
+    for (int y = 0; y < links.height(); ++y) {
+        for (int x = 0; x < links.width(); ++x) {
+            count += links.pixelColor(x, y) == Qt::red;
+        }
+    }
+    QCOMPARE(count, 20 * 20);
 }
 
 void WithoutDisplayTest::snapshot_growsWithTheScaleFactor()

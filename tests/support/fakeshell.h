@@ -5,6 +5,8 @@
 #include <QHash>
 #include <QStringList>
 
+#include <utility>
+
 /// One screen with a bar of 30 points at its top, unless a test says otherwise.
 class FakeScreenSource final : public quib::ScreenSource {
 public:
@@ -102,6 +104,35 @@ public:
     void reveal(const QString& path) override { asked << QStringLiteral("reveal ") + path; }
 };
 
+/// Leaves every question open until the test answers it.
+class FakeIconSource final : public quib::IconSource {
+public:
+    struct Question {
+        QString path;
+        int pixels = 0;
+        Answer answer;
+    };
+
+    QList<Question> open;
+
+    void find(const QString& path, int pixels, Answer answer) override
+    {
+        open.append({path, pixels, std::move(answer)});
+    }
+    bool isBusy() const override { return !open.isEmpty(); }
+
+    /// With a square of that colour.
+    void answerAll(const QColor& color)
+    {
+        for (const auto& question : std::exchange(open, {})) {
+            QImage picture(question.pixels, question.pixels, QImage::Format_ARGB32_Premultiplied);
+            picture.fill(color);
+            question.answer(picture);
+        }
+        Q_EMIT settled();
+    }
+};
+
 class FakeStatusItem final : public quib::StatusItem {
 public:
     explicit FakeStatusItem(QStringList& asked)
@@ -170,6 +201,7 @@ struct FakeShell {
                             .desktop = std::make_unique<FakeDesktop>(),
                             .applications = std::make_unique<FakeAppCatalog>(),
                             .opener = std::make_unique<FakeOpener>(),
+                            .icons = std::make_unique<FakeIconSource>(),
                             .statusItem = std::make_unique<FakeStatusItem>(asked),
                             .loginItem = std::make_unique<FakeLoginItem>(),
                             .filePicker = std::make_unique<FakeFilePicker>()};
@@ -180,6 +212,7 @@ struct FakeShell {
     FakeDesktop& desktop = static_cast<FakeDesktop&>(*platform.desktop);
     FakeAppCatalog& applications = static_cast<FakeAppCatalog&>(*platform.applications);
     FakeOpener& opener = static_cast<FakeOpener&>(*platform.opener);
+    FakeIconSource& icons = static_cast<FakeIconSource&>(*platform.icons);
     FakeStatusItem& statusItem = static_cast<FakeStatusItem&>(*platform.statusItem);
     FakeLoginItem& loginItem = static_cast<FakeLoginItem&>(*platform.loginItem);
     FakeFilePicker& filePicker = static_cast<FakeFilePicker&>(*platform.filePicker);

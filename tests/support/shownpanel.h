@@ -3,6 +3,7 @@
 #include "app/notch/notchmodel.h"
 #include "app/notchpanel.h"
 #include "integrations/actions.h"
+#include "shortcuts/shortcuts.h"
 #include "support/fakecommands.h"
 #include "support/fakeshell.h"
 #include "support/workspace.h"
@@ -20,6 +21,8 @@ struct ShownPanel {
     FakePanelHost host{asked};
     FakeOpener opener;
     quib::Actions actions{opener};
+    quib::Shortcuts shortcuts;
+    FakeIconSource icons;
     FakeCommands commands;
     std::unique_ptr<quib::NotchPanel> window;
 
@@ -30,7 +33,9 @@ struct ShownPanel {
         model.setNotchSize({188, 37});
         window = std::make_unique<quib::NotchPanel>(quib::ViewContext{.model = model,
                                                                       .store = *workspace.store,
+                                                                      .shortcuts = shortcuts,
                                                                       .actions = actions,
+                                                                      .icons = icons,
                                                                       .commands = commands},
                                                     host);
         window->show();

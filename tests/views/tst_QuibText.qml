@@ -69,7 +69,14 @@ TestCase {
 
     function test_withAMinimumScaleItShrinksToFit() {
         const tight = createTemporaryObject(label, testCase, { size: 11, width: 20, minimumScale: 0.8 });
-        compare(laidOut(tight).fontInfo.pixelSize, 18);
+        const wide = createTemporaryObject(label, testCase, { size: 11, width: 500, minimumScale: 0.8 });
+        const nearly = createTemporaryObject(label, testCase, { size: 11, width: wide.implicitWidth * 0.9, minimumScale: 0.8 });
+        fuzzyCompare(laidOut(tight).scale, 0.4, 0.0001);
+        compare(laidOut(wide).scale, 0.5);
+        fuzzyCompare(laidOut(nearly).scale, 0.45, 0.0001);
+        verify(!laidOut(nearly).truncated);
+        compare(nearly.implicitHeight, wide.implicitHeight);
+        fuzzyCompare(laidOut(nearly).y, wide.implicitHeight * 0.05, 0.0001);
     }
 
     function test_severalLinesWhereTheyAreAllowed() {

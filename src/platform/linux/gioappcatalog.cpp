@@ -1,6 +1,7 @@
 #include "platform/linux/gioappcatalog.h"
 
 #include "platform/linux/gowned.h"
+#include "platform/linux/keyfile.h"
 
 #include <QCollator>
 #include <QFile>
@@ -107,19 +108,12 @@ std::optional<QString> GioAppCatalog::applicationNamed(const QString& name) cons
     return found == m_pathOfName->cend() ? std::nullopt : std::optional(*found);
 }
 
-/// Reads the file alone, for GIO's own list of entries may be locked by who waits for a slow one.
+/// Reads the file alone: GIO's own list of entries may be locked by who waits for a slow one.
 QString GioAppCatalog::nameOf(const QString& path) const
 {
-    const GKeyFileOwned entry(g_key_file_new());
-    if (g_key_file_load_from_file(entry.get(), QFile::encodeName(path).constData(), G_KEY_FILE_NONE,
-                                  nullptr)) {
-        const GText name(g_key_file_get_locale_string(
-            entry.get(), G_KEY_FILE_DESKTOP_GROUP, G_KEY_FILE_DESKTOP_KEY_NAME, nullptr, nullptr));
-        if (name) {
-            return QString::fromUtf8(name.get());
-        }
-    }
-    return QFileInfo(path).completeBaseName();
+    const auto name = KeyFile(path).textInOurLanguage(QLatin1String(G_KEY_FILE_DESKTOP_GROUP),
+                                                      G_KEY_FILE_DESKTOP_KEY_NAME);
+    return name.isEmpty() ? QFileInfo(path).completeBaseName() : name;
 }
 
 QList<Application> GioAppCatalog::applications() const

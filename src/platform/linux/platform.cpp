@@ -3,18 +3,33 @@
 #include "platform/linux/autostartentry.h"
 #include "platform/linux/gioappcatalog.h"
 #include "platform/linux/gioopener.h"
+#include "platform/linux/iconthemechoice.h"
 #include "platform/linux/linuxinstance.h"
 #include "platform/linux/mprisplayerlink.h"
 #include "platform/linux/pickerprogram.h"
 #include "platform/linux/portaldesktop.h"
 #include "platform/linux/quitsignals.h"
+#include "platform/linux/sessionbus.h"
 #include "platform/linux/statusnotifier.h"
+#include "platform/linux/themeiconsource.h"
 #include "platform/linux/x11/xcbpanelhost.h"
 #include "platform/linux/x11/xcbpointersource.h"
 #include "platform/linux/x11/xcbscreensource.h"
 #include "platform/linux/x11/xserver.h"
 
 namespace quib {
+
+namespace {
+
+std::unique_ptr<IconSource> makeIcons()
+{
+    auto icons = std::make_unique<ThemeIconSource>();
+    auto* choice = new IconThemeChoice(sessionBus(), icons.get());
+    QObject::connect(choice, &IconThemeChoice::told, icons.get(), &ThemeIconSource::setTheme);
+    return icons;
+}
+
+} // namespace
 
 bool hasDisplay()
 {
@@ -41,7 +56,8 @@ Platform makePlatformWithoutDisplay()
 {
     return {.desktop = std::make_unique<PortalDesktop>(),
             .applications = std::make_unique<GioAppCatalog>(),
-            .opener = std::make_unique<GioOpener>()};
+            .opener = std::make_unique<GioOpener>(),
+            .icons = makeIcons()};
 }
 
 } // namespace quib

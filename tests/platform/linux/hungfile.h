@@ -22,6 +22,8 @@ public:
     Q_DISABLE_COPY_MOVE(HungFile)
 
     bool isHung() const { return m_isHung; }
+    /// That somebody waits to open it.
+    bool isWaitedFor() const { return fcntl(m_file, F_GETLEASE) != F_WRLCK; }
 
 private:
     int m_file;

@@ -53,6 +53,7 @@ void PlatformTest::makePlatform_makesEverySeam()
     QVERIFY(platform.desktop);
     QVERIFY(platform.applications);
     QVERIFY(platform.player);
+    QVERIFY(platform.icons);
     QVERIFY(platform.quitSignals);
 }
 
@@ -62,6 +63,7 @@ void PlatformTest::makePlatformWithoutDisplay_makesWhatNeedsNone()
 
     QVERIFY(platform.desktop);
     QVERIFY(platform.applications);
+    QVERIFY(platform.icons);
     QVERIFY(!platform.screens);
     QVERIFY(!platform.panelHost);
     QVERIFY(!platform.instance);

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+namespace quib {
+
+/// The picture in a file, scaled to fit the middle of a square of so many pixels. Null when the
+/// file is no picture, or one that would take too long or too much memory.
+QImage readIcon(const QString& path, int pixels);
+
+} // namespace quib

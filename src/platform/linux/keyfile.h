@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <glib.h>
+
+#include <memory>
+#include <optional>
+
+namespace quib {
+
+/// All of a regular file; absent when it is none, can't be read or is larger than that.
+std::optional<QByteArray> smallFile(const QString& path, qint64 largest);
+
+/// The groups and keys of a desktop entry, or of the index of a theme. A file that is none has
+/// none.
+class KeyFile {
+public:
+    explicit KeyFile(const QString& path);
+
+    QString text(const QString& group, const char* key) const; ///< Empty where there is none.
+    QString textInOurLanguage(const QString& group, const char* key) const;
+    /// The parts between commas.
+    QStringList list(const QString& group, const char* key) const;
+    int number(const QString& group, const char* key, int otherwise) const;
+
+private:
+    struct Freed {
+        void operator()(GKeyFile* file) const { g_key_file_free(file); }
+    };
+
+    std::unique_ptr<GKeyFile, Freed> m_file;
+};
+
+} // namespace quib

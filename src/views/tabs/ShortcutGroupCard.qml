@@ -1,0 +1,136 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Quib.Views
+
+/*!
+    One group of shortcuts: its title, and as many columns of buttons as fit. One button is the stop of
+    the keyboard, and the arrows lead to the others.
+*/
+FocusScope {
+    id: root
+
+    required property string title
+    required property color tint
+    required property bool gold
+    required property shortcutGroup group
+    required property IconSource icons
+
+    readonly property real gap: 6
+    readonly property real smallestButton: 136
+    readonly property int columns: Math.max(1, Math.floor((width + root.gap) / (root.smallestButton + root.gap)))
+
+    signal opened(url: string)
+    signal editClicked
+
+    function step(by) {
+        const row = grid.currentIndex + by;
+        if (row >= 0 && row < grid.count) {
+            grid.currentIndex = row;
+            grid.positionViewAtIndex(row, GridView.Contain);
+            (grid.currentItem as Cell).focusButton();
+        }
+    }
+
+    Item {
+        id: header
+
+        objectName: "header"
+        anchors.left: parent.left
+        anchors.right: parent.right
+        height: pencil.height
+
+        SectionLabel {
+            objectName: "title"
+            anchors.left: parent.left
+            anchors.right: pencil.left
+            anchors.rightMargin: 6
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.title
+            elide: Text.ElideRight
+        }
+
+        IconButton {
+            id: pencil
+
+            objectName: "edit"
+            anchors.right: parent.right
+            symbol: "pencil"
+            size: 10
+            help: "Edit shortcuts (opens shortcuts.json)"
+
+            onClicked: root.editClicked()
+        }
+    }
+
+    // Half a gap lies around each button, so that the ring of the keyboard has room at the edges.
+    GridView {
+        id: grid
+
+        objectName: "buttons"
+        anchors.left: parent.left
+        anchors.leftMargin: -root.gap / 2
+        anchors.top: header.bottom
+        anchors.topMargin: 8 - root.gap / 2
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: -root.gap / 2
+        width: root.width + root.gap + 1 // Or a fraction too little would cost a column.
+        cellWidth: (root.width + root.gap) / root.columns
+        cellHeight: 36 + root.gap
+        clip: true
+        focus: true
+        boundsBehavior: Flickable.StopAtBounds
+        highlightFollowsCurrentItem: false
+        interactive: contentHeight > height
+        keyNavigationEnabled: false
+        Accessible.role: Accessible.List
+        Accessible.name: root.title
+
+        model: ShortcutButtonModel {
+            group: root.group
+        }
+
+        delegate: Cell {}
+
+        Keys.onLeftPressed: root.step(-1)
+        Keys.onRightPressed: root.step(1)
+        Keys.onUpPressed: root.step(-root.columns)
+        Keys.onDownPressed: root.step(root.columns)
+    }
+
+    component Cell: FocusScope {
+        id: cell
+
+        required property string name
+        required property string symbol
+        required property string application
+        required property string url
+
+        width: grid.cellWidth
+        height: grid.cellHeight
+
+        function focusButton() {
+            button.forceActiveFocus(Qt.TabFocusReason);
+        }
+
+        BigShortcutButton {
+            id: button
+
+            objectName: "shortcut"
+            anchors.fill: parent
+            anchors.margins: root.gap / 2
+            focus: true
+            focusPolicy: cell.GridView.isCurrentItem || activeFocus ? Qt.TabFocus : Qt.NoFocus
+            name: cell.name
+            symbol: cell.symbol
+            application: cell.application
+            url: cell.url
+            tint: root.tint
+            gold: root.gold
+            icons: root.icons
+
+            onClicked: root.opened(cell.url)
+        }
+    }
+}
