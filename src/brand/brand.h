@@ -41,6 +41,8 @@ public:
     static QColor gold() { return {245, 197, 66}; }
     /// Of what ends or deletes something.
     static QColor red() { return {255, 69, 58}; }
+    /// Of a calendar without a colour.
+    static QColor systemPurple() { return {191, 90, 242}; }
 
     /// The colour that a word means, in any case: "purple", "gold" or six hexadecimal digits with
     /// or without "#" around them. Glow for no word and for any other.

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "integrations/calendarstore.h"
+#include "model/clock.h"
+
+#include <QTimeZone>
+
+namespace quib {
+
+/// Today's events, and whether the program may read them. The authorisation is read once, at the
+/// start; afterwards only requestAccess() changes it. There is no timer: an event that ends stays
+/// listed until the calendars change.
+class CalendarController : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(Access access READ access NOTIFY accessChanged)
+
+public:
+    enum class Access { Unknown, Granted, Denied };
+    Q_ENUM(Access)
+
+    struct Event {
+        QString id;
+        QString title;
+        QDateTime start;
+        QDateTime end;
+        bool allDay = false;
+        QColor color;
+
+        bool operator==(const Event&) const = default;
+    };
+
+    /// The store is borrowed and outlives this; null where there are no calendars to ask for.
+    explicit CalendarController(CalendarStore* store, Clock clock = systemClock,
+                                const QTimeZone& timeZone = QTimeZone::systemTimeZone(),
+                                QObject* parent = nullptr);
+
+    /// By start. All of today's that have not ended, and those of the whole day.
+    const QList<Event>& events() const { return m_events; }
+    Access access() const { return m_access; }
+
+    Q_INVOKABLE void requestAccess();
+    /// Does nothing without access. The events stay as they are until the calendars have answered.
+    void reload();
+
+Q_SIGNALS:
+    void eventsChanged();
+    void accessChanged();
+
+private:
+    void take(CalendarAuthorization authorization);
+    void setAccess(Access access);
+    void show(QList<CalendarEntry> entries);
+
+    CalendarStore* m_store;
+    Clock m_clock;
+    QTimeZone m_timeZone;
+    QList<Event> m_events;
+    Access m_access = Access::Unknown;
+    bool m_wasAnswered = false; ///< By the user, which counts more than what was read.
+    int m_reloads = 0; ///< Tells the answer to the last one from those that come too late.
+};
+
+} // namespace quib
