@@ -9,6 +9,7 @@
 #include "app/notch/singleinstance.h"
 #include "app/notch/statusitem.h"
 #include "integrations/appcatalog.h"
+#include "integrations/calendarstore.h"
 #include "integrations/opener.h"
 
 #include <memory>
@@ -24,6 +25,7 @@ struct Platform {
     std::unique_ptr<Desktop> desktop;
     std::unique_ptr<AppCatalog> applications;
     std::unique_ptr<Opener> opener;
+    std::unique_ptr<CalendarStore> calendar;
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<FilePicker> filePicker;

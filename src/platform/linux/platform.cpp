@@ -1,6 +1,7 @@
 #include "platform/platform.h"
 
 #include "platform/linux/autostartentry.h"
+#include "platform/linux/edscalendarstore.h"
 #include "platform/linux/gioappcatalog.h"
 #include "platform/linux/gioopener.h"
 #include "platform/linux/linuxinstance.h"
@@ -29,6 +30,7 @@ Platform makePlatform()
     platform.filePicker = std::make_unique<PickerProgram>(*panelHost);
     platform.panelHost = std::move(panelHost);
     platform.instance = std::make_unique<LinuxInstance>();
+    platform.calendar = std::make_unique<EdsCalendarStore>();
     platform.statusItem = std::make_unique<StatusNotifier>();
     platform.loginItem = std::make_unique<AutostartEntry>();
     platform.quitSignals = std::make_unique<QuitSignals>();

@@ -52,6 +52,7 @@ void PlatformTest::makePlatform_makesEverySeam()
     QVERIFY(platform.instance);
     QVERIFY(platform.desktop);
     QVERIFY(platform.applications);
+    QVERIFY(platform.calendar);
     QVERIFY(platform.quitSignals);
 }
 
@@ -64,6 +65,7 @@ void PlatformTest::makePlatformWithoutDisplay_makesWhatNeedsNone()
     QVERIFY(!platform.screens);
     QVERIFY(!platform.panelHost);
     QVERIFY(!platform.instance);
+    QVERIFY(!platform.calendar);
 }
 
 QTEST_MAIN(PlatformTest)
