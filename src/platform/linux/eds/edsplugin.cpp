@@ -1,24 +1,14 @@
-#include "platform/linux/eds/edscalendars.h"
-#include "platform/linux/eds/edsthread.h"
+#include "platform/linux/eds/edsplugin.h"
 
-#include <QObject>
+#include "platform/linux/eds/edsthread.h"
 
 #include <utility>
 
 namespace quib {
 
-class EdsPluginObject final : public QObject, public EdsPlugin {
-    Q_OBJECT
-    Q_PLUGIN_METADATA(IID "org.korvel.Quib.EdsPlugin")
-    Q_INTERFACES(quib::EdsPlugin)
-
-public:
-    std::unique_ptr<EdsCalendars> open(std::function<void()> changed) override
-    {
-        return std::make_unique<EdsThread>(std::move(changed));
-    }
-};
+std::unique_ptr<EdsCalendars> EdsPluginObject::open(std::function<void()> changed)
+{
+    return std::make_unique<EdsThread>(std::move(changed));
+}
 
 } // namespace quib
-
-#include "edsplugin.moc"
