@@ -2,8 +2,6 @@
 
 #include "platform/linux/consentfile.h"
 
-#include <QDBusError>
-#include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -32,6 +30,8 @@ const auto ApplicationId = u"org.korvel.Quib"_s;
 const auto Yes = u"yes"_s;
 const auto No = u"no"_s;
 
+// Milliseconds.
+constexpr int UsualPatience = -1; ///< The bus's own.
 constexpr int Forever = std::numeric_limits<int>::max(); ///< The user may think about it.
 
 // What the dialog answers. More than these stand for a dialog that was closed.
@@ -114,7 +114,7 @@ CalendarPermission::CalendarPermission(QDBusConnection bus)
 void CalendarPermission::read(CalendarStore::AuthorizationAnswer answer)
 {
     const auto message = storeCall(u"GetPermission"_s) << Table << Id << ApplicationId;
-    whenAnswered(m_bus.asyncCall(message), [this, answer](const QDBusPendingCall& call) {
+    send(message, UsualPatience, [this, answer](const QDBusPendingCall& call) {
         const QDBusPendingReply<QStringList> reply = call;
         answer(authorizationOf(isMissing(reply) ? readConsent() : consentOf(reply.value())));
     });
@@ -136,7 +136,7 @@ void CalendarPermission::askNextOf(QStringList backends)
         return;
     }
     const auto message = dialogOf(backends.takeFirst());
-    whenAnswered(m_bus.asyncCall(message, Forever), [this, backends](const QDBusPendingCall& call) {
+    send(message, Forever, [this, backends](const QDBusPendingCall& call) {
         const QDBusPendingReply<uint, QVariantMap> reply = call;
         if (isMissing(reply)) {
             askNextOf(backends);
@@ -152,7 +152,7 @@ void CalendarPermission::decide(bool isGranted)
 {
     const auto message = storeCall(u"SetPermission"_s)
         << Table << true << Id << ApplicationId << QStringList(isGranted ? Yes : No);
-    whenAnswered(m_bus.asyncCall(message), [this, isGranted](const QDBusPendingCall& call) {
+    send(message, UsualPatience, [this, isGranted](const QDBusPendingCall& call) {
         if (isMissing(call)) {
             writeConsent(isGranted);
         }
@@ -172,8 +172,11 @@ bool CalendarPermission::isMissing(const QDBusPendingCall& call) const
     return call.isError() && (!m_bus.isConnected() || meansNobody(call.error()));
 }
 
-void CalendarPermission::whenAnswered(const QDBusPendingCall& call, Then then)
+void CalendarPermission::send(const QDBusMessage& message, int patience, Then then)
 {
+    const auto call = m_bus.isConnected()
+        ? m_bus.asyncCall(message, patience)
+        : QDBusPendingCall::fromError(QDBusError(QDBusError::Disconnected, {}));
     auto* watcher = new QDBusPendingCallWatcher(call, this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, then = std::move(then)] {
         watcher->deleteLater();

@@ -3,6 +3,8 @@
 #include "integrations/calendarstore.h"
 
 #include <QDBusConnection>
+#include <QDBusError>
+#include <QDBusMessage>
 #include <QDBusPendingCall>
 
 #include <vector>
@@ -31,7 +33,7 @@ private:
     void answerAll(bool isGranted);
     /// That there is nobody who could have answered.
     bool isMissing(const QDBusPendingCall& call) const;
-    void whenAnswered(const QDBusPendingCall& call, Then then);
+    void send(const QDBusMessage& message, int patience, Then then);
 
     QDBusConnection m_bus;
     std::vector<CalendarStore::AccessAnswer> m_asking;
