@@ -138,7 +138,7 @@ void CalendarPermission::askNextOf(QStringList backends)
     const auto message = dialogOf(backends.takeFirst());
     send(message, Forever, [this, backends](const QDBusPendingCall& call) {
         const QDBusPendingReply<uint, QVariantMap> reply = call;
-        if (isMissing(reply)) {
+        if (reply.isError() && meansNobody(reply.error())) {
             askNextOf(backends);
         } else if (reply.isError() || reply.argumentAt<0>() > Refused) {
             answerAll(false); // What was not decided is not kept.

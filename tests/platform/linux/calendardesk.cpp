@@ -231,6 +231,15 @@ bool CalendarDesk::hasLoaded(const QString& library) const
     return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(library.toUtf8());
 }
 
+int CalendarDesk::connections() const
+{
+    const QStringList names = bus().interface()->registeredServiceNames();
+    return int(std::ranges::count_if(names, [this](const QString& name) {
+        return name.startsWith(u':')
+            && qint64(bus().interface()->servicePid(name)) == m_program.processId();
+    }));
+}
+
 bool CalendarDesk::quit()
 {
     send({u"quit"_s});

@@ -54,6 +54,7 @@ public:
     int changes(); ///< How often the program was told of changes so far.
     bool quit();
     bool hasLoaded(const QString& library) const;
+    int connections() const; ///< Of the program to the bus.
     QByteArray complaints() { return m_program.readAllStandardError(); }
 
     /// Changes calendars as another program does.

@@ -74,6 +74,7 @@ private Q_SLOTS:
     void ask_ofTheDesktopsOwnDialogFirst();
     void ask_backendWithoutDialog_isPassedOver();
     void ask_dialogCrashes_isNotGranted();
+    void ask_busDies_isNotGranted();
     void ask_twice_showsOneDialog();
     void ask_hungStore_isAnswered();
     void ask_noStore_isKeptInAFile_data();
@@ -263,6 +264,21 @@ void CalendarPermissionTest::ask_dialogCrashes_isNotGranted()
 
     QTRY_COMPARE(answer, false);
     QCOMPARE(read(), CalendarAuthorization::NotDetermined);
+}
+
+void CalendarPermissionTest::ask_busDies_isNotGranted()
+{
+    startBus();
+    m_dialog->staysOpen = true;
+    QVERIFY(m_dialog->start(address()));
+    std::optional<bool> answer;
+    m_permission->ask([&answer](bool isGranted) { answer = isGranted; });
+    QTRY_COMPARE(m_dialog->shownFor.size(), 1);
+
+    m_desk->killBus();
+
+    QTRY_COMPARE(answer, false);
+    QVERIFY(!QFile::exists(consentFile()));
 }
 
 void CalendarPermissionTest::ask_twice_showsOneDialog()

@@ -405,7 +405,7 @@ void EdsCalendarStoreTest::hungRegistry_holdsUpNeitherThePanelNorTheEnd()
 
     m_desk->send({u"read"_s, u"2026-03-02"_s});
 
-    QTRY_VERIFY(m_desk->hasLoaded(u"libecal"_s));
+    QTRY_COMPARE(m_desk->connections(), 2); // The second is the library's.
     QCOMPARE(m_desk->answerTo({u"alive"_s}), u"yes"_s);
     QVERIFY(!m_desk->hasAnswer(u"read"_s));
     QVERIFY(m_desk->quit());
