@@ -27,12 +27,12 @@ struct Platform {
     std::unique_ptr<Desktop> desktop;
     std::unique_ptr<AppCatalog> applications;
     std::unique_ptr<Opener> opener;
+    std::unique_ptr<PlayerLink> player;
     std::unique_ptr<CalendarStore> calendar;
     std::unique_ptr<IconSource> icons;
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<FilePicker> filePicker;
-    std::unique_ptr<PlayerLink> player;
     /// Ends the event loop in order when the system asks the process to end.
     std::unique_ptr<QObject> quitSignals;
 };
@@ -44,8 +44,7 @@ bool hasDisplay();
 /// QGuiApplication on that desktop.
 Platform makePlatform();
 
-/// What remains where nothing is shown: `desktop`, `applications`, `opener` and `icons`; the rest
-/// is null.
+/// What remains where nothing is shown: from `desktop` to `icons`; the rest is null.
 Platform makePlatformWithoutDisplay();
 
 } // namespace quib

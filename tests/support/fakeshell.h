@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "support/fakecalendarstore.h"
+#include "support/fakeplayerlink.h"
 
 #include <QHash>
 #include <QStringList>
@@ -201,6 +203,8 @@ struct FakeShell {
                             .desktop = std::make_unique<FakeDesktop>(),
                             .applications = std::make_unique<FakeAppCatalog>(),
                             .opener = std::make_unique<FakeOpener>(),
+                            .player = std::make_unique<FakePlayerLink>(),
+                            .calendar = std::make_unique<FakeCalendarStore>(),
                             .icons = std::make_unique<FakeIconSource>(),
                             .statusItem = std::make_unique<FakeStatusItem>(asked),
                             .loginItem = std::make_unique<FakeLoginItem>(),
@@ -212,6 +216,8 @@ struct FakeShell {
     FakeDesktop& desktop = static_cast<FakeDesktop&>(*platform.desktop);
     FakeAppCatalog& applications = static_cast<FakeAppCatalog&>(*platform.applications);
     FakeOpener& opener = static_cast<FakeOpener&>(*platform.opener);
+    FakePlayerLink& player = static_cast<FakePlayerLink&>(*platform.player);
+    FakeCalendarStore& calendar = static_cast<FakeCalendarStore&>(*platform.calendar);
     FakeIconSource& icons = static_cast<FakeIconSource&>(*platform.icons);
     FakeStatusItem& statusItem = static_cast<FakeStatusItem&>(*platform.statusItem);
     FakeLoginItem& loginItem = static_cast<FakeLoginItem&>(*platform.loginItem);

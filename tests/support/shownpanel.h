@@ -3,6 +3,8 @@
 #include "app/notch/notchmodel.h"
 #include "app/notchpanel.h"
 #include "integrations/actions.h"
+#include "integrations/calendarcontroller.h"
+#include "integrations/mediacontroller.h"
 #include "shortcuts/shortcuts.h"
 #include "support/fakecommands.h"
 #include "support/fakeshell.h"
@@ -21,18 +23,25 @@ struct ShownPanel {
     FakePanelHost host{asked};
     FakeOpener opener;
     quib::Actions actions{opener};
+    FakePlayerLink player;
+    quib::MediaController media{player};
+    FakeCalendarStore calendars;
+    quib::CalendarController calendar;
     quib::Shortcuts shortcuts;
     FakeIconSource icons;
     FakeCommands commands;
     std::unique_ptr<quib::NotchPanel> window;
 
     explicit ShownPanel(const quib::QuibData& data = {}, quib::Store::Surroundings around = {})
-        : workspace(data, std::move(around))
+        : workspace(data, around)
+        , calendar(&calendars, around.clock, QTimeZone::utc())
     {
         model.setMotionReduced(true);
         model.setNotchSize({188, 37});
         window = std::make_unique<quib::NotchPanel>(quib::ViewContext{.model = model,
                                                                       .store = *workspace.store,
+                                                                      .media = media,
+                                                                      .calendar = calendar,
                                                                       .shortcuts = shortcuts,
                                                                       .actions = actions,
                                                                       .icons = icons,

@@ -1,6 +1,7 @@
 #include "platform/platform.h"
 
 #include "platform/linux/autostartentry.h"
+#include "platform/linux/edscalendarstore.h"
 #include "platform/linux/gioappcatalog.h"
 #include "platform/linux/gioopener.h"
 #include "platform/linux/iconthemechoice.h"
@@ -47,7 +48,6 @@ Platform makePlatform()
     platform.instance = std::make_unique<LinuxInstance>();
     platform.statusItem = std::make_unique<StatusNotifier>();
     platform.loginItem = std::make_unique<AutostartEntry>();
-    platform.player = std::make_unique<MprisPlayerLink>();
     platform.quitSignals = std::make_unique<QuitSignals>();
     return platform;
 }
@@ -57,6 +57,8 @@ Platform makePlatformWithoutDisplay()
     return {.desktop = std::make_unique<PortalDesktop>(),
             .applications = std::make_unique<GioAppCatalog>(),
             .opener = std::make_unique<GioOpener>(),
+            .player = std::make_unique<MprisPlayerLink>(),
+            .calendar = std::make_unique<EdsCalendarStore>(),
             .icons = makeIcons()};
 }
 

@@ -54,6 +54,7 @@ void PlatformTest::makePlatform_makesEverySeam()
     QVERIFY(platform.applications);
     QVERIFY(platform.player);
     QVERIFY(platform.icons);
+    QVERIFY(platform.calendar);
     QVERIFY(platform.quitSignals);
 }
 
@@ -63,11 +64,13 @@ void PlatformTest::makePlatformWithoutDisplay_makesWhatNeedsNone()
 
     QVERIFY(platform.desktop);
     QVERIFY(platform.applications);
+    QVERIFY(platform.opener);
+    QVERIFY(platform.player);
+    QVERIFY(platform.calendar);
     QVERIFY(platform.icons);
     QVERIFY(!platform.screens);
     QVERIFY(!platform.panelHost);
     QVERIFY(!platform.instance);
-    QVERIFY(!platform.player);
 }
 
 QTEST_MAIN(PlatformTest)

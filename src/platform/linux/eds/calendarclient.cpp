@@ -1,0 +1,132 @@
+#include "platform/linux/eds/calendarclient.h"
+
+#include "platform/linux/eds/instance.h"
+
+#include <QTimeZone>
+
+#include <array>
+#include <limits>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace quib {
+
+namespace {
+
+constexpr std::array ViewSignals{"objects-added", "objects-modified", "objects-removed"};
+
+/// Waiting for calendars elsewhere to be reached would take all of the given time without a
+/// network.
+constexpr auto NoWaiting = std::numeric_limits<guint32>::max();
+
+QByteArray queryFor(const Span& span)
+{
+    const auto moment
+        = [](const QDateTime& time) { return time.toUTC().toString(u"yyyyMMdd'T'HHmmss'Z'"_s); };
+    return u"(occur-in-time-range? (make-time \"%1\") (make-time \"%2\"))"_s
+        .arg(moment(span.from), moment(span.to))
+        .toLatin1();
+}
+
+/// What the callback of libecal collects into.
+struct Collection {
+    CalendarFacts facts;
+    Span span;
+    QList<CalendarEntry> entries;
+};
+
+gboolean collect(ICalComponent* event, ICalTime* start, ICalTime* end, gpointer data,
+                 GCancellable* cancellable, GError** /*error*/)
+{
+    auto* collection = static_cast<Collection*>(data);
+    const auto entry = entryOf({.event = event, .start = start, .end = end}, collection->facts);
+    if (entry && collection->span.has(*entry)) {
+        collection->entries.append(*entry);
+    }
+    return !g_cancellable_is_cancelled(cancellable);
+}
+
+/// Where times without a zone of their own are; null where the service does not know the system's.
+ICalTimezone* systemZone()
+{
+    return i_cal_timezone_get_builtin_timezone(QTimeZone::systemTimeZoneId().constData());
+}
+
+} // namespace
+
+std::unique_ptr<CalendarClient> CalendarClient::connect(ESource* source, const Span& watched,
+                                                        GCancellable* cancellable,
+                                                        Listener listener)
+{
+    auto* client = e_cal_client_connect_sync(source, E_CAL_CLIENT_SOURCE_TYPE_EVENTS, NoWaiting,
+                                             cancellable, nullptr);
+    if (client == nullptr) {
+        return nullptr;
+    }
+    std::unique_ptr<CalendarClient> connected(new CalendarClient(
+        GOwned<ECalClient>(E_CAL_CLIENT(client)), cancellable, std::move(listener)));
+    connected->watch(watched);
+    return connected;
+}
+
+CalendarClient::CalendarClient(GOwned<ECalClient> client, GCancellable* cancellable,
+                               Listener listener)
+    : m_client(std::move(client))
+    , m_cancellable(cancellable)
+    , m_listener(std::move(listener))
+{
+    g_signal_connect(m_client.get(), "backend-died", G_CALLBACK(die), this);
+}
+
+CalendarClient::~CalendarClient()
+{
+    if (m_view) {
+        g_signal_handlers_disconnect_by_data(m_view.get(), this);
+    }
+    g_signal_handlers_disconnect_by_data(m_client.get(), this);
+}
+
+QList<CalendarEntry> CalendarClient::read(const Span& span) const
+{
+    auto* zone = systemZone();
+    if (zone != nullptr) {
+        e_cal_client_set_default_timezone(m_client.get(), zone);
+    }
+    Collection collection{.facts = factsOf(e_client_get_source(E_CLIENT(m_client.get())), zone),
+                          .span = span,
+                          .entries = {}};
+    const auto searched = span.widened();
+    e_cal_client_generate_instances_sync(m_client.get(), searched.from.toSecsSinceEpoch(),
+                                         searched.to.toSecsSinceEpoch(), m_cancellable, collect,
+                                         &collection);
+    return collection.entries;
+}
+
+void CalendarClient::watch(const Span& span)
+{
+    ECalClientView* view = nullptr;
+    if (!e_cal_client_get_view_sync(m_client.get(), queryFor(span.widened()).constData(), &view,
+                                    m_cancellable, nullptr)) {
+        return;
+    }
+    m_view.reset(view);
+    const auto changed = [](ECalClientView*, gpointer, gpointer self) {
+        static_cast<CalendarClient*>(self)->m_listener.changed();
+    };
+    for (const auto* signal : ViewSignals) {
+        g_signal_connect(view, signal, G_CALLBACK(+changed), this);
+    }
+    // Without what is there already, which is read anyway.
+    e_cal_client_view_set_flags(view, E_CAL_CLIENT_VIEW_FLAGS_NONE, nullptr);
+    e_cal_client_view_start(view, nullptr);
+}
+
+void CalendarClient::die(EClient* /*client*/, gpointer self)
+{
+    auto* client = static_cast<CalendarClient*>(self);
+    client->m_isDead = true;
+    client->m_listener.died();
+}
+
+} // namespace quib

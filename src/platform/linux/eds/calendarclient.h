@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/linux/eds/span.h"
+#include "platform/linux/gowned.h"
+
+#include <QList>
+
+#include <libecal/libecal.h>
+
+#include <functional>
+#include <memory>
+
+namespace quib {
+
+/// One of the user's calendars, watched over a span of time.
+class CalendarClient {
+public:
+    /// Called on the loop of the thread that connected.
+    struct Listener {
+        std::function<void()> changed;
+        std::function<void()> died; ///< What reads this calendar has crashed.
+    };
+
+    /// Null where the calendar can't be opened.
+    static std::unique_ptr<CalendarClient> connect(ESource* source, const Span& watched,
+                                                   GCancellable* cancellable, Listener listener);
+
+    ~CalendarClient();
+    CalendarClient(const CalendarClient&) = delete;
+    CalendarClient& operator=(const CalendarClient&) = delete;
+
+    bool isDead() const { return m_isDead; }
+    QList<CalendarEntry> read(const Span& span) const;
+
+private:
+    CalendarClient(GOwned<ECalClient> client, GCancellable* cancellable, Listener listener);
+    void watch(const Span& span);
+    static void die(EClient* client, gpointer self);
+
+    GOwned<ECalClient> m_client;
+    GOwned<ECalClientView> m_view; ///< Null where the calendar can't be watched.
+    GCancellable* m_cancellable;
+    Listener m_listener;
+    bool m_isDead = false;
+};
+
+} // namespace quib

@@ -1,0 +1,131 @@
+#include "platform/linux/eds/calendarreader.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quib {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto Pause = 50ms; ///< Changes come in bursts.
+constexpr int MostDoublings = 10; ///< Of the pause before a service that crashes is tried again.
+
+constexpr std::array RegistrySignals{"source-added", "source-removed", "source-changed",
+                                     "source-enabled", "source-disabled"};
+
+/// Keeps the connection that the service is reached by: it would end us together with the bus.
+bool hasBus()
+{
+    static auto* const bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
+    if (bus != nullptr) {
+        g_dbus_connection_set_exit_on_close(bus, FALSE);
+    }
+    return bus != nullptr;
+}
+
+} // namespace
+
+CalendarReader::CalendarReader(GCancellable* cancellable, std::function<void()> changed)
+    : m_cancellable(cancellable)
+    , m_changed(std::move(changed))
+{
+}
+
+CalendarReader::~CalendarReader()
+{
+    if (m_registry) {
+        g_signal_handlers_disconnect_by_data(m_registry.get(), this);
+    }
+}
+
+QList<CalendarEntry> CalendarReader::read(const Span& span)
+{
+    if (!open()) {
+        return {};
+    }
+    watch(span);
+    QList<CalendarEntry> entries;
+    Clients kept;
+    auto* const sources
+        = e_source_registry_list_enabled(m_registry.get(), E_SOURCE_EXTENSION_CALENDAR);
+    for (auto* link = sources; link != nullptr; link = link->next) {
+        auto* source = static_cast<ESource*>(link->data);
+        if (auto* client = clientOf(source)) {
+            entries += client->read(span);
+            kept.insert(m_clients.extract(e_source_get_uid(source)));
+        }
+    }
+    g_list_free_full(sources, g_object_unref);
+    m_clients = std::move(kept);
+    return entries;
+}
+
+bool CalendarReader::open()
+{
+    if (m_registry) {
+        return true;
+    }
+    if (!hasBus()) {
+        return false;
+    }
+    m_registry.reset(e_source_registry_new_sync(m_cancellable, nullptr));
+    if (!m_registry) {
+        return false;
+    }
+    const auto changed = [](ESourceRegistry*, ESource* source, gpointer reader) {
+        if (e_source_has_extension(source, E_SOURCE_EXTENSION_CALENDAR)) {
+            static_cast<CalendarReader*>(reader)->announceIn(Pause);
+        }
+    };
+    for (const auto* signal : RegistrySignals) {
+        g_signal_connect(m_registry.get(), signal, G_CALLBACK(+changed), this);
+    }
+    return true;
+}
+
+void CalendarReader::watch(const Span& span)
+{
+    std::erase_if(m_clients, [](const auto& client) { return client.second->isDead(); });
+    if (m_span != span) {
+        m_clients.clear();
+        m_span = span;
+        m_deaths = 0;
+    }
+}
+
+CalendarClient* CalendarReader::clientOf(ESource* source)
+{
+    auto& client = m_clients[e_source_get_uid(source)];
+    if (!client) {
+        client = CalendarClient::connect(
+            source, m_span, m_cancellable,
+            {.changed = [this] { announceIn(Pause); }, .died = [this] { announceDeath(); }});
+    }
+    return client.get();
+}
+
+void CalendarReader::announceIn(std::chrono::milliseconds delay)
+{
+    if (m_announcement) {
+        return;
+    }
+    m_announcement.reset(g_timeout_source_new(static_cast<guint>(delay.count())));
+    const auto announce = [](gpointer data) -> gboolean {
+        auto* reader = static_cast<CalendarReader*>(data);
+        reader->m_announcement.reset();
+        reader->m_changed();
+        return G_SOURCE_REMOVE;
+    };
+    g_source_set_callback(m_announcement.get(), announce, this, nullptr);
+    g_source_attach(m_announcement.get(), g_main_context_get_thread_default());
+}
+
+void CalendarReader::announceDeath()
+{
+    announceIn(Pause * (1 << std::min(m_deaths, MostDoublings)));
+    ++m_deaths;
+}
+
+} // namespace quib

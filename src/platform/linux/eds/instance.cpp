@@ -1,0 +1,81 @@
+#include "platform/linux/eds/instance.h"
+
+#include "platform/linux/gowned.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace quib {
+
+namespace {
+
+/// Of "#rrggbbaa", which others write too, the opaque part: Qt reads "#aarrggbb".
+std::optional<QColor> colorNamed(const QString& name)
+{
+    const bool hasOpacity = name.size() == 9 && name.startsWith(u'#');
+    const QColor color(hasOpacity ? name.first(7) : name);
+    return color.isValid() ? std::optional(color) : std::nullopt;
+}
+
+QDateTime momentOf(ICalTime* time, ICalTimezone* floatingZone)
+{
+    if (i_cal_time_is_date(time)) {
+        return QDate(i_cal_time_get_year(time), i_cal_time_get_month(time),
+                     i_cal_time_get_day(time))
+            .startOfDay();
+    }
+    auto* zone = i_cal_time_get_timezone(time);
+    return QDateTime::fromSecsSinceEpoch(
+        i_cal_time_as_timet_with_zone(time, zone != nullptr ? zone : floatingZone));
+}
+
+std::optional<QString> titleOf(ICalComponent* event)
+{
+    const auto title = QString::fromUtf8(i_cal_component_get_summary(event));
+    return title.isEmpty() ? std::nullopt : std::optional(title);
+}
+
+/// The instances of a recurring event share its UID. Which one it is says the time that it was
+/// meant for, also when it has been moved.
+QString idOf(ICalComponent* event, const QString& calendar)
+{
+    auto id = calendar + u'/' + QString::fromUtf8(i_cal_component_get_uid(event));
+    const GOwned<ICalTime> meantFor(i_cal_component_get_recurrenceid(event));
+    if (meantFor && !i_cal_time_is_null_time(meantFor.get())) {
+        const GText time(i_cal_time_as_ical_string(meantFor.get()));
+        id += u'/' + QString::fromUtf8(time.get());
+    }
+    return id;
+}
+
+} // namespace
+
+CalendarFacts factsOf(ESource* calendar, ICalTimezone* floatingZone)
+{
+    auto* extension = e_source_get_extension(calendar, E_SOURCE_EXTENSION_CALENDAR);
+    const GText color(e_source_selectable_dup_color(E_SOURCE_SELECTABLE(extension)));
+    return {.id = QString::fromUtf8(e_source_get_uid(calendar)),
+            .color = colorNamed(QString::fromUtf8(color.get())),
+            .floatingZone = floatingZone};
+}
+
+std::optional<CalendarEntry> entryOf(const Instance& instance, const CalendarFacts& facts)
+{
+    if (i_cal_component_get_status(instance.event) == I_CAL_STATUS_CANCELLED) {
+        return std::nullopt;
+    }
+    const auto start = momentOf(instance.start, facts.floatingZone);
+    const auto end = momentOf(instance.end, facts.floatingZone);
+    if (!start.isValid() || !end.isValid()) {
+        return std::nullopt;
+    }
+    return CalendarEntry{.id = idOf(instance.event, facts.id),
+                         .title = titleOf(instance.event),
+                         .start = start,
+                         .end = std::max(start, end),
+                         .isAllDay = i_cal_time_is_date(instance.start) != FALSE,
+                         .color = facts.color};
+}
+
+} // namespace quib
