@@ -99,6 +99,7 @@ Card {
             Accessible.name: "Today's events"
 
             delegate: EventRow {
+                objectName: "event"
                 width: list.width
                 now: beat.now
             }
