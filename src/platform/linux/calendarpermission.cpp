@@ -114,7 +114,7 @@ CalendarPermission::CalendarPermission(QDBusConnection bus)
 void CalendarPermission::read(CalendarStore::AuthorizationAnswer answer)
 {
     const auto message = storeCall(u"GetPermission"_s) << Table << Id << ApplicationId;
-    send(message, UsualPatience, [this, answer](const QDBusPendingCall& call) {
+    send(message, UsualPatience, [this, answer = std::move(answer)](const QDBusPendingCall& call) {
         const QDBusPendingReply<QStringList> reply = call;
         answer(authorizationOf(isMissing(reply) ? readConsent() : consentOf(reply.value())));
     });
@@ -131,8 +131,7 @@ void CalendarPermission::ask(CalendarStore::AccessAnswer answer)
 void CalendarPermission::askNextOf(QStringList backends)
 {
     if (backends.isEmpty()) {
-        QMetaObject::invokeMethod(
-            this, [this] { decide(true); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &CalendarPermission::consent, Qt::QueuedConnection);
         return;
     }
     const auto message = dialogOf(backends.takeFirst());
@@ -146,6 +145,11 @@ void CalendarPermission::askNextOf(QStringList backends)
             decide(reply.argumentAt<0>() == Allowed);
         }
     });
+}
+
+void CalendarPermission::consent()
+{
+    decide(true);
 }
 
 void CalendarPermission::decide(bool isGranted)

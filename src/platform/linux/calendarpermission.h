@@ -29,6 +29,7 @@ private:
     using Then = std::function<void(const QDBusPendingCall&)>;
 
     void askNextOf(QStringList backends);
+    void consent();
     void decide(bool isGranted);
     void answerAll(bool isGranted);
     /// That there is nobody who could have answered.
