@@ -1,8 +1,8 @@
 #include "platform/linux/mprisplayerlink.h"
 #include "support/playerreply.h"
+#include "support/soundfile.h"
 
 #include <QDBusConnectionInterface>
-#include <QDataStream>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -46,27 +46,6 @@ namespace {
 const auto SoWhat = u"So What||Miles Davis||playing"_s;
 const auto BlueInGreen = u"Blue in Green||Bill Evans||playing"_s;
 
-QByteArray chunk(const QByteArray& name, const QByteArray& bytes)
-{
-    QByteArray size;
-    QDataStream out(&size, QIODevice::WriteOnly);
-    out.setByteOrder(QDataStream::LittleEndian);
-    out << quint32(bytes.size());
-    return name + size + bytes + QByteArray(bytes.size() % 2, '\0');
-}
-
-/// One byte for each sample, of one channel.
-QByteArray format()
-{
-    constexpr quint32 SamplesPerSecond = 8000;
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    out.setByteOrder(QDataStream::LittleEndian);
-    out << quint16(1) << quint16(1) << SamplesPerSecond << SamplesPerSecond << quint16(1)
-        << quint16(8);
-    return bytes;
-}
-
 } // namespace
 
 void RealPlayerTest::init()
@@ -90,17 +69,11 @@ void RealPlayerTest::cleanup()
     }
 }
 
-/// Two minutes of silence.
 QString RealPlayerTest::makeFile(const QString& name, const QByteArray& title,
                                  const QByteArray& artist) const
 {
-    const auto tags = "INFO" + chunk("INAM", title) + chunk("IART", artist);
-    const auto sound = QByteArray(120 * 8000, '\x80');
     auto path = m_folder->filePath(name);
-    QFile file(path);
-    file.open(QIODevice::WriteOnly);
-    file.write(chunk(
-        "RIFF", "WAVE" + chunk("fmt ", format()) + chunk("LIST", tags) + chunk("data", sound)));
+    writeSound(path, title, artist);
     return path;
 }
 

@@ -1,0 +1,196 @@
+#include "desk.h"
+
+#include "support/soundfile.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QTest>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+/// The first two tabs with a real player, a real calendar and a real file, on a desktop.
+class HomeTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void player_isShownAndPaused();
+    void hungPlayer_freezesNothing();
+    void calendar_isConnectedAndShown();
+    void website_isAddedByKeyboard();
+    void shortcuts_areReadAnewEachTime();
+};
+
+namespace {
+
+constexpr int LinksTab = 1;
+constexpr QPoint Artwork{455, 110};
+constexpr QPoint PlayPause{540, 234};
+constexpr QPoint ConnectCalendar{718, 97};
+constexpr QPoint FirstEvent{669, 90}; // Its bar.
+constexpr QPoint EditLaunch{1127, 276};
+constexpr QPoint AddWebsite{1097, 276};
+
+void writeFile(const QString& path, const QByteArray& bytes)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(bytes);
+    }
+}
+
+Program startPlayer(Desk& desk)
+{
+    const auto song = desk.folder(u"song.wav"_s);
+    writeSound(song, "So What", "Miles Davis");
+    return desk.start(u"mpv"_s,
+                      {u"--no-config"_s, u"--ao=null"_s, u"--no-video"_s, u"--really-quiet"_s,
+                       u"--script=/usr/lib/mpv-mpris/mpris.so"_s, song});
+}
+
+/// What the player says of itself on the desk's bus.
+QString playbackOf(Desk& desk)
+{
+    const auto asker = desk.start(
+        u"dbus-send"_s,
+        {u"--session"_s, u"--print-reply=literal"_s, u"--dest=org.mpris.MediaPlayer2.mpv"_s,
+         u"/org/mpris/MediaPlayer2"_s, u"org.freedesktop.DBus.Properties.Get"_s,
+         u"string:org.mpris.MediaPlayer2.Player"_s, u"string:PlaybackStatus"_s});
+    asker->waitForFinished();
+    return QString::fromLatin1(asker->readAllStandardOutput()).simplified().section(u' ', -1);
+}
+
+/// A calendar of the user's own with one event that lasts until the end of the day.
+void makeCalendar(const Desk& desk)
+{
+    writeFile(desk.folder(u".config/evolution/sources/work.source"_s),
+              "[Data Source]\nDisplayName=Work\nEnabled=true\nParent=local-stub\n\n"
+              "[Calendar]\nBackendName=local\nColor=#33d17a\nSelected=true\n");
+    const auto today = QDate::currentDate();
+    writeFile(desk.folder(u".local/share/evolution/calendar/work/calendar.ics"_s),
+              "BEGIN:VCALENDAR\nVERSION:2.0\nPRODID:-//Quib//tests//EN\nBEGIN:VEVENT\nUID:1\n"
+              "DTSTAMP:20200101T000000Z\nSUMMARY:Fair\nDTSTART;VALUE=DATE:"
+                  + today.toString(u"yyyyMMdd"_s).toLatin1() + "\nEND:VEVENT\nEND:VCALENDAR\n");
+}
+
+bool isGreen(const QColor& color)
+{
+    return color.green() > 150 && color.red() < 120;
+}
+
+bool hasPurple(const QImage& picture, const QRect& where)
+{
+    for (int y = where.top(); y <= where.bottom(); ++y) {
+        for (int x = where.left(); x <= where.right(); ++x) {
+            const auto color = picture.pixelColor(x, y);
+            if (color.blue() > 180 && color.red() > 80 && color.green() < 130) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+QByteArray shortcuts(const QByteArray& color)
+{
+    return "{\"groups\":[{\"title\":\"Work\",\"color\":\"" + color
+        + "\",\"buttons\":[{\"name\":\"Site\",\"icon\":\"globe\",\"url\":\"example.com\"}]}]}";
+}
+
+} // namespace
+
+void HomeTest::player_isShownAndPaused()
+{
+    Desk desk;
+    const auto player = startPlayer(desk);
+    QTRY_COMPARE_WITH_TIMEOUT(playbackOf(desk), u"Playing"_s, 15'000);
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+    QTRY_VERIFY(hasPurple(desk.picture(), {Artwork - QPoint(5, 20), QSize(50, 50)}));
+
+    desk.click(PlayPause);
+
+    QTRY_COMPARE_WITH_TIMEOUT(playbackOf(desk), u"Paused"_s, 10'000);
+    desk.click(PlayPause);
+    QTRY_COMPARE_WITH_TIMEOUT(playbackOf(desk), u"Playing"_s, 10'000);
+}
+
+void HomeTest::hungPlayer_freezesNothing()
+{
+    Desk desk;
+    const auto player = startPlayer(desk);
+    QTRY_COMPARE_WITH_TIMEOUT(playbackOf(desk), u"Playing"_s, 15'000);
+    const auto quib = desk.startQuib();
+    ::kill(pid_t(player->processId()), SIGSTOP);
+
+    desk.openWithPointer();
+
+    QVERIFY(desk.isExpanded());
+    desk.showTab(LinksTab);
+    desk.click(PlayPause);
+    desk.moveTo(Desk::FarAway);
+    QVERIFY(desk.waitForExpanded(false));
+    ::kill(pid_t(player->processId()), SIGCONT);
+}
+
+void HomeTest::calendar_isConnectedAndShown()
+{
+    Desk desk;
+    makeCalendar(desk);
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+    QTRY_VERIFY(hasPurple(desk.picture(), {ConnectCalendar - QPoint(5, 5), QSize(10, 10)}));
+
+    desk.click(ConnectCalendar);
+
+    QTRY_VERIFY_WITH_TIMEOUT(isGreen(desk.pixel(FirstEvent)), 20'000);
+}
+
+void HomeTest::website_isAddedByKeyboard()
+{
+    Desk desk;
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+
+    desk.click(EditLaunch);
+    desk.click(AddWebsite);
+    desk.key(u"Tab"_s);
+    desk.type(u"Shop.Example.COM/admin"_s);
+    desk.key(u"Return"_s);
+
+    const auto last = [&desk] {
+        const auto items = desk.data().value("launch"_L1).toArray();
+        return items.isEmpty() ? QJsonObject() : items.last().toObject();
+    };
+    QTRY_COMPARE(last().value("name"_L1).toString(), u"Shop.Example.COM"_s);
+    QCOMPARE(last().value("target"_L1).toString(), u"Shop.Example.COM/admin"_s);
+}
+
+void HomeTest::shortcuts_areReadAnewEachTime()
+{
+    Desk desk;
+    writeFile(desk.dataFolder() + u"/shortcuts.json"_s, shortcuts("purple"));
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+    desk.showTab(LinksTab);
+    const QPoint button(700, 98);
+    QTRY_VERIFY(desk.pixel(button) != QColor(Qt::black));
+    QVERIFY(!isGreen(desk.pixel(button)));
+
+    writeFile(desk.dataFolder() + u"/shortcuts.json"_s, shortcuts("#00ff00"));
+    desk.showTab(0);
+    desk.showTab(LinksTab);
+
+    const auto isTinted = [&] {
+        const auto color = desk.pixel(button);
+        return color.green() > color.red() + 20 && color.green() > color.blue() + 20;
+    };
+    QTRY_VERIFY(isTinted());
+}
+
+QTEST_GUILESS_MAIN(HomeTest)
+#include "tst_home.moc"
