@@ -5,6 +5,7 @@
 #include "app/notchpanel.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QImage>
@@ -24,7 +25,8 @@ namespace quib::Snapshot {
 namespace {
 
 constexpr auto SettlingTime = 400ms;
-constexpr auto LongestWait = 3s;
+constexpr auto LookingTime = 20ms;
+constexpr std::chrono::milliseconds LongestWait = 3s;
 
 /// The main loop of this mode: there is no other.
 void runLoop(std::chrono::milliseconds time)
@@ -37,16 +39,15 @@ void runLoop(std::chrono::milliseconds time)
     loop.exec();
 }
 
-/// Icons come when their files have been read. Patience ends before the user's does.
-void awaitIcons(const IconSource& icons)
+/// Icons and events come when others have answered. Patience ends before the user's does.
+void awaitAnswers(const AppDelegate& delegate)
 {
-    if (!icons.isBusy()) {
-        return;
+    QElapsedTimer waited;
+    waited.start();
+    while ((delegate.platform().icons->isBusy() || delegate.calendar().isReloading())
+           && !waited.hasExpired(LongestWait.count())) {
+        runLoop(LookingTime);
     }
-    QEventLoop loop;
-    QObject::connect(&icons, &IconSource::settled, &loop, &QEventLoop::quit);
-    QTimer::singleShot(LongestWait, &loop, &QEventLoop::quit);
-    loop.exec();
 }
 
 /// A panel that no window system knows of. Its render control is never initialised: the software
@@ -107,7 +108,7 @@ void run(const QString& folder, AppDelegate& delegate)
         delegate.model().setExpanded(true);
         OffscreenPanel panel(delegate.viewContext());
         runLoop(SettlingTime);
-        awaitIcons(*delegate.platform().icons);
+        awaitAnswers(delegate);
         panel.picture().save(QDir(folder).filePath(rawText(tab) + u".png"_s), "PNG");
     }
 }

@@ -77,6 +77,7 @@ void CalendarController::reload()
     }
     const auto today = m_clock().toTimeZone(m_timeZone).date();
     const auto tomorrow = today.addDays(1);
+    m_isReloading = true;
     m_store->readEntries(today.startOfDay(m_timeZone), tomorrow.startOfDay(m_timeZone),
                          [self = QPointer(this), reload = ++m_reloads](const auto& entries) {
                              if (self && self->m_reloads == reload) {
@@ -99,6 +100,7 @@ void CalendarController::take(CalendarAuthorization authorization)
 
 void CalendarController::setAccess(Access access)
 {
+    m_isReloading = false;
     ++m_reloads; // What was asked with the access of before comes too late.
     if (std::exchange(m_access, access) != access) {
         Q_EMIT accessChanged();
@@ -108,6 +110,7 @@ void CalendarController::setAccess(Access access)
 
 void CalendarController::show(QList<CalendarEntry> entries)
 {
+    m_isReloading = false;
     entries.removeIf([now = m_clock()](const CalendarEntry& entry) {
         return entry.end <= now && !entry.isAllDay;
     });
