@@ -12,12 +12,12 @@ FocusScope {
     property alias address: addressField.text
 
     signal accepted
-    signal left
+    signal abandoned
 
     implicitWidth: 110 + 6 + 210
     implicitHeight: nameField.implicitHeight
 
-    Keys.onEscapePressed: root.left()
+    Keys.onEscapePressed: root.abandoned()
 
     function clear() {
         root.name = "";

@@ -107,7 +107,7 @@ FocusScope {
             visible: root.adding
 
             onAccepted: root.addLink()
-            onLeft: root.stopAdding()
+            onAbandoned: root.stopAdding()
         }
 
         IconButton {
