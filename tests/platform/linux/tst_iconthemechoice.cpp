@@ -42,19 +42,28 @@ class IconThemeChoiceTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qDBusRegisterMetaType<Settings>(); }
+    static void initTestCase() { qDBusRegisterMetaType<Settings>(); }
+    void init() { m_portal = std::make_unique<ThemePortal>(); }
+    void cleanup();
     void theme_isThatOfThePortal();
     void portalThatComesLate_isAsked();
     void noPortal_tellsNothing();
     void otherSettings_tellNothing();
 
 private:
+    std::unique_ptr<ThemePortal> m_portal;
     const QString m_space = u"org.gnome.desktop.interface"_s;
 };
 
+void IconThemeChoiceTest::cleanup()
+{
+    m_portal->stop();
+    m_portal.reset();
+}
+
 void IconThemeChoiceTest::theme_isThatOfThePortal()
 {
-    ThemePortal portal;
+    auto& portal = *m_portal;
     portal.settings[m_space][u"icon-theme"_s] = u"Papirus"_s;
     portal.start();
     IconThemeChoice choice(QDBusConnection::sessionBus());
@@ -66,20 +75,18 @@ void IconThemeChoiceTest::theme_isThatOfThePortal()
 
     QTRY_COMPARE(told.size(), 1);
     QCOMPARE(told.takeFirst().at(0).toString(), u"breeze"_s);
-    portal.stop();
 }
 
 void IconThemeChoiceTest::portalThatComesLate_isAsked()
 {
     IconThemeChoice choice(QDBusConnection::sessionBus());
     QSignalSpy told(&choice, &IconThemeChoice::told);
-    ThemePortal portal;
+    auto& portal = *m_portal;
     portal.settings[m_space][u"icon-theme"_s] = u"Papirus"_s;
 
     portal.start();
 
     QTRY_COMPARE(told.size(), 1);
-    portal.stop();
 }
 
 void IconThemeChoiceTest::noPortal_tellsNothing()
@@ -98,7 +105,7 @@ void IconThemeChoiceTest::noPortal_tellsNothing()
 
 void IconThemeChoiceTest::otherSettings_tellNothing()
 {
-    ThemePortal portal;
+    auto& portal = *m_portal;
     portal.settings[m_space][u"cursor-theme"_s] = u"Papirus"_s;
     portal.start();
     IconThemeChoice choice(QDBusConnection::sessionBus());
@@ -109,7 +116,6 @@ void IconThemeChoiceTest::otherSettings_tellNothing()
 
     QTRY_COMPARE(told.size(), 1);
     QCOMPARE(told.front().at(0).toString(), u"last"_s);
-    portal.stop();
 }
 
 QTEST_GUILESS_MAIN(IconThemeChoiceTest)
