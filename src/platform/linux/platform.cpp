@@ -3,12 +3,10 @@
 #include "platform/linux/autostartentry.h"
 #include "platform/linux/gioappcatalog.h"
 #include "platform/linux/gioopener.h"
-#include "platform/linux/iconthemechoice.h"
 #include "platform/linux/linuxinstance.h"
 #include "platform/linux/pickerprogram.h"
 #include "platform/linux/portaldesktop.h"
 #include "platform/linux/quitsignals.h"
-#include "platform/linux/sessionbus.h"
 #include "platform/linux/statusnotifier.h"
 #include "platform/linux/themeiconsource.h"
 #include "platform/linux/x11/xcbpanelhost.h"
@@ -17,18 +15,6 @@
 #include "platform/linux/x11/xserver.h"
 
 namespace quib {
-
-namespace {
-
-std::unique_ptr<IconSource> makeIcons()
-{
-    auto icons = std::make_unique<ThemeIconSource>();
-    auto* choice = new IconThemeChoice(sessionBus(), icons.get());
-    QObject::connect(choice, &IconThemeChoice::told, icons.get(), &ThemeIconSource::setTheme);
-    return icons;
-}
-
-} // namespace
 
 bool hasDisplay()
 {
@@ -55,7 +41,7 @@ Platform makePlatformWithoutDisplay()
     return {.desktop = std::make_unique<PortalDesktop>(),
             .applications = std::make_unique<GioAppCatalog>(),
             .opener = std::make_unique<GioOpener>(),
-            .icons = makeIcons()};
+            .icons = std::make_unique<ThemeIconSource>()};
 }
 
 } // namespace quib
