@@ -49,7 +49,7 @@ struct LinksTab {
 
     void write(const QJsonArray& groups) const
     {
-        write(QJsonDocument({{QStringLiteral("groups"), groups}}).toJson());
+        write(QJsonDocument(QJsonObject{{QStringLiteral("groups"), groups}}).toJson());
     }
 
     /// Opens the tab, which reads the file; or closes it before and opens it again.

@@ -71,6 +71,12 @@ QImage decoded(QByteArray bytes, int pixels)
     return picture.isNull() ? picture : scaled(picture, pixels);
 }
 
+/// A packed drawing, which Qt would unpack however large it becomes.
+bool isPacked(const QByteArray& bytes)
+{
+    return bytes.startsWith("\x1f\x8b");
+}
+
 /// By its beginning: names may say anything.
 bool isMarkup(const QByteArray& bytes)
 {
@@ -83,7 +89,7 @@ bool isMarkup(const QByteArray& bytes)
 QImage readIcon(const QString& path, int pixels)
 {
     const auto bytes = smallFile(path, LargestFile);
-    if (!bytes) {
+    if (!bytes || isPacked(*bytes)) {
         return {};
     }
     return isMarkup(*bytes) ? drawn(*bytes, pixels) : decoded(*bytes, pixels);

@@ -4,13 +4,11 @@
 #include "platform/linux/edscalendarstore.h"
 #include "platform/linux/gioappcatalog.h"
 #include "platform/linux/gioopener.h"
-#include "platform/linux/iconthemechoice.h"
 #include "platform/linux/linuxinstance.h"
 #include "platform/linux/mprisplayerlink.h"
 #include "platform/linux/pickerprogram.h"
 #include "platform/linux/portaldesktop.h"
 #include "platform/linux/quitsignals.h"
-#include "platform/linux/sessionbus.h"
 #include "platform/linux/statusnotifier.h"
 #include "platform/linux/themeiconsource.h"
 #include "platform/linux/x11/xcbpanelhost.h"
@@ -19,18 +17,6 @@
 #include "platform/linux/x11/xserver.h"
 
 namespace quib {
-
-namespace {
-
-std::unique_ptr<IconSource> makeIcons()
-{
-    auto icons = std::make_unique<ThemeIconSource>();
-    auto* choice = new IconThemeChoice(sessionBus(), icons.get());
-    QObject::connect(choice, &IconThemeChoice::told, icons.get(), &ThemeIconSource::setTheme);
-    return icons;
-}
-
-} // namespace
 
 bool hasDisplay()
 {
@@ -59,7 +45,7 @@ Platform makePlatformWithoutDisplay()
             .opener = std::make_unique<GioOpener>(),
             .player = std::make_unique<MprisPlayerLink>(),
             .calendar = std::make_unique<EdsCalendarStore>(),
-            .icons = makeIcons()};
+            .icons = std::make_unique<ThemeIconSource>()};
 }
 
 } // namespace quib

@@ -29,7 +29,8 @@ FocusScope {
         if (row >= 0 && row < grid.count) {
             grid.currentIndex = row;
             grid.positionViewAtIndex(row, GridView.Contain);
-            (grid.currentItem as Cell).focusButton();
+            grid.forceLayout(); // It may have been too far away to be there.
+            (grid.currentItem as ShortcutCell).focusButton();
         }
     }
 
@@ -91,46 +92,21 @@ FocusScope {
             group: root.group
         }
 
-        delegate: Cell {}
+        delegate: ShortcutCell {
+            width: grid.cellWidth
+            height: grid.cellHeight
+            gap: root.gap
+            isStop: GridView.isCurrentItem
+            tint: root.tint
+            gold: root.gold
+            icons: root.icons
+
+            onOpened: root.opened(url)
+        }
 
         Keys.onLeftPressed: root.step(-1)
         Keys.onRightPressed: root.step(1)
         Keys.onUpPressed: root.step(-root.columns)
         Keys.onDownPressed: root.step(root.columns)
-    }
-
-    component Cell: FocusScope {
-        id: cell
-
-        required property string name
-        required property string symbol
-        required property string application
-        required property string url
-
-        width: grid.cellWidth
-        height: grid.cellHeight
-
-        function focusButton() {
-            button.forceActiveFocus(Qt.TabFocusReason);
-        }
-
-        BigShortcutButton {
-            id: button
-
-            objectName: "shortcut"
-            anchors.fill: parent
-            anchors.margins: root.gap / 2
-            focus: true
-            focusPolicy: cell.GridView.isCurrentItem || activeFocus ? Qt.TabFocus : Qt.NoFocus
-            name: cell.name
-            symbol: cell.symbol
-            application: cell.application
-            url: cell.url
-            tint: root.tint
-            gold: root.gold
-            icons: root.icons
-
-            onClicked: root.opened(cell.url)
-        }
     }
 }

@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 import Quib.Brand
+import Quib.Notch
 import Quib.Views
 
 /*!
