@@ -27,12 +27,12 @@ private Q_SLOTS:
 namespace {
 
 constexpr int LinksTab = 1;
-constexpr QPoint Artwork{455, 110};
-constexpr QPoint PlayPause{540, 234};
-constexpr QPoint ConnectCalendar{718, 97};
-constexpr QPoint FirstEvent{669, 90}; // Its bar.
-constexpr QPoint EditLaunch{1127, 276};
-constexpr QPoint AddWebsite{1097, 276};
+constexpr QPoint Artwork{507, 107};
+constexpr QPoint PlayPause{569, 197};
+constexpr QPoint ConnectCalendar{748, 117};
+constexpr QPoint FirstEvent{691, 96}; // Its bar.
+constexpr QPoint EditLaunch{1114, 256};
+constexpr QPoint AddWebsite{1084, 256};
 
 void writeFile(const QString& path, const QByteArray& bytes)
 {

@@ -18,7 +18,7 @@ namespace quib {
 
 namespace {
 
-constexpr qint64 TellingBytes = 16 * 1024;
+constexpr qint64 TellingBytes = 16'384;
 
 QImage themed(const QStringList& names, const PictureWish& wish)
 {

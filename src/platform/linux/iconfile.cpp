@@ -14,8 +14,8 @@ namespace quib {
 
 namespace {
 
-constexpr qint64 LargestFile = 4 * 1024 * 1024;
-constexpr qint64 LargestDrawing = 1024 * 1024;
+constexpr qint64 LargestFile = 4'000'000;
+constexpr qint64 LargestDrawing = 1'000'000;
 constexpr int LongestSide = 4096;
 
 QImage clearSquare(int pixels)

@@ -125,7 +125,7 @@ QString nearest(const Theme& theme, const QString& name, int pixels)
             continue;
         }
         for (const auto& place : theme.places) {
-            if (const auto file = pictureIn(place + u'/' + folder.path, name); !file.isEmpty()) {
+            if (auto file = pictureIn(place + u'/' + folder.path, name); !file.isEmpty()) {
                 best = {.file = file, .distance = far};
                 break;
             }
@@ -160,12 +160,12 @@ QString findOne(const QString& name, int pixels, const std::vector<Theme>& theme
                 const QStringList& roots)
 {
     for (const auto& theme : themes) {
-        if (const auto file = nearest(theme, name, pixels); !file.isEmpty()) {
+        if (auto file = nearest(theme, name, pixels); !file.isEmpty()) {
             return file;
         }
     }
     for (const auto& root : roots) {
-        if (const auto file = pictureIn(root, name); !file.isEmpty()) {
+        if (auto file = pictureIn(root, name); !file.isEmpty()) {
             return file;
         }
     }
@@ -201,7 +201,7 @@ QString findIcon(const QStringList& names, int pixels, const IconPlaces& places)
         if (name.isEmpty() || name.contains(u'/')) {
             continue; // No name could lead out of the themes.
         }
-        if (const auto file = findOne(name, pixels, themes, places.roots); !file.isEmpty()) {
+        if (auto file = findOne(name, pixels, themes, places.roots); !file.isEmpty()) {
             return file;
         }
     }

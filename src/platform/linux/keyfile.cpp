@@ -9,7 +9,7 @@ namespace quib {
 
 namespace {
 
-constexpr qint64 LargestKeyFile = 1024 * 1024;
+constexpr qint64 LargestKeyFile = 1'000'000;
 
 } // namespace
 

@@ -1,5 +1,7 @@
 #include "platform/linux/themeiconsource.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QTimer>
 
 #include <condition_variable>
@@ -7,6 +9,7 @@
 #include <mutex>
 #include <thread>
 #include <utility>
+#include <vector>
 
 using namespace std::chrono_literals;
 
@@ -41,10 +44,17 @@ public:
     {
         const std::scoped_lock lock(m_mutex);
         --m_expected;
+        m_letters.push_back(std::move(letter));
         if (m_owner) {
-            QMetaObject::invokeMethod(m_owner, std::move(letter), Qt::QueuedConnection);
+            QCoreApplication::postEvent(m_owner, new QEvent(QEvent::User)); // Which Qt takes.
         }
         m_posted.notify_all();
+    }
+
+    std::vector<std::function<void()>> take()
+    {
+        const std::scoped_lock lock(m_mutex);
+        return std::exchange(m_letters, {});
     }
 
     /// Lets those that are about to end do so: the program may be ending around them.
@@ -59,6 +69,7 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_posted;
     ThemeIconSource* m_owner;
+    std::vector<std::function<void()>> m_letters;
     qsizetype m_expected = 0;
 };
 
@@ -99,6 +110,13 @@ void ThemeIconSource::setTheme(const QString& name)
     if (m_theme != name) {
         m_theme = name;
         Q_EMIT changed();
+    }
+}
+
+void ThemeIconSource::customEvent(QEvent* /*event*/)
+{
+    for (const auto& letter : m_letterbox->take()) {
+        letter();
     }
 }
 

@@ -31,6 +31,10 @@ public:
     /// The theme of the user's choice. One that is not installed counts as none.
     void setTheme(const QString& name);
 
+protected:
+    /// Threads have posted their answers.
+    void customEvent(QEvent* event) override;
+
 private:
     class Letterbox;
 
