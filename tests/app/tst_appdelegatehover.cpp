@@ -41,6 +41,8 @@ private Q_SLOTS:
     void expand_cancelsAPendingCollapse();
     void collapse_keepsTheTab();
     void expansion_takesClicksAndCollapseLetsThemThrough();
+    void expansion_asksThePlayerUntilTheCollapse();
+    void expansion_readsTheDayAnew();
 
 private:
     void move(const QString& path);
@@ -218,6 +220,38 @@ void AppDelegateHoverTest::expansion_takesClicksAndCollapseLetsThemThrough()
     QCOMPARE(m_quib->shell.asked,
              (QStringList{u"order front"_s, u"take clicks"_s, u"let clicks through"_s,
                           u"give back keyboard 0"_s}));
+}
+
+void AppDelegateHoverTest::expansion_asksThePlayerUntilTheCollapse()
+{
+    auto& delegate = m_quib->launched();
+    auto& player = m_quib->shell.player;
+    player.running = {Player::Spotify};
+    m_quib->hands.advance(5s);
+    QVERIFY(player.asked.isEmpty());
+
+    delegate.expand(false);
+    QCOMPARE(player.asked, QStringList{u"query Spotify"_s});
+    player.answer({});
+    m_quib->hands.advance(2s);
+    QCOMPARE(player.asked.size(), 2);
+    player.answer({});
+
+    delegate.collapse(true);
+    m_quib->hands.advance(5s);
+    QCOMPARE(player.asked.size(), 2);
+}
+
+void AppDelegateHoverTest::expansion_readsTheDayAnew()
+{
+    auto& delegate = m_quib->launched();
+    auto& calendar = m_quib->shell.calendar;
+    calendar.authorizations.front()(CalendarAuthorization::FullAccess);
+    const auto readings = calendar.readings.size();
+
+    delegate.expand(false);
+
+    QCOMPARE(calendar.readings.size(), readings + 1);
 }
 
 QTEST_MAIN(AppDelegateHoverTest)

@@ -18,6 +18,8 @@ private Q_SLOTS:
     void applicationNamed_data();
     void applicationNamed();
     void applicationNamed_userEntryHidesTheSystems();
+    void nameOf_isWhatTheUserReads();
+    void nameOf_noEntry_isTheFilesName();
     void applications_areThoseThatTheUserMaySee();
     void applications_areSortedAsTheUserReads();
     void applications_icon_data();
@@ -110,6 +112,24 @@ void GioAppCatalogTest::applicationNamed_userEntryHidesTheSystems()
     QVERIFY(!catalog.applicationNamed(u"Mail"_s));
     QCOMPARE(catalog.applicationNamed(u"Mail of mine"_s),
              m_folder.filePath(u"home/applications/mail.desktop"_s));
+}
+
+void GioAppCatalogTest::nameOf_isWhatTheUserReads()
+{
+    QCOMPARE(GioAppCatalog().nameOf(m_folder.filePath(u"system/applications/files.desktop"_s)),
+             u"Dateien"_s);
+}
+
+void GioAppCatalogTest::nameOf_noEntry_isTheFilesName()
+{
+    const auto path = m_folder.filePath(u"My Tool 2.5.desktop"_s);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("no entry at all");
+    file.close();
+
+    QCOMPARE(GioAppCatalog().nameOf(path), u"My Tool 2.5"_s);
+    QCOMPARE(GioAppCatalog().nameOf(u"/nowhere/Gone.app"_s), u"Gone"_s);
 }
 
 void GioAppCatalogTest::applications_areThoseThatTheUserMaySee()
