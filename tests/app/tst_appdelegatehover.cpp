@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
+using quib::CalendarAuthorization;
+using quib::Player;
 using quib::Tab;
 
 namespace {

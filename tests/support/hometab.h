@@ -29,7 +29,12 @@ struct HomeTab {
     {
         QTest::keyClick(panel.window.get(), Qt::Key(key), modifiers);
     }
-    void type(const QString& text) const { QTest::keyClicks(panel.window.get(), text); }
+    void type(const QByteArray& text) const
+    {
+        for (const auto letter : text) {
+            QTest::keyClick(panel.window.get(), letter);
+        }
+    }
 
     /// What the player that runs says when it is asked.
     void playerSays(quib::Player player, const QString& reply)

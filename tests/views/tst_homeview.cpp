@@ -337,7 +337,7 @@ void HomeViewTest::website_isAddedByKeyboard()
     QVERIFY(part(m_strip, u"linkFields"_s)->isVisible());
 
     m_tab->press(Qt::Key_Tab);
-    m_tab->type(u"Shop.Example.COM/admin"_s);
+    m_tab->type("Shop.Example.COM/admin");
     m_tab->press(Qt::Key_Return);
 
     const auto& item = m_tab->store().data().launch.back();
@@ -351,7 +351,7 @@ void HomeViewTest::website_withoutAddress_addsNothing()
 {
     startAdding();
 
-    m_tab->type(u"A name"_s);
+    m_tab->type("A name");
     m_tab->press(Qt::Key_Return);
 
     QVERIFY(m_tab->store().data().launch.isEmpty());
