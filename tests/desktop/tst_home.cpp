@@ -177,7 +177,7 @@ void HomeTest::shortcuts_areReadAnewEachTime()
     const auto quib = desk.startQuib();
     desk.openWithPointer();
     desk.showTab(LinksTab);
-    const QPoint button(700, 98);
+    const QPoint button(600, 98);
     QTRY_VERIFY(desk.pixel(button) != QColor(Qt::black));
     QVERIFY(!isGreen(desk.pixel(button)));
 

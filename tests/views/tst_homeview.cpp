@@ -293,7 +293,7 @@ void HomeViewTest::launch_opensItsTarget()
 
     click(m_strip, u"launch"_s);
 
-    QCOMPARE(m_tab->panel.opener.asked, QStringList{u"address https://mail.example"_s});
+    QCOMPARE(m_tab->panel.opener.asked, QStringList{u"browse https://mail.example"_s});
 }
 
 void HomeViewTest::editing_removesAnItem()

@@ -173,6 +173,7 @@ void HomeViewSizesTest::longTexts_stayInTheirPlaces()
     m_tab->store().startTimer(client, {});
     m_tab->panel.workspace.task(name);
     m_tab->launch(name, u"a.example"_s);
+    m_tab->panel.settle();
 
     const QList<QPair<QString, QString>> texts{{u"nowPlayingCard"_s, u"title"_s},
                                                {u"nowPlayingCard"_s, u"artist"_s},

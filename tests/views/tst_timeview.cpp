@@ -56,7 +56,7 @@ void TimeViewTest::showAnew(const QByteArray& how)
 {
     auto& model = m_tab->panel.model;
     if (how == "tab") {
-        model.setTab(Tab::Home);
+        model.setTab(Tab::Tasks);
         model.setTab(Tab::Time);
         return;
     }
