@@ -64,10 +64,8 @@ FocusScope {
         Accessible.role: Accessible.List
         Accessible.name: "Quick launch"
 
-        WheelHandler {
-            target: null
-
-            onWheel: event => list.flick(8 * (event.angleDelta.y + event.angleDelta.x), 0)
+        SidewaysWheel {
+            flickable: list
         }
 
         // The badges stand out of the buttons.

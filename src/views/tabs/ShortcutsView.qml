@@ -95,11 +95,9 @@ FocusScope {
             contentX = Math.max(box.x + box.width - width, Math.min(contentX, box.x));
         }
 
-        WheelHandler {
-            target: null
+        SidewaysWheel {
+            flickable: boxes
             enabled: boxes.interactive
-
-            onWheel: event => boxes.flick(8 * (event.angleDelta.y + event.angleDelta.x), 0)
         }
 
         Row {
