@@ -43,7 +43,7 @@ PlainButton {
             Symbol {
                 objectName: "symbol"
                 anchors.centerIn: parent
-                visible: name !== ""
+                visible: root.symbol !== ""
                 name: root.symbol
                 size: 13
                 weight: Font.DemiBold
@@ -54,7 +54,7 @@ PlainButton {
                 objectName: "application"
                 anchors.fill: parent
                 source: root.icons
-                path: root.symbol === "" ? root.application : ""
+                path: root.application
             }
         }
 

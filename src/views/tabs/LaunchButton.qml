@@ -42,7 +42,7 @@ FocusScope {
         }
 
         contentItem: Item {
-            implicitWidth: 16 + 7 + name.width
+            implicitWidth: 16 + 7 + nameText.width
             implicitHeight: 16
 
             Symbol {
@@ -64,7 +64,7 @@ FocusScope {
             }
 
             QuibText {
-                id: name
+                id: nameText
 
                 objectName: "name"
                 anchors.verticalCenter: parent.verticalCenter
