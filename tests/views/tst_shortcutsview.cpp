@@ -25,6 +25,7 @@ private Q_SLOTS:
     void noFile_showsTheStarterButtons();
     void noGroups_showsNothing();
     void brokenFile_keepsTheLastButtons();
+    void firstShowing_readsTheFileOnce();
     void shownAnew_readsTheFile_data();
     void shownAnew_readsTheFile();
     void editedFile_keepsWhatIsTheSame();
@@ -178,6 +179,16 @@ void ShortcutsViewTest::brokenFile_keepsTheLastButtons()
     m_links->show({LinksTab::group(u"Mended"_s, {})});
     QCOMPARE(m_links->titles(), QStringList{u"Mended"_s});
     QVERIFY(!m_links->item(u"problem"_s)->isVisible());
+}
+
+void ShortcutsViewTest::firstShowing_readsTheFileOnce()
+{
+    connect(&m_links->panel.shortcuts, &quib::Shortcuts::groupsChanged, this,
+            [this] { m_links->write({LinksTab::group(u"Written meanwhile"_s, {})}); });
+
+    m_links->show({LinksTab::group(u"One"_s, {})});
+
+    QCOMPARE(m_links->titles(), QStringList{u"One"_s});
 }
 
 void ShortcutsViewTest::shownAnew_readsTheFile_data()

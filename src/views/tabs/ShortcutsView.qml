@@ -23,15 +23,9 @@ FocusScope {
     readonly property real smallestBox: 136
     readonly property real boxWidth: Math.max(
         root.smallestBox, (boxes.width - root.boxGap * (groups.count - 1)) / Math.max(1, groups.count))
+    readonly property Shortcuts shownShortcuts: root.shown ? root.shortcuts : null
 
-    onShownChanged: root.reload()
-    Component.onCompleted: root.reload()
-
-    function reload() {
-        if (root.shown && root.shortcuts) {
-            root.shortcuts.reload();
-        }
-    }
+    onShownShortcutsChanged: root.shownShortcuts?.reload()
 
     ShortcutGroupModel {
         id: groups
