@@ -32,6 +32,8 @@ private Q_SLOTS:
     void twins_areBothShown();
     void keys_reachEverything();
     void keys_reachButtonsOutOfSight();
+    void keys_returnToAButtonScrolledAway_data();
+    void keys_returnToAButtonScrolledAway();
     void press_withThePointerShowsNoRing();
     void names_tellWhatPressingDoes();
     void help_isTheAddress();
@@ -301,6 +303,34 @@ void ShortcutsViewTest::keys_reachButtonsOutOfSight()
         QVERIFY2(area.contains(focusRect()), qPrintable(QString::number(number)));
     }
     QCOMPARE(focused(), u"Button 19"_s);
+}
+
+void ShortcutsViewTest::keys_returnToAButtonScrolledAway_data()
+{
+    QTest::addColumn<int>("pencil");
+    QTest::addColumn<int>("key");
+
+    QTest::addRow("Tab") << 0 << int(Qt::Key_Tab);
+    QTest::addRow("Backtab") << 1 << int(Qt::Key_Backtab);
+}
+
+void ShortcutsViewTest::keys_returnToAButtonScrolledAway()
+{
+    QFETCH(int, pencil);
+    QFETCH(int, key);
+    m_links->show({LinksTab::group(u"A"_s, LinksTab::buttons(60)),
+                   LinksTab::group(u"B"_s, LinksTab::buttons(1))});
+    auto* grid = m_links->part(0, u"buttons"_s);
+    QMetaObject::invokeMethod(grid, "positionViewAtEnd");
+    m_links->panel.settle();
+    QVERIFY(grid->property("contentY").toDouble() > 0);
+    m_links->part(pencil, u"edit"_s)->forceActiveFocus(Qt::TabFocusReason);
+
+    m_links->press(key);
+
+    QCOMPARE(focused(), u"Button 0"_s);
+    QVERIFY(ShownPanel::inScene(grid).contains(
+        ShownPanel::inScene(m_links->panel.window->activeFocusItem())));
 }
 
 void ShortcutsViewTest::press_withThePointerShowsNoRing()

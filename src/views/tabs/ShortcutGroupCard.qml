@@ -104,6 +104,8 @@ FocusScope {
             onOpened: root.opened(url)
         }
 
+        onActiveFocusChanged: if (activeFocus) positionViewAtIndex(currentIndex, GridView.Contain)
+
         Keys.onLeftPressed: root.step(-1)
         Keys.onRightPressed: root.step(1)
         Keys.onUpPressed: root.step(-root.columns)
