@@ -22,6 +22,8 @@ FocusScope {
     implicitWidth: capsule.implicitWidth
     implicitHeight: capsule.implicitHeight
 
+    onEditingChanged: if (!root.editing && badge.activeFocus) capsule.forceActiveFocus()
+
     PlainButton {
         id: capsule
 
@@ -80,6 +82,8 @@ FocusScope {
     }
 
     PlainButton {
+        id: badge
+
         objectName: "remove"
         anchors.right: parent.right
         anchors.rightMargin: -4

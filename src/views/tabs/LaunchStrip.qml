@@ -19,15 +19,25 @@ FocusScope {
     property bool editing: false
     property bool adding: false
 
+    onEditingChanged: if (!root.editing) root.stopEditing()
+
     function startAdding() {
         root.adding = true;
         root.commands.takeKeyboard();
-        fields.forceActiveFocus();
+        fields.start(addWebsite.visualFocus ? Qt.TabFocusReason : Qt.OtherFocusReason);
     }
 
+    // Only keys do.
     function stopAdding() {
         root.adding = false;
-        addWebsite.forceActiveFocus(); // Or keys would go nowhere.
+        addWebsite.forceActiveFocus(Qt.TabFocusReason); // Or keys would go nowhere.
+    }
+
+    function stopEditing() {
+        root.adding = false;
+        if (fields.activeFocus || addApplication.activeFocus || addWebsite.activeFocus) {
+            edit.forceActiveFocus(); // Or keys would go nowhere.
+        }
     }
 
     function addLink() {
@@ -37,8 +47,6 @@ FocusScope {
             list.positionViewAtEnd();
         }
     }
-
-    onEditingChanged: root.adding = false
 
     LaunchListModel {
         id: items
@@ -102,13 +110,15 @@ FocusScope {
 
             objectName: "linkFields"
             anchors.verticalCenter: parent.verticalCenter
-            visible: root.adding
+            visible: root.editing && root.adding
 
             onAccepted: root.addLink()
             onAbandoned: root.stopAdding()
         }
 
         IconButton {
+            id: addApplication
+
             objectName: "addApplication"
             anchors.verticalCenter: parent.verticalCenter
             visible: root.editing
