@@ -4,7 +4,8 @@ import Quib.Brand
 import Quib.Views
 
 /*!
-    One thing to launch, by its picture and name. While the strip is edited it can be taken away.
+    One thing to launch, by its picture and name. While the strip is edited it can be taken away, by
+    its badge or by a key.
 */
 FocusScope {
     id: root
@@ -15,14 +16,35 @@ FocusScope {
     required property string path
     required property IconSource icons
     required property bool editing
+    required property bool isStop
 
     signal opened
-    signal removed
+    signal removed(byKey: bool)
 
     implicitWidth: capsule.implicitWidth
     implicitHeight: capsule.implicitHeight
 
     onEditingChanged: if (!root.editing && badge.activeFocus) capsule.forceActiveFocus()
+
+    Keys.onDeletePressed: event => root.removeByKey(event)
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_Backspace) {
+            root.removeByKey(event);
+        }
+    }
+
+    function focusButton(reason) {
+        capsule.forceActiveFocus(reason);
+        capsule.focusReason = reason; // The list may have given it the focus without.
+    }
+
+    // A key that is held down takes one away.
+    function removeByKey(event) {
+        event.accepted = root.editing;
+        if (root.editing && !event.isAutoRepeat) {
+            root.removed(true);
+        }
+    }
 
     PlainButton {
         id: capsule
@@ -30,6 +52,7 @@ FocusScope {
         objectName: "launch"
         anchors.fill: parent
         focus: true
+        focusPolicy: root.isStop || activeFocus ? Qt.TabFocus : Qt.NoFocus
         implicitHeight: 30
         horizontalPadding: 12
         help: root.target
@@ -89,10 +112,11 @@ FocusScope {
         anchors.rightMargin: -4
         anchors.top: parent.top
         anchors.topMargin: -4
+        focusPolicy: Qt.NoFocus
         visible: root.editing
         Accessible.name: "Remove " + root.name
 
-        onClicked: root.removed()
+        onClicked: root.removed(false)
 
         contentItem: Symbol {
             objectName: "badge"

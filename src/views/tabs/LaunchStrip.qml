@@ -41,61 +41,32 @@ FocusScope {
     }
 
     function addLink() {
-        if (items.addLink(fields.name, fields.address)) {
+        if (launchItems.addLink(fields.name, fields.address)) {
             fields.clear();
             root.stopAdding();
-            list.positionViewAtEnd();
         }
     }
 
     LaunchListModel {
-        id: items
+        id: launchItems
 
         store: root.store
     }
 
-    ListView {
-        id: list
-
-        objectName: "items"
+    LaunchList {
+        objectName: "launchList"
         anchors.left: parent.left
         anchors.right: tools.left
         anchors.rightMargin: 8
         height: parent.height
         focus: true
-        orientation: ListView.Horizontal
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-        keyNavigationEnabled: false
-        spacing: 8
-        model: items
-        Accessible.role: Accessible.List
-        Accessible.name: "Quick launch"
+        items: launchItems
+        icons: root.icons
+        editing: root.editing
 
-        SidewaysWheel {
-            flickable: list
-        }
-
-        // The badges stand out of the buttons.
-        delegate: LaunchButton {
-            id: button
-
-            required property int index
-
-            objectName: "item"
-            y: (list.height - height) / 2
-            icons: root.icons
-            editing: root.editing
-
-            onActiveFocusChanged: if (activeFocus) list.positionViewAtIndex(index, ListView.Contain)
-            onOpened: root.actions.open(target)
-            onRemoved: {
-                if (activeFocus) {
-                    edit.forceActiveFocus(); // Or keys would go nowhere.
-                }
-                root.store.removeLaunchItem(itemID);
-            }
-        }
+        onOpened: target => root.actions.open(target)
+        onRemoved: itemID => root.store.removeLaunchItem(itemID)
+        onEmptied: reason => edit.forceActiveFocus(reason)
     }
 
     Row {
@@ -126,7 +97,7 @@ FocusScope {
             size: 12
             help: "Add an app"
 
-            onClicked: items.addApplication(root.commands)
+            onClicked: launchItems.addApplication(root.commands)
         }
 
         IconButton {
