@@ -36,6 +36,7 @@ private Q_SLOTS:
     void keys_returnToAButtonScrolledAway();
     void press_withThePointerShowsNoRing();
     void names_tellWhatPressingDoes();
+    void names_areCutWhereTheyAreEndless();
     void help_isTheAddress();
     void texts_arePlain();
 
@@ -356,8 +357,22 @@ void ShortcutsViewTest::names_tellWhatPressingDoes()
     QCOMPARE(button->text(QAccessible::Name), u"Open GitHub"_s);
     QCOMPARE(button->text(QAccessible::Description), u"https://github.com"_s);
     QCOMPARE(interface(m_links->part(0, u"edit"_s))->text(QAccessible::Name),
-             u"Edit shortcuts (opens shortcuts.json)"_s);
+             u"Edit the shortcuts of Work"_s);
     QCOMPARE(interface(m_links->part(0, u"buttons"_s))->text(QAccessible::Name), u"Work"_s);
+}
+
+void ShortcutsViewTest::names_areCutWhereTheyAreEndless()
+{
+    const QString endless(100'000, u'w');
+    m_links->show({LinksTab::group(endless, {LinksTab::button(endless, endless, u"star"_s)})});
+
+    for (auto* item :
+         {m_links->shortcut(0), m_links->part(0, u"edit"_s), m_links->part(0, u"buttons"_s)}) {
+        const auto* interface = QAccessible::queryAccessibleInterface(item);
+        QVERIFY(interface->text(QAccessible::Name).contains(u"www"_s));
+        QVERIFY(interface->text(QAccessible::Name).size() < 400);
+        QVERIFY(interface->text(QAccessible::Description).size() < 400);
+    }
 }
 
 void ShortcutsViewTest::help_isTheAddress()

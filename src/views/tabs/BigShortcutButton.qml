@@ -23,7 +23,8 @@ PlainButton {
     horizontalPadding: 10
     ringRadius: 12
     help: root.url
-    Accessible.name: "Open " + root.name
+    Accessible.name: "Open %1".arg(TextLine.beginning(root.name))
+    Accessible.description: TextLine.beginning(root.url)
 
     background: ContinuousRectangle {
         objectName: "surface"

@@ -56,7 +56,8 @@ FocusScope {
         implicitHeight: 30
         horizontalPadding: 12
         help: root.target
-        Accessible.name: "Open " + root.name
+        Accessible.name: "Open %1".arg(TextLine.beginning(root.name))
+        Accessible.description: TextLine.beginning(root.target)
 
         onClicked: root.opened()
 
@@ -114,7 +115,7 @@ FocusScope {
         anchors.topMargin: -4
         focusPolicy: Qt.NoFocus
         visible: root.editing
-        Accessible.name: "Remove " + root.name
+        Accessible.name: "Remove %1".arg(TextLine.beginning(root.name))
 
         onClicked: root.removed(false)
 

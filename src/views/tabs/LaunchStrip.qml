@@ -121,6 +121,7 @@ FocusScope {
             symbol: root.editing ? "checkmark" : "slider.horizontal.3"
             size: 12
             help: "Edit quick launch"
+            Accessible.name: root.editing ? "Done editing quick launch" : help
 
             onClicked: root.editing = !root.editing
         }
