@@ -122,7 +122,7 @@ FocusScope {
 
         function onRowsInserted(parent, first, last) {
             if (root.editing && last === root.items.rowCount() - 1) {
-                root.reveal(last);
+                Qt.callLater(root.reveal, last); // Once the row knows of it.
             }
         }
     }
