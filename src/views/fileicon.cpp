@@ -95,12 +95,8 @@ void FileIcon::askAnew()
 
 void FileIcon::take(const QImage& picture)
 {
-    const bool wasShown = isShown();
     m_picture = picture;
     redraw();
-    if (isShown() != wasShown) {
-        Q_EMIT isShownChanged();
-    }
 }
 
 } // namespace quib

@@ -16,14 +16,12 @@ class FileIcon : public quib::RasterItem { // Spelt out for the tools of QML.
     QML_ELEMENT
     Q_PROPERTY(quib::IconSource* source READ source WRITE setSource NOTIFY sourceChanged REQUIRED)
     Q_PROPERTY(QString path READ path WRITE setPath NOTIFY pathChanged)
-    Q_PROPERTY(bool isShown READ isShown NOTIFY isShownChanged)
 
 public:
     using RasterItem::RasterItem;
 
     IconSource* source() const { return m_source; }
     QString path() const { return m_path; } ///< Full.
-    bool isShown() const { return !m_picture.isNull(); }
 
     /// Borrowed: without one no new pictures come.
     void setSource(IconSource* source);
@@ -32,7 +30,6 @@ public:
 Q_SIGNALS:
     void sourceChanged();
     void pathChanged();
-    void isShownChanged();
 
 protected:
     QImage picture(double pixelsPerPoint) const override;

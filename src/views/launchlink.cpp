@@ -12,8 +12,8 @@ namespace quib {
 
 namespace {
 
-/// QUrl's own host is in small letters.
-QString hostAsTyped(const QString& address)
+/// What stands where most addresses have their host, as it was typed.
+QString typedHost(const QString& address)
 {
     const auto afterScheme = address.mid(address.indexOf("://"_L1) + 3);
     const auto end = std::ranges::find_if(
@@ -26,6 +26,16 @@ QString hostAsTyped(const QString& address)
     return place.left(place.indexOf(u':'));
 }
 
+/// QUrl's own host is in small letters.
+QString hostAsTyped(const QUrl& url, const QString& address)
+{
+    const auto host = url.host();
+    const auto typed = typedHost(address);
+    const bool isSame = typed.compare(host, Qt::CaseInsensitive) == 0
+        || (!typed.isEmpty() && QUrl::toAce(typed) == QUrl::toAce(host));
+    return isSame ? typed : host;
+}
+
 } // namespace
 
 QString linkName(const QString& typedName, const QString& address)
@@ -35,7 +45,7 @@ QString linkName(const QString& typedName, const QString& address)
     }
     const auto full = address.contains("://"_L1) ? address : u"https://"_s + address;
     const QUrl url(full, QUrl::StrictMode);
-    return url.isValid() && !url.host().isEmpty() ? hostAsTyped(full) : address;
+    return url.isValid() && !url.host().isEmpty() ? hostAsTyped(url, full) : address;
 }
 
 QString launchPath(const QString& target, const QString& home)

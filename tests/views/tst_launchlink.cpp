@@ -31,6 +31,8 @@ void LaunchLinkTest::withoutName_isTheHostAsTyped_data()
         {u"https://[::1]:80/"_s, u"::1"_s},
         {u"https://bücher.example/x"_s, u"bücher.example"_s},
         {u"ftp://Files.Example/x"_s, u"Files.Example"_s},
+        {u"//host/x://y"_s, u"host"_s},
+        {u"https://BÜCHER.example/x"_s, u"BÜCHER.example"_s},
         {u"my shop"_s, u"my shop"_s},
         {u"https://"_s, u"https://"_s},
         {u"https:///path"_s, u"https:///path"_s},

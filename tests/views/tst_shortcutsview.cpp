@@ -25,14 +25,18 @@ private Q_SLOTS:
     void noFile_showsTheStarterButtons();
     void noGroups_showsNothing();
     void brokenFile_keepsTheLastButtons();
+    void firstShowing_readsTheFileOnce();
     void shownAnew_readsTheFile_data();
     void shownAnew_readsTheFile();
     void editedFile_keepsWhatIsTheSame();
     void twins_areBothShown();
     void keys_reachEverything();
     void keys_reachButtonsOutOfSight();
+    void keys_returnToAButtonScrolledAway_data();
+    void keys_returnToAButtonScrolledAway();
     void press_withThePointerShowsNoRing();
     void names_tellWhatPressingDoes();
+    void names_areCutWhereTheyAreEndless();
     void help_isTheAddress();
     void texts_arePlain();
 
@@ -180,6 +184,16 @@ void ShortcutsViewTest::brokenFile_keepsTheLastButtons()
     QVERIFY(!m_links->item(u"problem"_s)->isVisible());
 }
 
+void ShortcutsViewTest::firstShowing_readsTheFileOnce()
+{
+    connect(&m_links->panel.shortcuts, &quib::Shortcuts::groupsChanged, this,
+            [this] { m_links->write({LinksTab::group(u"Written meanwhile"_s, {})}); });
+
+    m_links->show({LinksTab::group(u"One"_s, {})});
+
+    QCOMPARE(m_links->titles(), QStringList{u"One"_s});
+}
+
 void ShortcutsViewTest::shownAnew_readsTheFile_data()
 {
     QTest::addColumn<bool>("byCollapse");
@@ -292,6 +306,34 @@ void ShortcutsViewTest::keys_reachButtonsOutOfSight()
     QCOMPARE(focused(), u"Button 19"_s);
 }
 
+void ShortcutsViewTest::keys_returnToAButtonScrolledAway_data()
+{
+    QTest::addColumn<int>("pencil");
+    QTest::addColumn<int>("key");
+
+    QTest::addRow("Tab") << 0 << int(Qt::Key_Tab);
+    QTest::addRow("Backtab") << 1 << int(Qt::Key_Backtab);
+}
+
+void ShortcutsViewTest::keys_returnToAButtonScrolledAway()
+{
+    QFETCH(int, pencil);
+    QFETCH(int, key);
+    m_links->show({LinksTab::group(u"A"_s, LinksTab::buttons(60)),
+                   LinksTab::group(u"B"_s, LinksTab::buttons(1))});
+    auto* grid = m_links->part(0, u"buttons"_s);
+    QMetaObject::invokeMethod(grid, "positionViewAtEnd");
+    m_links->panel.settle();
+    QVERIFY(grid->property("contentY").toDouble() > 0);
+    m_links->part(pencil, u"edit"_s)->forceActiveFocus(Qt::TabFocusReason);
+
+    m_links->press(key);
+
+    QCOMPARE(focused(), u"Button 0"_s);
+    QVERIFY(ShownPanel::inScene(grid).contains(
+        ShownPanel::inScene(m_links->panel.window->activeFocusItem())));
+}
+
 void ShortcutsViewTest::press_withThePointerShowsNoRing()
 {
     m_links->show({LinksTab::group(u"A"_s, LinksTab::buttons(3))});
@@ -315,8 +357,22 @@ void ShortcutsViewTest::names_tellWhatPressingDoes()
     QCOMPARE(button->text(QAccessible::Name), u"Open GitHub"_s);
     QCOMPARE(button->text(QAccessible::Description), u"https://github.com"_s);
     QCOMPARE(interface(m_links->part(0, u"edit"_s))->text(QAccessible::Name),
-             u"Edit shortcuts (opens shortcuts.json)"_s);
+             u"Edit the shortcuts of Work"_s);
     QCOMPARE(interface(m_links->part(0, u"buttons"_s))->text(QAccessible::Name), u"Work"_s);
+}
+
+void ShortcutsViewTest::names_areCutWhereTheyAreEndless()
+{
+    const QString endless(100'000, u'w');
+    m_links->show({LinksTab::group(endless, {LinksTab::button(endless, endless, u"star"_s)})});
+
+    for (auto* item :
+         {m_links->shortcut(0), m_links->part(0, u"edit"_s), m_links->part(0, u"buttons"_s)}) {
+        const auto* interface = QAccessible::queryAccessibleInterface(item);
+        QVERIFY(interface->text(QAccessible::Name).contains(u"www"_s));
+        QVERIFY(interface->text(QAccessible::Name).size() < 400);
+        QVERIFY(interface->text(QAccessible::Description).size() < 400);
+    }
 }
 
 void ShortcutsViewTest::help_isTheAddress()

@@ -23,7 +23,8 @@ PlainButton {
     horizontalPadding: 10
     ringRadius: 12
     help: root.url
-    Accessible.name: "Open " + root.name
+    Accessible.name: "Open %1".arg(TextLine.beginning(root.name))
+    Accessible.description: TextLine.beginning(root.url)
 
     background: ContinuousRectangle {
         objectName: "surface"
@@ -43,7 +44,7 @@ PlainButton {
             Symbol {
                 objectName: "symbol"
                 anchors.centerIn: parent
-                visible: name !== ""
+                visible: root.symbol !== ""
                 name: root.symbol
                 size: 13
                 weight: Font.DemiBold
@@ -54,7 +55,7 @@ PlainButton {
                 objectName: "application"
                 anchors.fill: parent
                 source: root.icons
-                path: root.symbol === "" ? root.application : ""
+                path: root.application
             }
         }
 

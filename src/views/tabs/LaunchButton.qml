@@ -4,7 +4,8 @@ import Quib.Brand
 import Quib.Views
 
 /*!
-    One thing to launch, by its picture and name. While the strip is edited it can be taken away.
+    One thing to launch, by its picture and name. While the strip is edited it can be taken away, by
+    its badge or by a key.
 */
 FocusScope {
     id: root
@@ -15,12 +16,35 @@ FocusScope {
     required property string path
     required property IconSource icons
     required property bool editing
+    required property bool isStop
 
     signal opened
-    signal removed
+    signal removed(byKey: bool)
 
     implicitWidth: capsule.implicitWidth
     implicitHeight: capsule.implicitHeight
+
+    onEditingChanged: if (!root.editing && badge.activeFocus) capsule.forceActiveFocus()
+
+    Keys.onDeletePressed: event => root.removeByKey(event)
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_Backspace) {
+            root.removeByKey(event);
+        }
+    }
+
+    function focusButton(reason) {
+        capsule.forceActiveFocus(reason);
+        capsule.focusReason = reason; // The list may have given it the focus without.
+    }
+
+    // A key that is held down takes one away.
+    function removeByKey(event) {
+        event.accepted = root.editing;
+        if (root.editing && !event.isAutoRepeat) {
+            root.removed(true);
+        }
+    }
 
     PlainButton {
         id: capsule
@@ -28,10 +52,12 @@ FocusScope {
         objectName: "launch"
         anchors.fill: parent
         focus: true
+        focusPolicy: root.isStop || activeFocus ? Qt.TabFocus : Qt.NoFocus
         implicitHeight: 30
         horizontalPadding: 12
         help: root.target
-        Accessible.name: "Open " + root.name
+        Accessible.name: "Open %1".arg(TextLine.beginning(root.name))
+        Accessible.description: TextLine.beginning(root.target)
 
         onClicked: root.opened()
 
@@ -42,7 +68,7 @@ FocusScope {
         }
 
         contentItem: Item {
-            implicitWidth: 16 + 7 + name.width
+            implicitWidth: 16 + 7 + nameText.width
             implicitHeight: 16
 
             Symbol {
@@ -64,7 +90,7 @@ FocusScope {
             }
 
             QuibText {
-                id: name
+                id: nameText
 
                 objectName: "name"
                 anchors.verticalCenter: parent.verticalCenter
@@ -80,15 +106,18 @@ FocusScope {
     }
 
     PlainButton {
+        id: badge
+
         objectName: "remove"
         anchors.right: parent.right
         anchors.rightMargin: -4
         anchors.top: parent.top
         anchors.topMargin: -4
+        focusPolicy: Qt.NoFocus
         visible: root.editing
-        Accessible.name: "Remove " + root.name
+        Accessible.name: "Remove %1".arg(TextLine.beginning(root.name))
 
-        onClicked: root.removed()
+        onClicked: root.removed(false)
 
         contentItem: Symbol {
             objectName: "badge"

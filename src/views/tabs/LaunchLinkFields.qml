@@ -19,6 +19,10 @@ FocusScope {
 
     Keys.onEscapePressed: root.abandoned()
 
+    function start(reason) {
+        nameField.forceActiveFocus(reason);
+    }
+
     function clear() {
         root.name = "";
         root.address = "";

@@ -19,77 +19,54 @@ FocusScope {
     property bool editing: false
     property bool adding: false
 
+    onEditingChanged: if (!root.editing) root.stopEditing()
+
     function startAdding() {
         root.adding = true;
         root.commands.takeKeyboard();
-        fields.forceActiveFocus();
+        fields.start(addWebsite.visualFocus ? Qt.TabFocusReason : Qt.OtherFocusReason);
     }
 
+    // Only keys do.
     function stopAdding() {
         root.adding = false;
-        addWebsite.forceActiveFocus(); // Or keys would go nowhere.
+        addWebsite.forceActiveFocus(Qt.TabFocusReason); // Or keys would go nowhere.
     }
 
-    function addLink() {
-        if (items.addLink(fields.name, fields.address)) {
-            fields.clear();
-            root.stopAdding();
-            list.positionViewAtEnd();
+    function stopEditing() {
+        root.adding = false;
+        if (fields.activeFocus || addApplication.activeFocus || addWebsite.activeFocus) {
+            edit.forceActiveFocus(); // Or keys would go nowhere.
         }
     }
 
-    onEditingChanged: root.adding = false
+    function addLink() {
+        if (launchItems.addLink(fields.name, fields.address)) {
+            fields.clear();
+            root.stopAdding();
+        }
+    }
 
     LaunchListModel {
-        id: items
+        id: launchItems
 
         store: root.store
     }
 
-    ListView {
-        id: list
-
-        objectName: "items"
+    LaunchList {
+        objectName: "launchList"
         anchors.left: parent.left
         anchors.right: tools.left
         anchors.rightMargin: 8
         height: parent.height
         focus: true
-        orientation: ListView.Horizontal
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-        keyNavigationEnabled: false
-        spacing: 8
-        model: items
-        Accessible.role: Accessible.List
-        Accessible.name: "Quick launch"
+        items: launchItems
+        icons: root.icons
+        editing: root.editing
 
-        WheelHandler {
-            target: null
-
-            onWheel: event => list.flick(8 * (event.angleDelta.y + event.angleDelta.x), 0)
-        }
-
-        // The badges stand out of the buttons.
-        delegate: LaunchButton {
-            id: button
-
-            required property int index
-
-            objectName: "item"
-            y: (list.height - height) / 2
-            icons: root.icons
-            editing: root.editing
-
-            onActiveFocusChanged: if (activeFocus) list.positionViewAtIndex(index, ListView.Contain)
-            onOpened: root.actions.open(target)
-            onRemoved: {
-                if (activeFocus) {
-                    edit.forceActiveFocus(); // Or keys would go nowhere.
-                }
-                root.store.removeLaunchItem(itemID);
-            }
-        }
+        onOpened: target => root.actions.open(target)
+        onRemoved: itemID => root.store.removeLaunchItem(itemID)
+        onEmptied: reason => edit.forceActiveFocus(reason)
     }
 
     Row {
@@ -104,13 +81,15 @@ FocusScope {
 
             objectName: "linkFields"
             anchors.verticalCenter: parent.verticalCenter
-            visible: root.adding
+            visible: root.editing && root.adding
 
             onAccepted: root.addLink()
             onAbandoned: root.stopAdding()
         }
 
         IconButton {
+            id: addApplication
+
             objectName: "addApplication"
             anchors.verticalCenter: parent.verticalCenter
             visible: root.editing
@@ -118,7 +97,7 @@ FocusScope {
             size: 12
             help: "Add an app"
 
-            onClicked: items.addApplication(root.commands)
+            onClicked: launchItems.addApplication(root.commands)
         }
 
         IconButton {
@@ -142,6 +121,7 @@ FocusScope {
             symbol: root.editing ? "checkmark" : "slider.horizontal.3"
             size: 12
             help: "Edit quick launch"
+            Accessible.name: root.editing ? "Done editing quick launch" : help
 
             onClicked: root.editing = !root.editing
         }

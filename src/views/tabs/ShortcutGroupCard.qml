@@ -60,6 +60,8 @@ FocusScope {
             symbol: "pencil"
             size: 10
             help: "Edit shortcuts (opens shortcuts.json)"
+            Accessible.name: "Edit the shortcuts of %1".arg(TextLine.beginning(root.title))
+            Accessible.description: help
 
             onClicked: root.editClicked()
         }
@@ -86,7 +88,7 @@ FocusScope {
         interactive: contentHeight > height
         keyNavigationEnabled: false
         Accessible.role: Accessible.List
-        Accessible.name: root.title
+        Accessible.name: TextLine.beginning(root.title)
 
         model: ShortcutButtonModel {
             group: root.group
@@ -103,6 +105,8 @@ FocusScope {
 
             onOpened: root.opened(url)
         }
+
+        onActiveFocusChanged: if (activeFocus) positionViewAtIndex(currentIndex, GridView.Contain)
 
         Keys.onLeftPressed: root.step(-1)
         Keys.onRightPressed: root.step(1)

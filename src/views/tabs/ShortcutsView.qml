@@ -23,15 +23,9 @@ FocusScope {
     readonly property real smallestBox: 136
     readonly property real boxWidth: Math.max(
         root.smallestBox, (boxes.width - root.boxGap * (groups.count - 1)) / Math.max(1, groups.count))
+    readonly property Shortcuts shownShortcuts: root.shown ? root.shortcuts : null
 
-    onShownChanged: root.reload()
-    Component.onCompleted: root.reload()
-
-    function reload() {
-        if (root.shown && root.shortcuts) {
-            root.shortcuts.reload();
-        }
-    }
+    onShownShortcutsChanged: root.shownShortcuts?.reload()
 
     ShortcutGroupModel {
         id: groups
@@ -95,11 +89,9 @@ FocusScope {
             contentX = Math.max(box.x + box.width - width, Math.min(contentX, box.x));
         }
 
-        WheelHandler {
-            target: null
+        SidewaysWheel {
+            flickable: boxes
             enabled: boxes.interactive
-
-            onWheel: event => boxes.flick(8 * (event.angleDelta.y + event.angleDelta.x), 0)
         }
 
         Row {

@@ -61,10 +61,8 @@ Item {
             onActiveFocusChanged: if (activeFocus) chips.positionViewAtIndex(index, ListView.Contain)
         }
 
-        WheelHandler {
-            target: null
-
-            onWheel: event => chips.flick(8 * (event.angleDelta.y + event.angleDelta.x), 0)
+        SidewaysWheel {
+            flickable: chips
         }
     }
 
