@@ -31,6 +31,7 @@ private Q_SLOTS:
     void themeOfTheUser_isAskedFirst();
     void installedTheme_hasAnIconForEachKind();
     void drawing_isSharpInEverySize();
+    void pictureInADrawing_isDrawn();
     void oblongPicture_keepsItsShape();
     void nearestSize_isTaken_data();
     void nearestSize_isTaken();
@@ -256,6 +257,19 @@ void ThemeIconSourceTest::drawing_isSharpInEverySize()
     }
 }
 
+void ThemeIconSourceTest::pictureInADrawing_isDrawn()
+{
+    QFile inner(picture(u"inner.png"_s, Qt::green));
+    QVERIFY(inner.open(QIODevice::ReadOnly));
+    const auto file = put(u"outer.svg"_s,
+                          R"(<svg xmlns="http://www.w3.org/2000/svg"
+        xmlns:xlink="http://www.w3.org/1999/xlink" width="9" height="9"><image width="9" height="9"
+        xlink:href="data:image/png;base64,)"
+                              + inner.readAll().toBase64() + R"("/></svg>)");
+
+    QCOMPARE(middleOf(ask(*m_source, entry(file))), QColor(Qt::green));
+}
+
 void ThemeIconSourceTest::oblongPicture_keepsItsShape()
 {
     const auto answer = ask(*m_source, entry(picture(u"wide.png"_s, Qt::green, {64, 32})), 20);
@@ -301,6 +315,10 @@ void ThemeIconSourceTest::hostilePicture_isTheStandIn_data()
         const auto use = "<use xlink:href=\"#a" + QByteArray::number(level - 1) + "\"/>";
         lots += "<g id=\"a" + QByteArray::number(level) + "\">" + use + use + "</g>";
     }
+    const auto nested = [inner = (svg + rect + "</svg>").toBase64()](const QByteArray& kind) {
+        return R"(<image width="9" height="9" xlink:href="data:)" + kind + ";base64," + inner
+            + R"("/>)";
+    };
     QByteArray huge = QByteArray::fromHex("89504e470d0a1a0a0000000d49484452000fffff000fffff08060000"
                                           "00");
 
@@ -315,6 +333,16 @@ void ThemeIconSourceTest::hostilePicture_isTheStandIn_data()
             + "</svg>";
     QTest::addRow("a drawing that reads another file")
         << svg + R"(<image width="9" height="9" xlink:href="/dev/zero"/></svg>)";
+    QTest::addRow("a drawing that reads another file by either name of the address")
+        << svg + R"(<image width="9" height="9" href="data:image/png;base64,iVBORw0K"
+            xlink:href="/dev/zero"/></svg>)";
+    QTest::addRow("a drawing with an endless style sheet")
+        << R"(<?xml-stylesheet type="text/css" href="/dev/zero"?>)" + svg + rect + "</svg>";
+    QTest::addRow("a drawing with a style sheet that nobody writes")
+        << R"(<?xml-stylesheet type="text/css" href="FIFO"?>)" + svg + rect + "</svg>";
+    QTest::addRow("a drawing in a drawing") << svg + nested("image/svg+xml") + "</svg>";
+    QTest::addRow("a drawing in a drawing that calls itself a picture")
+        << svg + nested("image/png") + "</svg>";
     QTest::addRow("entities in entities")
         << "<!DOCTYPE svg [<!ENTITY a \"xxxxxxxxxx\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;&a;\">"
            "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;&b;\"><!ENTITY d \"&c;&c;&c;&c;&c;&c;&c;&c;\">]>"
@@ -327,7 +355,9 @@ void ThemeIconSourceTest::hostilePicture_isTheStandIn_data()
 void ThemeIconSourceTest::hostilePicture_isTheStandIn()
 {
     QFETCH(QByteArray, bytes);
-    const auto file = put(u"hostile.svg"_s, bytes);
+    const auto fifo = QFile::encodeName(m_home->filePath(u"fifo"_s));
+    QCOMPARE(mkfifo(fifo.constData(), 0600), 0);
+    const auto file = put(u"hostile.svg"_s, bytes.replace("FIFO", fifo));
 
     QCOMPARE(ask(*m_source, entry(file)), quib::standIn(32));
 }
