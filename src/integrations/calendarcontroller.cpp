@@ -26,6 +26,21 @@ QString beginning(const QString& text)
     return text.first(splits ? MostUnitsOfATitle - 1 : MostUnitsOfATitle);
 }
 
+struct Day {
+    QDateTime start;
+    QDateTime end;
+};
+
+Day dayAround(const QDateTime& now, const QTimeZone& zone)
+{
+    if (!zone.isValid()) {
+        const auto today = now.toLocalTime().date();
+        return {.start = today.startOfDay(), .end = today.addDays(1).startOfDay()};
+    }
+    const auto today = now.toTimeZone(zone).date();
+    return {.start = today.startOfDay(zone), .end = today.addDays(1).startOfDay(zone)};
+}
+
 CalendarController::Event eventOf(const CalendarEntry& entry)
 {
     return {.id = entry.id.value_or(QUuid::createUuid().toString(QUuid::WithoutBraces)),
@@ -38,12 +53,12 @@ CalendarController::Event eventOf(const CalendarEntry& entry)
 
 } // namespace
 
-CalendarController::CalendarController(CalendarStore* store, Clock clock, const QTimeZone& timeZone,
+CalendarController::CalendarController(CalendarStore* store, Clock clock, TimeZone timeZone,
                                        QObject* parent)
     : QObject(parent)
     , m_store(store)
     , m_clock(std::move(clock))
-    , m_timeZone(timeZone)
+    , m_timeZone(std::move(timeZone))
 {
     if (m_store == nullptr) {
         return;
@@ -54,6 +69,11 @@ CalendarController::CalendarController(CalendarStore* store, Clock clock, const 
             self->take(authorization);
         }
     });
+}
+
+CalendarController::CalendarController(CalendarStore* store, Clock clock, const QTimeZone& timeZone)
+    : CalendarController(store, std::move(clock), [timeZone] { return timeZone; })
+{
 }
 
 void CalendarController::requestAccess()
@@ -75,13 +95,15 @@ void CalendarController::reload()
     if (m_access != Access::Granted) {
         return;
     }
-    const auto today = m_clock().toTimeZone(m_timeZone).date();
-    const auto tomorrow = today.addDays(1);
-    m_isReloading = true;
-    m_store->readEntries(today.startOfDay(m_timeZone), tomorrow.startOfDay(m_timeZone),
-                         [self = QPointer(this), reload = ++m_reloads](const auto& entries) {
-                             if (self && self->m_reloads == reload) {
-                                 self->show(entries);
+    if (std::exchange(m_isReloading, true)) {
+        m_reloadsAgain = true;
+        return;
+    }
+    const auto [from, to] = dayAround(m_clock(), m_timeZone());
+    m_store->readEntries(from, to,
+                         [self = QPointer(this), access = m_accesses](const auto& entries) {
+                             if (self && self->m_accesses == access) {
+                                 self->answered(entries);
                              }
                          });
 }
@@ -100,17 +122,25 @@ void CalendarController::take(CalendarAuthorization authorization)
 
 void CalendarController::setAccess(Access access)
 {
-    m_isReloading = false;
-    ++m_reloads; // What was asked with the access of before comes too late.
+    m_isReloading = m_reloadsAgain = false;
+    ++m_accesses;
     if (std::exchange(m_access, access) != access) {
         Q_EMIT accessChanged();
     }
     reload();
 }
 
-void CalendarController::show(QList<CalendarEntry> entries)
+void CalendarController::answered(const QList<CalendarEntry>& entries)
 {
     m_isReloading = false;
+    show(entries);
+    if (std::exchange(m_reloadsAgain, false)) {
+        reload();
+    }
+}
+
+void CalendarController::show(QList<CalendarEntry> entries)
+{
     entries.removeIf([now = m_clock()](const CalendarEntry& entry) {
         return entry.end <= now && !entry.isAllDay;
     });
