@@ -19,6 +19,7 @@ class FakeDialog : public QObject {
 
 public:
     uint response = 0;
+    QString failure; ///< The name of the error that is answered instead.
     bool staysOpen = false;
     QStringList shownFor; ///< The applications.
 
@@ -47,7 +48,10 @@ public Q_SLOTS:
     {
         shownFor << application;
         m_open = message;
-        message.setDelayedReply(staysOpen);
+        message.setDelayedReply(staysOpen || !failure.isEmpty());
+        if (!failure.isEmpty()) {
+            m_bus.send(message.createErrorReply(failure, u"As the bus says it."_s));
+        }
         results.clear();
         return response;
     }
@@ -73,12 +77,17 @@ private Q_SLOTS:
     void ask_noDialog_isTheConsent();
     void ask_ofTheDesktopsOwnDialogFirst();
     void ask_backendWithoutDialog_isPassedOver();
+    void ask_backendThatCannotStart_isPassedOver_data();
+    void ask_backendThatCannotStart_isPassedOver();
+    void ask_desktopWithAStrangeName_isTheConsent_data();
+    void ask_desktopWithAStrangeName_isTheConsent();
     void ask_dialogCrashes_isNotGranted();
     void ask_busDies_isNotGranted();
     void ask_twice_showsOneDialog();
     void ask_hungStore_isAnswered();
     void ask_noStore_isKeptInAFile_data();
     void ask_noStore_isKeptInAFile();
+    void ask_storeThatCannotStart_isKeptInAFile();
     void ask_noBus_isKeptInAFile();
     void read_unreadableFile_isUndecided_data();
     void read_unreadableFile_isUndecided();
@@ -251,6 +260,49 @@ void CalendarPermissionTest::ask_backendWithoutDialog_isPassedOver()
     QCOMPARE(isGranted, false);
 }
 
+void CalendarPermissionTest::ask_backendThatCannotStart_isPassedOver_data()
+{
+    QTest::addColumn<QString>("error");
+
+    QTest::addRow("too slow") << u"org.freedesktop.DBus.Error.TimedOut"_s;
+    QTest::addRow("no unit") << u"org.freedesktop.systemd1.NoSuchUnit"_s;
+    QTest::addRow("masked unit") << u"org.freedesktop.systemd1.UnitMasked"_s;
+    QTest::addRow("no program") << u"org.freedesktop.DBus.Error.Spawn.ExecFailed"_s;
+}
+
+void CalendarPermissionTest::ask_backendThatCannotStart_isPassedOver()
+{
+    QFETCH(const QString, error);
+    startBus();
+    FakeDialog broken;
+    broken.failure = error;
+    QVERIFY(broken.start(address(), u"gtk"_s));
+    m_dialog->response = 1;
+    QVERIFY(m_dialog->start(address(), u"kde"_s));
+
+    QCOMPARE(ask(), false);
+
+    QCOMPARE(m_dialog->shownFor.size(), 1);
+}
+
+void CalendarPermissionTest::ask_desktopWithAStrangeName_isTheConsent_data()
+{
+    QTest::addColumn<QByteArray>("desktop");
+
+    QTest::addRow("a digit first") << QByteArray("2bwm");
+    QTest::addRow("too long for a bus name") << QByteArray(300, 'x');
+    QTest::addRow("nothing but colons") << QByteArray(":::");
+}
+
+void CalendarPermissionTest::ask_desktopWithAStrangeName_isTheConsent()
+{
+    QFETCH(const QByteArray, desktop);
+    startBus();
+    qputenv("XDG_CURRENT_DESKTOP", desktop);
+
+    QCOMPARE(ask(), true);
+}
+
 void CalendarPermissionTest::ask_dialogCrashes_isNotGranted()
 {
     startBus();
@@ -335,6 +387,18 @@ void CalendarPermissionTest::ask_noStore_isKeptInAFile()
     QTRY_COMPARE(written(), word);
     m_permission = std::make_unique<CalendarPermission>(m_desk->bus());
     QCOMPARE(read(), kept);
+}
+
+void CalendarPermissionTest::ask_storeThatCannotStart_isKeptInAFile()
+{
+    m_desk->makeServiceThatNeverComes(CalendarDesk::PermissionStore);
+    m_desk->startBus({}, 200);
+    m_permission = std::make_unique<CalendarPermission>(m_desk->bus());
+
+    QCOMPARE(ask(), true);
+
+    QTRY_VERIFY(QFile::exists(consentFile()));
+    QCOMPARE(read(), CalendarAuthorization::FullAccess);
 }
 
 void CalendarPermissionTest::ask_noBus_isKeptInAFile()
