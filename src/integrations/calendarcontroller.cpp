@@ -1,6 +1,7 @@
 #include "integrations/calendarcontroller.h"
 
 #include "brand/brand.h"
+#include "model/beginning.h"
 
 #include <QPointer>
 #include <QUuid>
@@ -15,16 +16,6 @@ namespace quib {
 namespace {
 
 constexpr qsizetype MostUnitsOfATitle = 500; ///< More than any line shows.
-
-/// Never half of a surrogate pair.
-QString beginning(const QString& text)
-{
-    if (text.size() <= MostUnitsOfATitle) {
-        return text;
-    }
-    const bool splits = text.at(MostUnitsOfATitle - 1).isHighSurrogate();
-    return text.first(splits ? MostUnitsOfATitle - 1 : MostUnitsOfATitle);
-}
 
 struct Day {
     QDateTime start;
@@ -44,7 +35,7 @@ Day dayAround(const QDateTime& now, const QTimeZone& zone)
 CalendarController::Event eventOf(const CalendarEntry& entry)
 {
     return {.id = entry.id.value_or(QUuid::createUuid().toString(QUuid::WithoutBraces)),
-            .title = beginning(entry.title.value_or(u"Untitled"_s)),
+            .title = beginningOf(entry.title.value_or(u"Untitled"_s), MostUnitsOfATitle),
             .start = entry.start,
             .end = entry.end,
             .allDay = entry.isAllDay,
@@ -66,7 +57,7 @@ CalendarController::CalendarController(CalendarStore* store, Clock clock, TimeZo
     connect(m_store, &CalendarStore::changed, this, &CalendarController::reload);
     m_store->readAuthorization([self = QPointer(this)](CalendarAuthorization authorization) {
         if (self && !self->m_wasAnswered) {
-            self->take(authorization);
+            self->takeAuthorization(authorization);
         }
     });
 }
@@ -84,8 +75,8 @@ void CalendarController::requestAccess()
     m_store->requestFullAccess([self = QPointer(this)](bool isGranted) {
         if (self) {
             self->m_wasAnswered = true;
-            self->take(isGranted ? CalendarAuthorization::FullAccess
-                                 : CalendarAuthorization::Denied);
+            self->takeAuthorization(isGranted ? CalendarAuthorization::FullAccess
+                                              : CalendarAuthorization::Denied);
         }
     });
 }
@@ -103,12 +94,12 @@ void CalendarController::reload()
     m_store->readEntries(from, to,
                          [self = QPointer(this), access = m_accesses](const auto& entries) {
                              if (self && self->m_accesses == access) {
-                                 self->answered(entries);
+                                 self->takeEntries(entries);
                              }
                          });
 }
 
-void CalendarController::take(CalendarAuthorization authorization)
+void CalendarController::takeAuthorization(CalendarAuthorization authorization)
 {
     switch (authorization) {
     case CalendarAuthorization::NotDetermined:
@@ -130,7 +121,7 @@ void CalendarController::setAccess(Access access)
     reload();
 }
 
-void CalendarController::answered(const QList<CalendarEntry>& entries)
+void CalendarController::takeEntries(const QList<CalendarEntry>& entries)
 {
     m_isReloading = false;
     show(entries);

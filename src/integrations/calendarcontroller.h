@@ -57,9 +57,9 @@ Q_SIGNALS:
     void accessChanged();
 
 private:
-    void take(CalendarAuthorization authorization);
+    void takeAuthorization(CalendarAuthorization authorization);
     void setAccess(Access access);
-    void answered(const QList<CalendarEntry>& entries);
+    void takeEntries(const QList<CalendarEntry>& entries);
     void show(QList<CalendarEntry> entries);
 
     CalendarStore* m_store;
