@@ -1,3 +1,4 @@
+#include "platform/linux/hungfile.h"
 #include "platform/linux/themeiconsource.h"
 
 #include <QDir>
@@ -7,11 +8,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <csignal>
-
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -39,11 +36,15 @@ private Q_SLOTS:
     void hostilePicture_isTheStandIn();
     void hostileEntry_isTheStandIn_data();
     void hostileEntry_isTheStandIn();
+    void hostileTheme_staysInItsFolder_data();
+    void hostileTheme_staysInItsFolder();
+    void hostileTheme_hugeNumbers_areAsGoodAsAny();
     void answer_comesLaterAndOnce();
     void sameQuestions_haveOneAnswer();
     void manyQuestions_areAllAnswered();
     void hungFile_holdsUpNoOther();
     void manyHungFiles_areGivenUpUntilOneAnswers();
+    void iconThatComesTooLate_isAnnounced();
     void hungFile_holdsUpNoEnd();
     void sourceGone_nobodyAnswers();
     void newTheme_isAnnounced();
@@ -75,34 +76,6 @@ QByteArray indexOf(const QList<int>& sizes)
     }
     return "[Icon Theme]\nName=x\nDirectories=" + names.join(',') + "\n" + folders;
 }
-
-/// A file that nobody else can open: whoever tries waits until it is given back.
-class HungFile {
-public:
-    explicit HungFile(const QString& path)
-        : m_file(open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC))
-    {
-        std::signal(SIGIO, SIG_IGN); // By which the system asks for it back.
-        m_isHung = fcntl(m_file, F_SETLEASE, F_WRLCK) == 0;
-    }
-    ~HungFile() { answerAtLast(); }
-    Q_DISABLE_COPY_MOVE(HungFile)
-
-    /// The system takes it back after some 45 seconds.
-    bool isHung() const { return m_isHung && fcntl(m_file, F_GETLEASE) != F_UNLCK; }
-    void answerAtLast()
-    {
-        if (m_isHung) {
-            fcntl(m_file, F_SETLEASE, F_UNLCK);
-            close(m_file);
-        }
-        m_isHung = false;
-    }
-
-private:
-    int m_file;
-    bool m_isHung = false;
-};
 
 QColor middleOf(const QImage& image)
 {
@@ -386,6 +359,35 @@ void ThemeIconSourceTest::hostileEntry_isTheStandIn()
     QCOMPARE(ask(*m_source, entry(icon == u"FIFO"_s ? fifo : icon)), quib::standIn(32));
 }
 
+void ThemeIconSourceTest::hostileTheme_staysInItsFolder_data()
+{
+    QTest::addColumn<QByteArray>("index");
+
+    QTest::addRow("by a folder") << QByteArray(
+        "[Icon Theme]\nName=x\nDirectories=../../../hidden\n[../../../hidden]\nSize=32\n");
+    QTest::addRow("by a parent") << QByteArray("[Icon Theme]\nName=x\nInherits=../../hidden\n");
+}
+
+void ThemeIconSourceTest::hostileTheme_staysInItsFolder()
+{
+    QFETCH(QByteArray, index);
+    theme(u"Ours"_s, index);
+    put(u"hidden/index.theme"_s, "[Icon Theme]\nName=x\nDirectories=.\n[.]\nSize=32\n");
+    picture(u"hidden/a.png"_s, Qt::red);
+
+    QCOMPARE(ask(*m_source, entry(u"a"_s)), quib::standIn(32));
+}
+
+void ThemeIconSourceTest::hostileTheme_hugeNumbers_areAsGoodAsAny()
+{
+    theme(u"Ours"_s,
+          "[Icon Theme]\nName=x\nDirectories=32\n[32]\nSize=2147483647\n"
+          "Scale=2147483647\nThreshold=-2147483648\n");
+    picture(u"data/icons/Ours/32/a.png"_s, Qt::green);
+
+    QCOMPARE(middleOf(ask(*m_source, entry(u"a"_s))), QColor(Qt::green));
+}
+
 void ThemeIconSourceTest::answer_comesLaterAndOnce()
 {
     const auto path = entry(picture(u"own.png"_s, Qt::green));
@@ -463,6 +465,22 @@ void ThemeIconSourceTest::manyHungFiles_areGivenUpUntilOneAnswers()
     hung.answerAtLast();
 
     QTRY_COMPARE(middleOf(ask(source, own)), QColor(Qt::green));
+}
+
+void ThemeIconSourceTest::iconThatComesTooLate_isAnnounced()
+{
+    const auto file = picture(u"own.png"_s, Qt::green);
+    const auto path = entry(file);
+    HungFile hung(file);
+    ThemeIconSource source(50ms);
+    QSignalSpy changed(&source, &quib::IconSource::changed);
+    QCOMPARE(ask(source, path), quib::standIn(32));
+    QCOMPARE(changed.size(), 0);
+
+    hung.answerAtLast();
+
+    QTRY_COMPARE(changed.size(), 1);
+    QCOMPARE(middleOf(ask(source, path)), QColor(Qt::green));
 }
 
 void ThemeIconSourceTest::hungFile_holdsUpNoEnd()
