@@ -1,6 +1,7 @@
 #include "integrations/calendarcontroller.h"
 
 #include "brand/brand.h"
+#include "model/beginning.h"
 
 #include <QPointer>
 #include <QUuid>
@@ -16,20 +17,25 @@ namespace {
 
 constexpr qsizetype MostUnitsOfATitle = 500; ///< More than any line shows.
 
-/// Never half of a surrogate pair.
-QString beginning(const QString& text)
+struct Day {
+    QDateTime start;
+    QDateTime end;
+};
+
+Day dayAround(const QDateTime& now, const QTimeZone& zone)
 {
-    if (text.size() <= MostUnitsOfATitle) {
-        return text;
+    if (!zone.isValid()) {
+        const auto today = now.toLocalTime().date();
+        return {.start = today.startOfDay(), .end = today.addDays(1).startOfDay()};
     }
-    const bool splits = text.at(MostUnitsOfATitle - 1).isHighSurrogate();
-    return text.first(splits ? MostUnitsOfATitle - 1 : MostUnitsOfATitle);
+    const auto today = now.toTimeZone(zone).date();
+    return {.start = today.startOfDay(zone), .end = today.addDays(1).startOfDay(zone)};
 }
 
 CalendarController::Event eventOf(const CalendarEntry& entry)
 {
     return {.id = entry.id.value_or(QUuid::createUuid().toString(QUuid::WithoutBraces)),
-            .title = beginning(entry.title.value_or(u"Untitled"_s)),
+            .title = beginningOf(entry.title.value_or(u"Untitled"_s), MostUnitsOfATitle),
             .start = entry.start,
             .end = entry.end,
             .allDay = entry.isAllDay,
@@ -38,12 +44,12 @@ CalendarController::Event eventOf(const CalendarEntry& entry)
 
 } // namespace
 
-CalendarController::CalendarController(CalendarStore* store, Clock clock, const QTimeZone& timeZone,
+CalendarController::CalendarController(CalendarStore* store, Clock clock, TimeZone timeZone,
                                        QObject* parent)
     : QObject(parent)
     , m_store(store)
     , m_clock(std::move(clock))
-    , m_timeZone(timeZone)
+    , m_timeZone(std::move(timeZone))
 {
     if (m_store == nullptr) {
         return;
@@ -51,9 +57,14 @@ CalendarController::CalendarController(CalendarStore* store, Clock clock, const 
     connect(m_store, &CalendarStore::changed, this, &CalendarController::reload);
     m_store->readAuthorization([self = QPointer(this)](CalendarAuthorization authorization) {
         if (self && !self->m_wasAnswered) {
-            self->take(authorization);
+            self->takeAuthorization(authorization);
         }
     });
+}
+
+CalendarController::CalendarController(CalendarStore* store, Clock clock, const QTimeZone& timeZone)
+    : CalendarController(store, std::move(clock), [timeZone] { return timeZone; })
+{
 }
 
 void CalendarController::requestAccess()
@@ -64,8 +75,8 @@ void CalendarController::requestAccess()
     m_store->requestFullAccess([self = QPointer(this)](bool isGranted) {
         if (self) {
             self->m_wasAnswered = true;
-            self->take(isGranted ? CalendarAuthorization::FullAccess
-                                 : CalendarAuthorization::Denied);
+            self->takeAuthorization(isGranted ? CalendarAuthorization::FullAccess
+                                              : CalendarAuthorization::Denied);
         }
     });
 }
@@ -75,18 +86,20 @@ void CalendarController::reload()
     if (m_access != Access::Granted) {
         return;
     }
-    const auto today = m_clock().toTimeZone(m_timeZone).date();
-    const auto tomorrow = today.addDays(1);
-    m_isReloading = true;
-    m_store->readEntries(today.startOfDay(m_timeZone), tomorrow.startOfDay(m_timeZone),
-                         [self = QPointer(this), reload = ++m_reloads](const auto& entries) {
-                             if (self && self->m_reloads == reload) {
-                                 self->show(entries);
+    if (std::exchange(m_isReloading, true)) {
+        m_reloadsAgain = true;
+        return;
+    }
+    const auto [from, to] = dayAround(m_clock(), m_timeZone());
+    m_store->readEntries(from, to,
+                         [self = QPointer(this), access = m_accesses](const auto& entries) {
+                             if (self && self->m_accesses == access) {
+                                 self->takeEntries(entries);
                              }
                          });
 }
 
-void CalendarController::take(CalendarAuthorization authorization)
+void CalendarController::takeAuthorization(CalendarAuthorization authorization)
 {
     switch (authorization) {
     case CalendarAuthorization::NotDetermined:
@@ -100,17 +113,25 @@ void CalendarController::take(CalendarAuthorization authorization)
 
 void CalendarController::setAccess(Access access)
 {
-    m_isReloading = false;
-    ++m_reloads; // What was asked with the access of before comes too late.
+    m_isReloading = m_reloadsAgain = false;
+    ++m_accesses;
     if (std::exchange(m_access, access) != access) {
         Q_EMIT accessChanged();
     }
     reload();
 }
 
-void CalendarController::show(QList<CalendarEntry> entries)
+void CalendarController::takeEntries(const QList<CalendarEntry>& entries)
 {
     m_isReloading = false;
+    show(entries);
+    if (std::exchange(m_reloadsAgain, false)) {
+        reload();
+    }
+}
+
+void CalendarController::show(QList<CalendarEntry> entries)
+{
     entries.removeIf([now = m_clock()](const CalendarEntry& entry) {
         return entry.end <= now && !entry.isAllDay;
     });

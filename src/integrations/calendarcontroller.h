@@ -5,6 +5,8 @@
 
 #include <QTimeZone>
 
+#include <functional>
+
 namespace quib {
 
 /// Today's events, and whether the program may read them. The authorisation is read once, at the
@@ -29,10 +31,15 @@ public:
         bool operator==(const Event&) const = default;
     };
 
+    /// Tells where the user is, which may change. Invalid where only the system's C library knows.
+    using TimeZone = std::function<QTimeZone()>;
+
     /// The store is borrowed and outlives this; null where there are no calendars to ask for.
     explicit CalendarController(CalendarStore* store, Clock clock = systemClock,
-                                const QTimeZone& timeZone = QTimeZone::systemTimeZone(),
+                                TimeZone timeZone = QTimeZone::systemTimeZone,
                                 QObject* parent = nullptr);
+    /// For a user who stays where they are.
+    CalendarController(CalendarStore* store, Clock clock, const QTimeZone& timeZone);
 
     /// By start. All of today's that have not ended, and those of the whole day.
     const QList<Event>& events() const { return m_events; }
@@ -42,6 +49,7 @@ public:
 
     Q_INVOKABLE void requestAccess();
     /// Does nothing without access. The events stay as they are until the calendars have answered.
+    /// Wanted while an answer is due, it follows that.
     void reload();
 
 Q_SIGNALS:
@@ -49,18 +57,20 @@ Q_SIGNALS:
     void accessChanged();
 
 private:
-    void take(CalendarAuthorization authorization);
+    void takeAuthorization(CalendarAuthorization authorization);
     void setAccess(Access access);
+    void takeEntries(const QList<CalendarEntry>& entries);
     void show(QList<CalendarEntry> entries);
 
     CalendarStore* m_store;
     Clock m_clock;
-    QTimeZone m_timeZone;
+    TimeZone m_timeZone;
     QList<Event> m_events;
     Access m_access = Access::Unknown;
     bool m_wasAnswered = false; ///< By the user, which counts more than what was read.
     bool m_isReloading = false;
-    int m_reloads = 0; ///< Tells the answer to the last one from those that come too late.
+    bool m_reloadsAgain = false; ///< Another was wanted meanwhile.
+    int m_accesses = 0; ///< Tells the answers that were asked for with the access of before.
 };
 
 } // namespace quib

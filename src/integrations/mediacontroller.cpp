@@ -83,12 +83,12 @@ void MediaController::refresh()
     m_isAsking = true;
     m_link.query(*player, [self = QPointer(this), player = *player](const QString& reply) {
         if (self) {
-            self->take(player, reply);
+            self->takeReply(player, reply);
         }
     });
 }
 
-void MediaController::take(Player player, const QString& reply)
+void MediaController::takeReply(Player player, const QString& reply)
 {
     m_isAsking = false;
     setTrack(trackFrom(player, reply));

@@ -61,7 +61,7 @@ Q_SIGNALS:
 
 private:
     void tick();
-    void take(Player player, const QString& reply);
+    void takeReply(Player player, const QString& reply);
     void setTrack(std::optional<Track> track);
 
     PlayerLink& m_link;

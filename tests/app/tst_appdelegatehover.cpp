@@ -249,6 +249,7 @@ void AppDelegateHoverTest::expansion_readsTheDayAnew()
     auto& delegate = m_quib->launched();
     auto& calendar = m_quib->shell.calendar;
     calendar.authorizations.front()(CalendarAuthorization::FullAccess);
+    calendar.readings.back().answer({});
     const auto readings = calendar.readings.size();
 
     delegate.expand(false);

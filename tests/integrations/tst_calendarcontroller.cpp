@@ -37,7 +37,9 @@ private Q_SLOTS:
     void reload_sortsByStart();
     void reload_equalStarts_keepTheStoresOrder();
     void reload_hasNoLimit();
-    void reload_lateAnswer_isDropped();
+    void reload_whileOneIsUnderWay_followsIt();
+    void reload_timeZoneChanges_readsTheNewDay();
+    void reload_unknownTimeZone_isTheLocalDay();
     void reload_answerAfterARefusal_isDropped();
     void event_isAsTheStoreHasIt();
     void event_withoutId_hasAFreshOne();
@@ -252,6 +254,7 @@ void CalendarControllerTest::reload_readsTheWholeDay()
 void CalendarControllerTest::reload_afterMidnight_readsTheNewDay()
 {
     grant();
+    answer({});
 
     m_hands.now = m_hands.now.addDays(1);
     m_controller->reload();
@@ -351,15 +354,50 @@ void CalendarControllerTest::reload_hasNoLimit()
     QCOMPARE(m_controller->events().size(), 5000);
 }
 
-void CalendarControllerTest::reload_lateAnswer_isDropped()
+void CalendarControllerTest::reload_whileOneIsUnderWay_followsIt()
 {
     grant();
+    for (int i = 0; i < 5; ++i) {
+        m_controller->reload();
+    }
+    QCOMPARE(m_store->readings.size(), 1U);
+
+    answer({entry(u"First"_s, 1, 2)});
+
+    QCOMPARE(titles(), QStringList(u"First"_s));
+    QVERIFY(m_controller->isReloading());
+    QCOMPARE(m_store->readings.size(), 2U);
+    answer({entry(u"Second"_s, 1, 2)});
+    QCOMPARE(titles(), QStringList(u"Second"_s));
+    QVERIFY(!m_controller->isReloading());
+    QCOMPARE(m_store->readings.size(), 2U);
+}
+
+void CalendarControllerTest::reload_timeZoneChanges_readsTheNewDay()
+{
+    m_hands.now = QDateTime(QDate(2026, 3, 2), QTime(12, 0), Qt::UTC);
+    QTimeZone zone("Europe/London");
+    m_controller = std::make_unique<CalendarController>(m_store.get(), m_hands.clock(),
+                                                        [&zone] { return zone; });
+    m_store->authorizations.at(1)(Authorization::FullAccess);
+    answer({});
+
+    zone = QTimeZone("Asia/Tokyo");
     m_controller->reload();
 
-    m_store->readings.at(1).answer({entry(u"New"_s, 1, 2)});
-    m_store->readings.at(0).answer({entry(u"Old"_s, 1, 2)});
+    QCOMPARE(m_store->readings.at(0).from, QDateTime(QDate(2026, 3, 2), QTime(0, 0), Qt::UTC));
+    QCOMPARE(m_store->readings.at(1).from, QDateTime(QDate(2026, 3, 1), QTime(15, 0), Qt::UTC));
+}
 
-    QCOMPARE(titles(), QStringList(u"New"_s));
+void CalendarControllerTest::reload_unknownTimeZone_isTheLocalDay()
+{
+    m_controller = std::make_unique<CalendarController>(m_store.get(), m_hands.clock(),
+                                                        [] { return QTimeZone(); });
+    m_store->authorizations.at(1)(Authorization::FullAccess);
+
+    const auto today = m_hands.now.toLocalTime().date();
+    QCOMPARE(m_store->readings.at(0).from, today.startOfDay());
+    QCOMPARE(m_store->readings.at(0).to, today.addDays(1).startOfDay());
 }
 
 void CalendarControllerTest::reload_answerAfterARefusal_isDropped()
@@ -453,6 +491,7 @@ void CalendarControllerTest::event_longTitle_isCut()
 void CalendarControllerTest::storeChange_readsAgain()
 {
     grant();
+    answer({});
 
     Q_EMIT m_store->changed();
 
@@ -495,14 +534,23 @@ void CalendarControllerTest::noStore_staysUnknown()
 
 void CalendarControllerTest::answers_afterTheEnd_areHarmless()
 {
-    grant();
+    int asked = 0; // Which a controller that is gone would do.
+    m_controller = std::make_unique<CalendarController>(m_store.get(), [this, &asked] {
+        ++asked;
+        return m_hands.now;
+    });
+    m_store->authorizations.at(1)(Authorization::FullAccess);
     m_controller->requestAccess();
+    asked = 0;
 
     m_controller.reset();
-
-    grant();
+    m_store->authorizations.at(1)(Authorization::FullAccess);
     m_store->requests.at(0)(true);
     answer({entry(u"Call"_s, 1, 2)});
+    Q_EMIT m_store->changed();
+
+    QCOMPARE(asked, 0);
+    QCOMPARE(m_store->readings.size(), 1U);
 }
 
 QTEST_GUILESS_MAIN(CalendarControllerTest)

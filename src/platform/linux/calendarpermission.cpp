@@ -38,17 +38,22 @@ constexpr int Forever = std::numeric_limits<int>::max(); ///< The user may think
 constexpr uint Allowed = 0;
 constexpr uint Refused = 1;
 
-/// That there is nobody to ask, rather than somebody who failed.
+constexpr qsizetype LongestBusName = 255;
+
+/// That there is nobody to ask, or nobody who could be started, rather than somebody who failed.
 bool meansNobody(const QDBusError& error)
 {
     switch (error.type()) {
+    case QDBusError::TimedOut: // Of starting them; who is there and hangs gives no reply.
+    case QDBusError::InvalidService:
     case QDBusError::ServiceUnknown:
     case QDBusError::UnknownInterface:
     case QDBusError::UnknownMethod:
     case QDBusError::UnknownObject: return true;
     default:
         return error.name() == "org.freedesktop.DBus.Error.NameHasNoOwner"_L1
-            || error.name().startsWith("org.freedesktop.DBus.Error.Spawn."_L1);
+            || error.name().startsWith("org.freedesktop.DBus.Error.Spawn."_L1)
+            || error.name().startsWith("org.freedesktop.systemd1."_L1);
     }
 }
 
@@ -72,11 +77,14 @@ QDBusMessage dialogOf(const QString& backend)
     return message;
 }
 
-bool mayStandInABusName(const QString& word)
+bool mayEndABusName(const QString& word)
 {
-    return std::ranges::all_of(word, [](QChar c) {
-        return (c >= u'a' && c <= u'z') || (c >= u'0' && c <= u'9') || c == u'_' || c == u'-';
-    });
+    const bool startsWithDigit = word.front() >= u'0' && word.front() <= u'9';
+    return !startsWithDigit && BackendPrefix.size() + word.size() <= LongestBusName
+        && std::ranges::all_of(word, [](QChar c) {
+               return (c >= u'a' && c <= u'z') || (c >= u'0' && c <= u'9') || c == u'_'
+                   || c == u'-';
+           });
 }
 
 /// Of those that have such a dialog, this desktop's own first.
@@ -84,7 +92,7 @@ QStringList backends()
 {
     auto names
         = qEnvironmentVariable("XDG_CURRENT_DESKTOP").toLower().split(u':', Qt::SkipEmptyParts);
-    names.removeIf([](const QString& name) { return !mayStandInABusName(name); });
+    names.removeIf([](const QString& name) { return !mayEndABusName(name); });
     names << u"gtk"_s << u"gnome"_s << u"kde"_s;
     names.removeDuplicates();
     return names;

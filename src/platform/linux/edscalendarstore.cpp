@@ -38,7 +38,9 @@ EdsCalendarStore::~EdsCalendarStore() = default;
 void EdsCalendarStore::readAuthorization(AuthorizationAnswer answer)
 {
     m_permission.read([this, answer = std::move(answer)](CalendarAuthorization authorization) {
-        m_isGranted = m_isGranted || authorization == CalendarAuthorization::FullAccess;
+        if (!m_wasAnswered) {
+            m_isGranted = authorization == CalendarAuthorization::FullAccess;
+        }
         answer(authorization);
     });
 }
@@ -46,7 +48,11 @@ void EdsCalendarStore::readAuthorization(AuthorizationAnswer answer)
 void EdsCalendarStore::requestFullAccess(AccessAnswer answer)
 {
     m_permission.ask([this, answer = std::move(answer)](bool isGranted) {
+        m_wasAnswered = true;
         m_isGranted = isGranted;
+        if (!isGranted) {
+            close();
+        }
         answer(isGranted);
     });
 }
@@ -81,14 +87,24 @@ void EdsCalendarStore::open()
 void EdsCalendarStore::takePlugin()
 {
     auto* plugin = qobject_cast<EdsPlugin*>(QPluginLoader(m_plugin).instance());
-    m_state = plugin == nullptr ? State::Missing : State::Open;
-    if (plugin != nullptr) {
+    m_state = plugin == nullptr ? State::Missing : State::Closed;
+    if (plugin != nullptr && m_isGranted) {
+        m_state = State::Open;
         m_calendars = plugin->open([this] {
             QMetaObject::invokeMethod(this, &CalendarStore::changed, Qt::QueuedConnection);
         });
     }
     for (const auto& question : std::exchange(m_waiting, {})) {
         ask(question);
+    }
+}
+
+void EdsCalendarStore::close()
+{
+    if (m_calendars) {
+        m_calendars->leave();
+        m_calendars.reset();
+        m_state = State::Closed;
     }
 }
 

@@ -38,12 +38,14 @@ private:
 
     void open();
     void takePlugin();
+    void close();
     void ask(const Question& question);
 
     CalendarPermission m_permission;
     QString m_plugin;
     bool m_hasBus;
     bool m_isGranted = false;
+    bool m_wasAnswered = false; ///< By the user, which counts more than what was read.
     State m_state = State::Closed;
     std::unique_ptr<EdsCalendars> m_calendars; ///< Null unless open.
     std::vector<Question> m_waiting; ///< For the calendars to be open.

@@ -17,6 +17,21 @@ constexpr int MostElements = 20'000;
 constexpr int MostUses = 500;
 constexpr int MostPictures = 4;
 
+constexpr auto Base64Mark = "base64,"_L1;
+constexpr auto PngMagic = "\x89PNG";
+constexpr auto JpegMagic = "\xff\xd8\xff";
+
+/// By what it begins with: whatever it is called, Qt would draw another drawing, uninspected.
+bool isPictureItself(const QString& href)
+{
+    const auto start = href.lastIndexOf(Base64Mark);
+    if (!href.startsWith("data:image/"_L1) || start < 0) {
+        return false;
+    }
+    const auto bytes = QByteArray::fromBase64(href.sliced(start + Base64Mark.size()).toLatin1());
+    return bytes.startsWith(PngMagic) || bytes.startsWith(JpegMagic);
+}
+
 /// Reads a drawing once, and notes what could make it grow while it is drawn.
 class Inspection {
 public:
@@ -29,6 +44,8 @@ public:
                 begin(reader);
             } else if (token == QXmlStreamReader::EndElement) {
                 m_openIds.removeLast();
+            } else if (token == QXmlStreamReader::ProcessingInstruction) {
+                m_isHarmless = false; // It may name a style sheet, which Qt would read.
             }
         }
         return m_isHarmless && !reader.hasError() && !m_used.intersects(m_idsAroundUses);
@@ -41,18 +58,20 @@ private:
         m_openIds << attributes.value("id"_L1).toString();
         m_isHarmless = m_openIds.size() <= DeepestNesting && ++m_elements <= MostElements;
         if (reader.name() == "use"_L1) {
-            noteUse(hrefOf(attributes));
+            noteUse(hrefsOf(attributes));
         } else if (reader.name() == "image"_L1) {
             m_isHarmless = m_isHarmless && ++m_pictures <= MostPictures
-                && hrefOf(attributes).startsWith("data:"_L1);
+                && std::ranges::all_of(hrefsOf(attributes), isPictureItself);
         }
     }
 
     /// What is used must not use others in turn: each level could double the work.
-    void noteUse(const QString& href)
+    void noteUse(const QStringList& hrefs)
     {
         m_isHarmless = m_isHarmless && ++m_uses <= MostUses;
-        m_used << href.sliced(href.startsWith(u'#') ? 1 : 0);
+        for (const auto& href : hrefs) {
+            m_used << href.sliced(href.startsWith(u'#') ? 1 : 0);
+        }
         for (const auto& id : std::as_const(m_openIds)) {
             if (!id.isEmpty()) {
                 m_idsAroundUses << id;
@@ -60,13 +79,16 @@ private:
         }
     }
 
-    static QString hrefOf(const QXmlStreamAttributes& attributes)
+    /// With a prefix and without: an element may have both.
+    static QStringList hrefsOf(const QXmlStreamAttributes& attributes)
     {
-        const auto href
-            = std::ranges::find_if(attributes, [](const QXmlStreamAttribute& attribute) {
-                  return attribute.name() == "href"_L1;
-              });
-        return href == attributes.end() ? QString() : href->value().toString().trimmed();
+        QStringList hrefs;
+        for (const auto& attribute : attributes) {
+            if (attribute.name() == "href"_L1) {
+                hrefs << attribute.value().toString().trimmed();
+            }
+        }
+        return hrefs;
     }
 
     bool m_isHarmless = true;

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <climits>
+#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -19,6 +20,8 @@ namespace {
 
 const auto LastTheme = u"hicolor"_s;
 constexpr qsizetype MostThemes = 20; // One may inherit from itself, or from endlessly many.
+constexpr int LargestSize = 10'000;
+constexpr int LargestScale = 100;
 
 enum class Sizes { Fixed, Scalable, Threshold };
 
@@ -54,18 +57,27 @@ Sizes sizesOf(const QString& type)
 Folder folderOf(const KeyFile& index, const QString& path)
 {
     Folder folder{.path = path, .sizes = sizesOf(index.text(path, "Type"))};
-    folder.size = index.number(path, "Size", 0);
-    folder.scale = std::max(1, index.number(path, "Scale", 1));
+    const auto size = [&](const char* key, int otherwise) {
+        return std::clamp(index.number(path, key, otherwise), 0, LargestSize);
+    };
+    folder.size = size("Size", 0);
+    folder.scale = std::clamp(index.number(path, "Scale", 1), 1, LargestScale);
     folder.smallest = folder.largest = folder.size;
     if (folder.sizes == Sizes::Scalable) {
-        folder.smallest = index.number(path, "MinSize", folder.size);
-        folder.largest = index.number(path, "MaxSize", folder.size);
+        folder.smallest = size("MinSize", folder.size);
+        folder.largest = size("MaxSize", folder.size);
     } else if (folder.sizes == Sizes::Threshold) {
-        const int threshold = index.number(path, "Threshold", 2);
+        const int threshold = size("Threshold", 2);
         folder.smallest -= threshold;
         folder.largest += threshold;
     }
     return folder;
+}
+
+/// Of the folder that a path should stay below.
+bool leadsOut(const QString& path)
+{
+    return path.split(u'/').contains(".."_L1);
 }
 
 Theme readTheme(const QString& name, const QStringList& roots)
@@ -86,8 +98,10 @@ Theme readTheme(const QString& name, const QStringList& roots)
     const KeyFile index(*place + "/index.theme"_L1);
     const auto group = u"Icon Theme"_s;
     theme.parents = index.list(group, "Inherits");
-    for (const auto& path :
-         index.list(group, "Directories") + index.list(group, "ScaledDirectories")) {
+    theme.parents.removeIf(leadsOut);
+    auto folders = index.list(group, "Directories") + index.list(group, "ScaledDirectories");
+    folders.removeIf(leadsOut);
+    for (const auto& path : std::as_const(folders)) {
         theme.folders.push_back(folderOf(index, path));
     }
     return theme;
@@ -185,9 +199,10 @@ IconPlaces iconPlaces(const QString& wishedTheme)
     }
     roots << u"/usr/share/pixmaps"_s;
     const auto isInstalled = [&roots](const QString& theme) {
-        return !theme.isEmpty() && std::ranges::any_of(roots, [&theme](const QString& root) {
-            return QFileInfo::exists(root + u'/' + theme + "/index.theme"_L1);
-        });
+        return !theme.isEmpty() && !leadsOut(theme)
+            && std::ranges::any_of(roots, [&theme](const QString& root) {
+                   return QFileInfo::exists(root + u'/' + theme + "/index.theme"_L1);
+               });
     };
     const std::array candidates{wishedTheme, u"Adwaita"_s, u"breeze"_s};
     const auto found = std::ranges::find_if(candidates, isInstalled);

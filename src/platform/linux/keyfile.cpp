@@ -1,7 +1,5 @@
 #include "platform/linux/keyfile.h"
 
-#include "platform/linux/gowned.h"
-
 #include <QFile>
 #include <QFileInfo>
 

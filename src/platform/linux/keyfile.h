@@ -1,12 +1,11 @@
 #pragma once
 
+#include "platform/linux/gowned.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 
-#include <glib.h>
-
-#include <memory>
 #include <optional>
 
 namespace quib {
@@ -27,11 +26,7 @@ public:
     int number(const QString& group, const char* key, int otherwise) const;
 
 private:
-    struct Freed {
-        void operator()(GKeyFile* file) const { g_key_file_free(file); }
-    };
-
-    std::unique_ptr<GKeyFile, Freed> m_file;
+    GKeyFileOwned m_file;
 };
 
 } // namespace quib

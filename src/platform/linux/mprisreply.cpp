@@ -1,5 +1,7 @@
 #include "platform/linux/mprisreply.h"
 
+#include "model/beginning.h"
+
 #include <QDBusArgument>
 #include <QUrl>
 
@@ -11,6 +13,7 @@ namespace {
 
 constexpr qsizetype LongestText = 300;
 constexpr qsizetype LongestAddress = 8192;
+constexpr qsizetype MostArtists = 40;
 
 QString textOf(const QVariant& value)
 {
@@ -20,11 +23,7 @@ QString textOf(const QVariant& value)
 /// On one line.
 QString shortened(const QString& text)
 {
-    auto start = text.left(LongestText);
-    if (start.size() < text.size() && start.back().isHighSurrogate()) {
-        start.chop(1);
-    }
-    return start.simplified();
+    return beginningOf(text, LongestText).simplified();
 }
 
 /// Taking a map out of anything else would end the program.
@@ -58,7 +57,7 @@ QString artistOf(const QVariantMap& track)
         return shortened(textOf(artist));
     }
     QString all;
-    const auto names = artist.toStringList();
+    const auto names = artist.toStringList().mid(0, MostArtists);
     for (const auto& name : names) {
         const auto one = shortened(name);
         all += all.isEmpty() || one.isEmpty() ? one : u", "_s + one;

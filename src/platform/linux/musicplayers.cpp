@@ -36,9 +36,10 @@ bool isGnomeMusic(const QString& name)
 /// Names are as different as "chromium", "google-chrome" and "org.gnome.Epiphany.Sandboxed".
 bool isBrowser(const QString& kind)
 {
-    static const QSet<QString> browsers{u"firefox"_s, u"chromium"_s, u"chrome"_s,
-                                        u"brave"_s,   u"edge"_s,     u"opera"_s,
-                                        u"vivaldi"_s, u"epiphany"_s, u"webkit"_s};
+    static const QSet<QString> browsers{
+        u"firefox"_s,  u"librewolf"_s, u"waterfox"_s, u"floorp"_s, u"zen"_s,
+        u"chromium"_s, u"chrome"_s,    u"brave"_s,    u"edge"_s,   u"opera"_s,
+        u"vivaldi"_s,  u"epiphany"_s,  u"webkit"_s,   u"falkon"_s, u"qutebrowser"_s};
     auto words = kind.toLower();
     words.replace(u'-', u'.').replace(u'_', u'.');
     return std::ranges::any_of(words.split(u'.'),
@@ -49,7 +50,7 @@ bool isBrowser(const QString& kind)
 bool isDouble(const QString& kind)
 {
     return kind == "playerctld"_L1 || kind == "plasma-browser-integration"_L1
-        || kind.startsWith("kdeconnect."_L1);
+        || kind.startsWith("kdeconnect."_L1) || kind.startsWith("GSConnect."_L1);
 }
 
 bool isMusicPlayer(const QString& name)

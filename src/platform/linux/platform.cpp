@@ -16,6 +16,8 @@
 #include "platform/linux/x11/xcbscreensource.h"
 #include "platform/linux/x11/xserver.h"
 
+#include <utility>
+
 namespace quib {
 
 bool hasDisplay()
@@ -40,12 +42,16 @@ Platform makePlatform()
 
 Platform makePlatformWithoutDisplay()
 {
-    return {.desktop = std::make_unique<PortalDesktop>(),
+    auto desktop = std::make_unique<PortalDesktop>();
+    auto icons = std::make_unique<ThemeIconSource>();
+    QObject::connect(desktop.get(), &PortalDesktop::iconThemeNamed, icons.get(),
+                     &ThemeIconSource::setTheme);
+    return {.desktop = std::move(desktop),
             .applications = std::make_unique<GioAppCatalog>(),
             .opener = std::make_unique<GioOpener>(),
             .player = std::make_unique<MprisPlayerLink>(),
             .calendar = std::make_unique<EdsCalendarStore>(),
-            .icons = std::make_unique<ThemeIconSource>()};
+            .icons = std::move(icons)};
 }
 
 } // namespace quib

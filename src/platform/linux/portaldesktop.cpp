@@ -30,6 +30,7 @@ constexpr auto AppearanceSpace = "org.freedesktop.appearance"_L1;
 constexpr auto ReducedMotionKey = "reduced-motion"_L1;
 constexpr auto InterfaceSpace = "org.gnome.desktop.interface"_L1;
 constexpr auto AnimationsKey = "enable-animations"_L1;
+constexpr auto IconThemeKey = "icon-theme"_L1;
 
 } // namespace
 
@@ -97,6 +98,8 @@ void PortalDesktop::takeSetting(const QString& space, const QString& key, const 
         m_wantsLessMotion = value.variant().toUInt() == 1;
     } else if (space == InterfaceSpace && key == AnimationsKey) {
         m_allowsAnimations = value.variant().toBool();
+    } else if (space == InterfaceSpace && key == IconThemeKey) {
+        Q_EMIT iconThemeNamed(value.variant().toString());
     }
     if (isMotionReduced() != wasReduced) {
         Q_EMIT isMotionReducedChanged();

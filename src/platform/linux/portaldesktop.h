@@ -20,6 +20,10 @@ public:
     QString fontFamily() const override;
     void beep() override;
 
+Q_SIGNALS:
+    /// The user's choice, each time that the desktop tells it.
+    void iconThemeNamed(const QString& name);
+
 private Q_SLOTS:
     void takeSetting(const QString& space, const QString& key, const QDBusVariant& value);
 

@@ -1,5 +1,7 @@
 #include "platform/linux/themeiconsource.h"
 
+#include "platform/linux/startdetached.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QTimer>
@@ -7,7 +9,6 @@
 #include <condition_variable>
 #include <functional>
 #include <mutex>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -135,23 +136,29 @@ void ThemeIconSource::begin()
 void ThemeIconSource::start(const PictureWish& wish)
 {
     const int number = ++m_number;
-    m_running.insert(number);
-    m_letterbox->expect();
-    std::thread([this, letterbox = m_letterbox, number, wish] {
+    const bool isStarted = startDetached([this, letterbox = m_letterbox, number, wish] {
         const auto picture = pictureOf(wish);
         letterbox->post([this, number, wish, picture] { arrive(number, wish, picture); });
-    }).detach();
+    });
+    if (!isStarted) {
+        answer(wish, standIn(wish.pixels));
+        return;
+    }
+    m_running.insert(number);
+    m_letterbox->expect();
     QTimer::singleShot(m_patience, this, [this, number, wish] { giveUp(number, wish); });
 }
 
 void ThemeIconSource::arrive(int number, const PictureWish& wish, const QImage& picture)
 {
-    m_hung.remove(number);
+    const bool wasGivenUp = m_hung.remove(number);
     auto kept = std::make_unique<Kept>(Kept{.picture = picture, .age = {}});
     kept->age.start();
     m_kept.insert(wish, kept.release()); // The cache takes it.
     if (m_running.remove(number)) {
         answer(wish, picture);
+    } else if (wasGivenUp && picture != standIn(wish.pixels)) {
+        Q_EMIT changed();
     }
     begin();
 }

@@ -22,14 +22,16 @@ constexpr int LongEnoughMs = 20'000;
 
 const auto Connection = u"calendardesk"_s;
 
-QByteArray busConfiguration(const QString& services)
+QByteArray busConfiguration(const QString& services, int patience)
 {
     return u"<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\" "
            "\"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">"
            "<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen>"
            "<servicedir>%1</servicedir><policy context=\"default\">"
            "<allow send_destination=\"*\" eavesdrop=\"true\"/><allow eavesdrop=\"true\"/>"
-           "<allow own=\"*\"/></policy></busconfig>"_s.arg(services)
+           "<allow own=\"*\"/></policy><limit name=\"service_start_timeout\">%2</limit>"
+           "</busconfig>"_s.arg(services)
+               .arg(patience)
                .toUtf8();
 }
 
@@ -96,14 +98,20 @@ QByteArray CalendarDesk::calendarOf(const QByteArray& events)
         + events + "END:VCALENDAR\n";
 }
 
-void CalendarDesk::startBus(const QStringList& services)
+void CalendarDesk::makeServiceThatNeverComes(const QString& name) const
+{
+    makeFile(path(u"services/%1.service"_s.arg(name)),
+             "[D-BUS Service]\nName=" + name.toUtf8() + "\nExec=/bin/sleep 60\n");
+}
+
+void CalendarDesk::startBus(const QStringList& services, int startingMs)
 {
     QDir().mkpath(path(u"services"_s));
     for (const auto& service : services) {
         QFile::link(u"/usr/share/dbus-1/services/%1.service"_s.arg(service),
                     path(u"services/%1.service"_s.arg(service)));
     }
-    makeFile(path(u"bus.conf"_s), busConfiguration(path(u"services"_s)));
+    makeFile(path(u"bus.conf"_s), busConfiguration(path(u"services"_s), startingMs));
     m_bus.setProcessEnvironment(environment);
     m_bus.setStandardErrorFile(QProcess::nullDevice());
     m_bus.start(u"dbus-daemon"_s,

@@ -29,7 +29,11 @@ public:
     /// The events as a file has them, with the zone "Own Zone", three hours before UTC.
     static QByteArray calendarOf(const QByteArray& events);
 
-    void startBus(const QStringList& services = {Registry, Factory, PermissionStore});
+    /// One that can be started but never answers for its name; before the bus starts.
+    void makeServiceThatNeverComes(const QString& name) const;
+    /// One that waits so long for services to start.
+    void startBus(const QStringList& services = {Registry, Factory, PermissionStore},
+                  int startingMs = 20'000);
     void killBus();
     /// Of the test itself.
     QDBusConnection bus() const;

@@ -18,12 +18,21 @@ public:
         std::signal(SIGIO, SIG_IGN); // The kernel asks for the lease with it.
         m_isHung = fcntl(m_file, F_SETLEASE, F_WRLCK) == 0;
     }
-    ~HungFile() { close(m_file); }
+    ~HungFile() { answerAtLast(); }
     Q_DISABLE_COPY_MOVE(HungFile)
 
-    bool isHung() const { return m_isHung; }
+    bool isHung() const { return m_isHung && fcntl(m_file, F_GETLEASE) != F_UNLCK; }
     /// That somebody waits to open it.
     bool isWaitedFor() const { return fcntl(m_file, F_GETLEASE) != F_WRLCK; }
+
+    void answerAtLast()
+    {
+        if (m_file >= 0) {
+            close(m_file); // The lease goes with it.
+        }
+        m_file = -1;
+        m_isHung = false;
+    }
 
 private:
     int m_file;

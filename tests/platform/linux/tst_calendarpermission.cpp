@@ -1,9 +1,8 @@
 #include "platform/linux/calendardesk.h"
 #include "platform/linux/calendarpermission.h"
 #include "platform/linux/consentfile.h"
+#include "platform/linux/fakedialog.h"
 
-#include <QDBusMessage>
-#include <QDBusObjectPath>
 #include <QFile>
 #include <QTest>
 
@@ -11,52 +10,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace quib;
-
-/// A desktop's dialog, on a connection of its own.
-class FakeDialog : public QObject {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.impl.portal.Access")
-
-public:
-    uint response = 0;
-    bool staysOpen = false;
-    QStringList shownFor; ///< The applications.
-
-    bool start(const QString& address, const QString& backend = u"gtk"_s)
-    {
-        m_bus = QDBusConnection::connectToBus(address, u"dialog "_s + backend);
-        m_connection = m_bus.name();
-        return m_bus.registerObject(u"/org/freedesktop/portal/desktop"_s, this,
-                                    QDBusConnection::ExportScriptableSlots)
-            && m_bus.registerService(u"org.freedesktop.impl.portal.desktop."_s + backend);
-    }
-
-    ~FakeDialog() override { crash(); }
-    FakeDialog() = default;
-    Q_DISABLE_COPY_MOVE(FakeDialog)
-
-    void crash() const { QDBusConnection::disconnectFromBus(m_connection); }
-    void close(uint with) { m_bus.send(m_open.createReply({with, QVariantMap()})); }
-
-public Q_SLOTS:
-    Q_SCRIPTABLE uint AccessDialog(const QDBusObjectPath& /*handle*/, const QString& application,
-                                   const QString& /*parent*/, const QString& /*title*/,
-                                   const QString& /*subtitle*/, const QString& /*body*/,
-                                   const QVariantMap& /*options*/, const QDBusMessage& message,
-                                   QVariantMap& results)
-    {
-        shownFor << application;
-        m_open = message;
-        message.setDelayedReply(staysOpen);
-        results.clear();
-        return response;
-    }
-
-private:
-    QDBusConnection m_bus{QString()};
-    QString m_connection;
-    QDBusMessage m_open;
-};
 
 class CalendarPermissionTest : public QObject {
     Q_OBJECT
@@ -73,12 +26,17 @@ private Q_SLOTS:
     void ask_noDialog_isTheConsent();
     void ask_ofTheDesktopsOwnDialogFirst();
     void ask_backendWithoutDialog_isPassedOver();
+    void ask_backendThatCannotStart_isPassedOver_data();
+    void ask_backendThatCannotStart_isPassedOver();
+    void ask_desktopWithAStrangeName_isTheConsent_data();
+    void ask_desktopWithAStrangeName_isTheConsent();
     void ask_dialogCrashes_isNotGranted();
     void ask_busDies_isNotGranted();
     void ask_twice_showsOneDialog();
     void ask_hungStore_isAnswered();
     void ask_noStore_isKeptInAFile_data();
     void ask_noStore_isKeptInAFile();
+    void ask_storeThatCannotStart_isKeptInAFile();
     void ask_noBus_isKeptInAFile();
     void read_unreadableFile_isUndecided_data();
     void read_unreadableFile_isUndecided();
@@ -251,6 +209,49 @@ void CalendarPermissionTest::ask_backendWithoutDialog_isPassedOver()
     QCOMPARE(isGranted, false);
 }
 
+void CalendarPermissionTest::ask_backendThatCannotStart_isPassedOver_data()
+{
+    QTest::addColumn<QString>("error");
+
+    QTest::addRow("too slow") << u"org.freedesktop.DBus.Error.TimedOut"_s;
+    QTest::addRow("no unit") << u"org.freedesktop.systemd1.NoSuchUnit"_s;
+    QTest::addRow("masked unit") << u"org.freedesktop.systemd1.UnitMasked"_s;
+    QTest::addRow("no program") << u"org.freedesktop.DBus.Error.Spawn.ExecFailed"_s;
+}
+
+void CalendarPermissionTest::ask_backendThatCannotStart_isPassedOver()
+{
+    QFETCH(const QString, error);
+    startBus();
+    FakeDialog broken;
+    broken.failure = error;
+    QVERIFY(broken.start(address(), u"gtk"_s));
+    m_dialog->response = 1;
+    QVERIFY(m_dialog->start(address(), u"kde"_s));
+
+    QCOMPARE(ask(), false);
+
+    QCOMPARE(m_dialog->shownFor.size(), 1);
+}
+
+void CalendarPermissionTest::ask_desktopWithAStrangeName_isTheConsent_data()
+{
+    QTest::addColumn<QByteArray>("desktop");
+
+    QTest::addRow("a digit first") << QByteArray("2bwm");
+    QTest::addRow("too long for a bus name") << QByteArray(300, 'x');
+    QTest::addRow("nothing but colons") << QByteArray(":::");
+}
+
+void CalendarPermissionTest::ask_desktopWithAStrangeName_isTheConsent()
+{
+    QFETCH(const QByteArray, desktop);
+    startBus();
+    qputenv("XDG_CURRENT_DESKTOP", desktop);
+
+    QCOMPARE(ask(), true);
+}
+
 void CalendarPermissionTest::ask_dialogCrashes_isNotGranted()
 {
     startBus();
@@ -335,6 +336,18 @@ void CalendarPermissionTest::ask_noStore_isKeptInAFile()
     QTRY_COMPARE(written(), word);
     m_permission = std::make_unique<CalendarPermission>(m_desk->bus());
     QCOMPARE(read(), kept);
+}
+
+void CalendarPermissionTest::ask_storeThatCannotStart_isKeptInAFile()
+{
+    m_desk->makeServiceThatNeverComes(CalendarDesk::PermissionStore);
+    m_desk->startBus({}, 200);
+    m_permission = std::make_unique<CalendarPermission>(m_desk->bus());
+
+    QCOMPARE(ask(), true);
+
+    QTRY_VERIFY(QFile::exists(consentFile()));
+    QCOMPARE(read(), CalendarAuthorization::FullAccess);
 }
 
 void CalendarPermissionTest::ask_noBus_isKeptInAFile()

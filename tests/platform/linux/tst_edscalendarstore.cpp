@@ -1,4 +1,5 @@
 #include "platform/linux/calendardesk.h"
+#include "platform/linux/fakedialog.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -106,7 +107,11 @@ private Q_SLOTS:
     void changed_anotherProgramAddsMovesAndDeletes();
     void changed_anotherProgramPaints();
     void changed_onTheDayReadLast();
+    void changed_refusedMeanwhile_readsAnewWhenGranted();
+    void refusal_countsMoreThanALateAuthorization();
     void killedService_isStartedAgain();
+    void serviceKilledOften_isStartedAgainSoon();
+    void serviceKilledWhileItReads_leavesWhatWasRead();
     void hungService_holdsUpNothing();
     void hungRegistry_holdsUpNeitherThePanelNorTheEnd();
     void manyRecurringEvents_canBeQuitFrom();
@@ -156,6 +161,11 @@ void EdsCalendarStoreTest::read_givesWhatHappensThatDay_data()
          u"02 21:00 - 02 21:15 Once cancelled"_s, // The next day's.
          u"02 01:00 - 02 01:10 (none)"_s});
     add("Asia/Tokyo",
+        {u"01 18:00 - 04 02:00 Two nights"_s, u"02 21:00 - 02 21:30 Noon UTC"_s,
+         u"02 23:00 - 02 23:30 New York"_s, u"02 17:00 - 02 17:30 Own zone"_s,
+         u"02 19:30 - 02 19:45 Daily"_s, u"02 22:00 - 02 22:15 Weekly, moved"_s,
+         u"02 18:00 - 02 18:10 (none)"_s, u"02 16:00 - 02 16:00 No end"_s});
+    add("Etc/GMT-9", // Of which the service knows nothing.
         {u"01 18:00 - 04 02:00 Two nights"_s, u"02 21:00 - 02 21:30 Noon UTC"_s,
          u"02 23:00 - 02 23:30 New York"_s, u"02 17:00 - 02 17:30 Own zone"_s,
          u"02 19:30 - 02 19:45 Daily"_s, u"02 22:00 - 02 22:15 Weekly, moved"_s,
@@ -361,6 +371,47 @@ void EdsCalendarStoreTest::changed_onTheDayReadLast()
     QCOMPARE(m_desk->read(Monday.addDays(10)), QStringList(u"12 12:00 - 12 12:30 Call"_s));
 }
 
+void EdsCalendarStoreTest::changed_refusedMeanwhile_readsAnewWhenGranted()
+{
+    m_desk->makeCalendar(u"work"_s, {});
+    m_desk->startBus();
+    m_desk->startGranted();
+    QCOMPARE(m_desk->read(Monday), QStringList());
+    FakeDialog dialog;
+    dialog.response = 1;
+    QVERIFY(dialog.start(m_desk->environment.value(u"DBUS_SESSION_BUS_ADDRESS"_s)));
+
+    QCOMPARE(m_desk->answerTo({u"request"_s}), u"0"_s);
+    QVERIFY(m_desk->write({u"work"_s, u"add"_s, QString::fromLatin1(Call)}));
+    QCOMPARE(m_desk->answerTo({u"read"_s, u"2026-03-02"_s}), u"[]"_s);
+
+    dialog.response = 0;
+    QCOMPARE(m_desk->answerTo({u"request"_s}), u"1"_s);
+    QCOMPARE(m_desk->read(Monday), ShownCall);
+    QVERIFY(m_desk->write({u"work"_s, u"remove"_s, u"call"_s}));
+    QTRY_COMPARE(m_desk->changes(), 1); // Nothing was told while it was refused.
+    QVERIFY(m_desk->quit());
+}
+
+void EdsCalendarStoreTest::refusal_countsMoreThanALateAuthorization()
+{
+    m_desk->makeCalendar(u"work"_s, Call);
+    m_desk->startBus();
+    m_desk->setPermission(u"yes"_s);
+    FakeDialog dialog;
+    dialog.response = 1;
+    QVERIFY(dialog.start(m_desk->environment.value(u"DBUS_SESSION_BUS_ADDRESS"_s)));
+    m_desk->signalTo({CalendarDesk::PermissionStore}, SIGSTOP);
+    m_desk->start();
+
+    m_desk->send({u"authorization"_s});
+    QCOMPARE(m_desk->answerTo({u"request"_s}), u"0"_s);
+    m_desk->signalTo({CalendarDesk::PermissionStore}, SIGCONT);
+
+    QCOMPARE(m_desk->awaited(u"authorization"_s), u"3"_s);
+    QCOMPARE(m_desk->answerTo({u"read"_s, u"2026-03-02"_s}), u"[]"_s);
+}
+
 void EdsCalendarStoreTest::killedService_isStartedAgain()
 {
     m_desk->makeCalendar(u"work"_s, Call);
@@ -373,6 +424,42 @@ void EdsCalendarStoreTest::killedService_isStartedAgain()
 
     QTRY_VERIFY(m_desk->changes() > before);
     QCOMPARE(m_desk->read(Monday), ShownCall);
+}
+
+void EdsCalendarStoreTest::serviceKilledOften_isStartedAgainSoon()
+{
+    for (const auto& id : {u"a"_s, u"b"_s, u"c"_s}) {
+        m_desk->makeCalendar(id, Call);
+    }
+    m_desk->startBus();
+    m_desk->startGranted();
+    QCOMPARE(m_desk->read(Monday).size(), 3);
+
+    for (const auto& color : {u"#ff0000"_s, u"#ff7800"_s, u"#00ff00"_s, u"#0000ff"_s}) {
+        const auto before = m_desk->changes();
+        m_desk->signalTo(CalendarDesk::Processes, SIGKILL);
+        QTRY_VERIFY(m_desk->changes() > before);
+        QCOMPARE(m_desk->read(Monday).size(), 3);
+        const auto then = m_desk->changes();
+        QVERIFY(m_desk->write({u"a"_s, u"paint"_s, color}));
+        QTRY_VERIFY(m_desk->changes() > then);
+        QVERIFY(m_desk->answerTo({u"read"_s, u"2026-03-02"_s}).contains(color));
+    }
+}
+
+void EdsCalendarStoreTest::serviceKilledWhileItReads_leavesWhatWasRead()
+{
+    m_desk->makeCalendar(u"work"_s, Call);
+    m_desk->startBus();
+    m_desk->startGranted();
+    QCOMPARE(m_desk->read(Monday), ShownCall);
+
+    m_desk->signalTo(CalendarDesk::Processes, SIGSTOP);
+    m_desk->send({u"read"_s, u"2026-03-02"_s});
+    QCOMPARE(m_desk->answerTo({u"alive"_s}), u"yes"_s);
+    m_desk->signalTo(CalendarDesk::Processes, SIGKILL);
+
+    QCOMPARE(CalendarDesk::shownIn(m_desk->awaited(u"read"_s)), ShownCall);
 }
 
 void EdsCalendarStoreTest::hungService_holdsUpNothing()
@@ -466,7 +553,7 @@ void EdsCalendarStoreTest::deadBus_isSurvived()
 
     m_desk->killBus();
 
-    QCOMPARE(m_desk->answerTo({u"read"_s, u"2026-03-02"_s}), u"[]"_s);
+    QVERIFY(!m_desk->answerTo({u"read"_s, u"2026-03-02"_s}).isEmpty());
     QVERIFY(m_desk->quit());
 }
 

@@ -20,6 +20,8 @@ class LaunchInstalledTest : public QObject {
 private Q_SLOTS:
     void theFirstInstalled_isLaunched_data();
     void theFirstInstalled_isLaunched();
+    void entryOfNoUse_isPassedOver_data();
+    void entryOfNoUse_isPassedOver();
     void noneInstalled_nothingHappens();
     void brokenEntry_nothingHappens();
     void hungDisk_blocksNothing();
@@ -50,6 +52,28 @@ void LaunchInstalledTest::theFirstInstalled_isLaunched()
     QVERIFY(desk.ask({u"launchSpotify"_s}));
 
     QTRY_COMPARE(desk.started(), Started{{launched}});
+}
+
+void LaunchInstalledTest::entryOfNoUse_isPassedOver_data()
+{
+    QTest::addColumn<QString>("line");
+
+    QTest::addRow("hidden") << u"Hidden=true"_s;
+    QTest::addRow("its program is missing") << u"TryExec=nowhere-to-be-found"_s;
+    QTest::addRow("its program's path is missing") << u"TryExec=/nowhere/spotify"_s;
+}
+
+void LaunchInstalledTest::entryOfNoUse_isPassedOver()
+{
+    QFETCH(const QString, line);
+    OpenerDesk desk;
+    desk.install(Ways[0], u"%U"_s, line);
+    desk.install(Ways[1], u"%U"_s, u"Hidden=false\nTryExec=sh"_s);
+    desk.start();
+
+    QVERIFY(desk.ask({u"launchSpotify"_s}));
+
+    QTRY_COMPARE(desk.started(), Started{{Ways[1]}});
 }
 
 void LaunchInstalledTest::noneInstalled_nothingHappens()

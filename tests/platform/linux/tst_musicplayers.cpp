@@ -61,7 +61,7 @@ void MusicPlayersTest::nameOf_data()
     QTest::addRow("a player beside a browser")
         << u"firefox.instance_1_84 vlc"_s << u""_s << u"vlc"_s;
     QTest::addRow("a name that only holds a browser's")
-        << u"operator knowledge"_s << u""_s << u"knowledge"_s;
+        << u"operator knowledge zenith"_s << u""_s << u"knowledge"_s;
     QTest::addRow("a name that starts with its number")
         << u".instance1"_s << u""_s << u".instance1"_s;
 }
@@ -83,12 +83,31 @@ void MusicPlayersTest::noMusicPlayer_data()
 {
     QTest::addColumn<QString>("name");
 
-    for (const auto* end :
-         {"firefox.instance_1_84", "chromium.instance10", "chrome.instance10", "google-chrome",
-          "brave.instance10", "brave-browser", "edge.instance10", "microsoft-edge.instance3",
-          "opera.instance1", "vivaldi.instance1", "epiphany", "webkit.instance42-1",
-          "org.gnome.Epiphany.Sandboxed.instance-2", "org.mozilla.firefox",
-          "plasma-browser-integration", "playerctld", "kdeconnect.mpris_000001"}) {
+    for (const auto* end : {"firefox.instance_1_84",
+                            "chromium.instance10",
+                            "chrome.instance10",
+                            "google-chrome",
+                            "brave.instance10",
+                            "brave-browser",
+                            "edge.instance10",
+                            "microsoft-edge.instance3",
+                            "opera.instance1",
+                            "vivaldi.instance1",
+                            "epiphany",
+                            "webkit.instance42-1",
+                            "org.gnome.Epiphany.Sandboxed.instance-2",
+                            "org.mozilla.firefox",
+                            "librewolf.instance_1_9",
+                            "io.gitlab.librewolf-community",
+                            "waterfox.instance_1_9",
+                            "floorp.instance_1_9",
+                            "zen.instance_1_9",
+                            "falkon.instance9",
+                            "qutebrowser.instance9",
+                            "plasma-browser-integration",
+                            "playerctld",
+                            "kdeconnect.mpris_000001",
+                            "GSConnect.PixelPhone"}) {
         QTest::addRow("%s", end) << name(QString::fromLatin1(end));
     }
     QTest::addRow("another service") << u"org.freedesktop.Notifications"_s;

@@ -1,10 +1,13 @@
 #include "platform/linux/portaldesktop.h"
+#include "platform/platform.h"
 
 #include <QDBusMessage>
 #include <QDBusMetaType>
+#include <QDir>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -74,6 +77,7 @@ private Q_SLOTS:
     void isMotionReduced_followsChanges();
     void isMotionReducedChanged_onlyWhenItChanges();
     void isMotionReduced_noBus_isFalse();
+    void iconTheme_isTheUsersChoice();
     void fontFamily_withoutADesktop_isInter();
 
 private:
@@ -86,6 +90,27 @@ constexpr auto Interface = "org.gnome.desktop.interface"_L1;
 constexpr auto Animations = "enable-animations"_L1;
 constexpr auto Appearance = "org.freedesktop.appearance"_L1;
 constexpr auto ReducedMotion = "reduced-motion"_L1;
+constexpr auto IconTheme = "icon-theme"_L1;
+
+/// With one picture, that of folders.
+void makeTheme(const QString& path, const QColor& color)
+{
+    QDir().mkpath(path + u"/32"_s);
+    QFile index(path + u"/index.theme"_s);
+    QVERIFY(index.open(QIODevice::WriteOnly));
+    index.write("[Icon Theme]\nName=x\nDirectories=32\n[32]\nSize=32\n");
+    QImage image(32, 32, QImage::Format_ARGB32);
+    image.fill(color);
+    QVERIFY(image.save(path + u"/32/folder.png"_s));
+}
+
+QColor colorOfFolders(IconSource& icons)
+{
+    QImage answer;
+    icons.find(QDir::rootPath(), 32, [&answer](const QImage& picture) { answer = picture; });
+    return QTest::qWaitFor([&answer] { return !answer.isNull(); }) ? answer.pixelColor(16, 16)
+                                                                   : QColor();
+}
 
 } // namespace
 
@@ -213,6 +238,25 @@ void PortalDesktopTest::isMotionReduced_noBus_isFalse()
     const PortalDesktop desktop{QDBusConnection(u"none"_s)};
 
     QVERIFY(!desktop.isMotionReduced());
+}
+
+void PortalDesktopTest::iconTheme_isTheUsersChoice()
+{
+    const QTemporaryDir home;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
+    makeTheme(home.filePath(u"icons/Green"_s), Qt::green);
+    makeTheme(home.filePath(u"icons/Blue"_s), Qt::blue);
+    m_portal->settings[Interface][IconTheme] = u"Green"_s;
+    QVERIFY(m_portal->start());
+    const auto platform = makePlatformWithoutDisplay();
+    const QSignalSpy changed(platform.icons.get(), &IconSource::changed);
+
+    QTRY_COMPARE(changed.size(), 1);
+    QCOMPARE(colorOfFolders(*platform.icons), QColor(Qt::green));
+    m_portal->change(Interface, IconTheme, u"Blue"_s);
+    QTRY_COMPARE(changed.size(), 2);
+
+    QCOMPARE(colorOfFolders(*platform.icons), QColor(Qt::blue));
 }
 
 void PortalDesktopTest::fontFamily_withoutADesktop_isInter()

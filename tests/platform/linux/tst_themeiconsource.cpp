@@ -1,3 +1,4 @@
+#include "platform/linux/hungfile.h"
 #include "platform/linux/themeiconsource.h"
 
 #include <QDir>
@@ -7,11 +8,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <csignal>
-
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -31,6 +28,7 @@ private Q_SLOTS:
     void themeOfTheUser_isAskedFirst();
     void installedTheme_hasAnIconForEachKind();
     void drawing_isSharpInEverySize();
+    void pictureInADrawing_isDrawn();
     void oblongPicture_keepsItsShape();
     void nearestSize_isTaken_data();
     void nearestSize_isTaken();
@@ -38,11 +36,15 @@ private Q_SLOTS:
     void hostilePicture_isTheStandIn();
     void hostileEntry_isTheStandIn_data();
     void hostileEntry_isTheStandIn();
+    void hostileTheme_staysInItsFolder_data();
+    void hostileTheme_staysInItsFolder();
+    void hostileTheme_hugeNumbers_areAsGoodAsAny();
     void answer_comesLaterAndOnce();
     void sameQuestions_haveOneAnswer();
     void manyQuestions_areAllAnswered();
     void hungFile_holdsUpNoOther();
     void manyHungFiles_areGivenUpUntilOneAnswers();
+    void iconThatComesTooLate_isAnnounced();
     void hungFile_holdsUpNoEnd();
     void sourceGone_nobodyAnswers();
     void newTheme_isAnnounced();
@@ -74,34 +76,6 @@ QByteArray indexOf(const QList<int>& sizes)
     }
     return "[Icon Theme]\nName=x\nDirectories=" + names.join(',') + "\n" + folders;
 }
-
-/// A file that nobody else can open: whoever tries waits until it is given back.
-class HungFile {
-public:
-    explicit HungFile(const QString& path)
-        : m_file(open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC))
-    {
-        std::signal(SIGIO, SIG_IGN); // By which the system asks for it back.
-        m_isHung = fcntl(m_file, F_SETLEASE, F_WRLCK) == 0;
-    }
-    ~HungFile() { answerAtLast(); }
-    Q_DISABLE_COPY_MOVE(HungFile)
-
-    /// The system takes it back after some 45 seconds.
-    bool isHung() const { return m_isHung && fcntl(m_file, F_GETLEASE) != F_UNLCK; }
-    void answerAtLast()
-    {
-        if (m_isHung) {
-            fcntl(m_file, F_SETLEASE, F_UNLCK);
-            close(m_file);
-        }
-        m_isHung = false;
-    }
-
-private:
-    int m_file;
-    bool m_isHung = false;
-};
 
 QColor middleOf(const QImage& image)
 {
@@ -256,6 +230,19 @@ void ThemeIconSourceTest::drawing_isSharpInEverySize()
     }
 }
 
+void ThemeIconSourceTest::pictureInADrawing_isDrawn()
+{
+    QFile inner(picture(u"inner.png"_s, Qt::green));
+    QVERIFY(inner.open(QIODevice::ReadOnly));
+    const auto file = put(u"outer.svg"_s,
+                          R"(<svg xmlns="http://www.w3.org/2000/svg"
+        xmlns:xlink="http://www.w3.org/1999/xlink" width="9" height="9"><image width="9" height="9"
+        xlink:href="data:image/png;base64,)"
+                              + inner.readAll().toBase64() + R"("/></svg>)");
+
+    QCOMPARE(middleOf(ask(*m_source, entry(file))), QColor(Qt::green));
+}
+
 void ThemeIconSourceTest::oblongPicture_keepsItsShape()
 {
     const auto answer = ask(*m_source, entry(picture(u"wide.png"_s, Qt::green, {64, 32})), 20);
@@ -301,6 +288,10 @@ void ThemeIconSourceTest::hostilePicture_isTheStandIn_data()
         const auto use = "<use xlink:href=\"#a" + QByteArray::number(level - 1) + "\"/>";
         lots += "<g id=\"a" + QByteArray::number(level) + "\">" + use + use + "</g>";
     }
+    const auto nested = [inner = (svg + rect + "</svg>").toBase64()](const QByteArray& kind) {
+        return R"(<image width="9" height="9" xlink:href="data:)" + kind + ";base64," + inner
+            + R"("/>)";
+    };
     QByteArray huge = QByteArray::fromHex("89504e470d0a1a0a0000000d49484452000fffff000fffff08060000"
                                           "00");
 
@@ -315,6 +306,16 @@ void ThemeIconSourceTest::hostilePicture_isTheStandIn_data()
             + "</svg>";
     QTest::addRow("a drawing that reads another file")
         << svg + R"(<image width="9" height="9" xlink:href="/dev/zero"/></svg>)";
+    QTest::addRow("a drawing that reads another file by either name of the address")
+        << svg + R"(<image width="9" height="9" href="data:image/png;base64,iVBORw0K"
+            xlink:href="/dev/zero"/></svg>)";
+    QTest::addRow("a drawing with an endless style sheet")
+        << R"(<?xml-stylesheet type="text/css" href="/dev/zero"?>)" + svg + rect + "</svg>";
+    QTest::addRow("a drawing with a style sheet that nobody writes")
+        << R"(<?xml-stylesheet type="text/css" href="FIFO"?>)" + svg + rect + "</svg>";
+    QTest::addRow("a drawing in a drawing") << svg + nested("image/svg+xml") + "</svg>";
+    QTest::addRow("a drawing in a drawing that calls itself a picture")
+        << svg + nested("image/png") + "</svg>";
     QTest::addRow("entities in entities")
         << "<!DOCTYPE svg [<!ENTITY a \"xxxxxxxxxx\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;&a;\">"
            "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;&b;\"><!ENTITY d \"&c;&c;&c;&c;&c;&c;&c;&c;\">]>"
@@ -327,7 +328,9 @@ void ThemeIconSourceTest::hostilePicture_isTheStandIn_data()
 void ThemeIconSourceTest::hostilePicture_isTheStandIn()
 {
     QFETCH(QByteArray, bytes);
-    const auto file = put(u"hostile.svg"_s, bytes);
+    const auto fifo = QFile::encodeName(m_home->filePath(u"fifo"_s));
+    QCOMPARE(mkfifo(fifo.constData(), 0600), 0);
+    const auto file = put(u"hostile.svg"_s, bytes.replace("FIFO", fifo));
 
     QCOMPARE(ask(*m_source, entry(file)), quib::standIn(32));
 }
@@ -354,6 +357,35 @@ void ThemeIconSourceTest::hostileEntry_isTheStandIn()
     QCOMPARE(mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
 
     QCOMPARE(ask(*m_source, entry(icon == u"FIFO"_s ? fifo : icon)), quib::standIn(32));
+}
+
+void ThemeIconSourceTest::hostileTheme_staysInItsFolder_data()
+{
+    QTest::addColumn<QByteArray>("index");
+
+    QTest::addRow("by a folder") << QByteArray(
+        "[Icon Theme]\nName=x\nDirectories=../../../hidden\n[../../../hidden]\nSize=32\n");
+    QTest::addRow("by a parent") << QByteArray("[Icon Theme]\nName=x\nInherits=../../hidden\n");
+}
+
+void ThemeIconSourceTest::hostileTheme_staysInItsFolder()
+{
+    QFETCH(QByteArray, index);
+    theme(u"Ours"_s, index);
+    put(u"hidden/index.theme"_s, "[Icon Theme]\nName=x\nDirectories=.\n[.]\nSize=32\n");
+    picture(u"hidden/a.png"_s, Qt::red);
+
+    QCOMPARE(ask(*m_source, entry(u"a"_s)), quib::standIn(32));
+}
+
+void ThemeIconSourceTest::hostileTheme_hugeNumbers_areAsGoodAsAny()
+{
+    theme(u"Ours"_s,
+          "[Icon Theme]\nName=x\nDirectories=32\n[32]\nSize=2147483647\n"
+          "Scale=2147483647\nThreshold=-2147483648\n");
+    picture(u"data/icons/Ours/32/a.png"_s, Qt::green);
+
+    QCOMPARE(middleOf(ask(*m_source, entry(u"a"_s))), QColor(Qt::green));
 }
 
 void ThemeIconSourceTest::answer_comesLaterAndOnce()
@@ -433,6 +465,22 @@ void ThemeIconSourceTest::manyHungFiles_areGivenUpUntilOneAnswers()
     hung.answerAtLast();
 
     QTRY_COMPARE(middleOf(ask(source, own)), QColor(Qt::green));
+}
+
+void ThemeIconSourceTest::iconThatComesTooLate_isAnnounced()
+{
+    const auto file = picture(u"own.png"_s, Qt::green);
+    const auto path = entry(file);
+    HungFile hung(file);
+    ThemeIconSource source(50ms);
+    QSignalSpy changed(&source, &quib::IconSource::changed);
+    QCOMPARE(ask(source, path), quib::standIn(32));
+    QCOMPARE(changed.size(), 0);
+
+    hung.answerAtLast();
+
+    QTRY_COMPARE(changed.size(), 1);
+    QCOMPARE(middleOf(ask(source, path)), QColor(Qt::green));
 }
 
 void ThemeIconSourceTest::hungFile_holdsUpNoEnd()

@@ -1,6 +1,6 @@
 #include "platform/linux/eds/calendarclient.h"
 
-#include "platform/linux/eds/instance.h"
+#include "platform/linux/eds/occurrence.h"
 
 #include <QTimeZone>
 
@@ -14,6 +14,7 @@ namespace quib {
 
 namespace {
 
+constexpr auto NoEvents = "(uid? \"\")"; ///< A query.
 constexpr std::array ViewSignals{"objects-added", "objects-modified", "objects-removed"};
 
 /// Waiting for calendars elsewhere to be reached would take all of the given time without a
@@ -47,6 +48,21 @@ gboolean collect(ICalComponent* event, ICalTime* start, ICalTime* end, gpointer 
     return !g_cancellable_is_cancelled(cancellable);
 }
 
+struct GErrorFreed {
+    void operator()(GError* error) const { g_error_free(error); }
+};
+
+/// What the service itself refuses is another matter.
+bool isOfALostService(const GError* error)
+{
+    return error != nullptr
+        && (error->domain == G_IO_ERROR
+            || g_error_matches(error, G_DBUS_ERROR, G_DBUS_ERROR_NO_REPLY)
+            || g_error_matches(error, G_DBUS_ERROR, G_DBUS_ERROR_SERVICE_UNKNOWN)
+            || g_error_matches(error, G_DBUS_ERROR, G_DBUS_ERROR_NAME_HAS_NO_OWNER)
+            || g_error_matches(error, G_DBUS_ERROR, G_DBUS_ERROR_DISCONNECTED));
+}
+
 /// Where times without a zone of their own are; null where the service does not know the system's.
 ICalTimezone* systemZone()
 {
@@ -55,7 +71,7 @@ ICalTimezone* systemZone()
 
 } // namespace
 
-std::unique_ptr<CalendarClient> CalendarClient::connect(ESource* source, const Span& watched,
+std::unique_ptr<CalendarClient> CalendarClient::connect(ESource* source, const Span& span,
                                                         GCancellable* cancellable,
                                                         Listener listener)
 {
@@ -64,15 +80,14 @@ std::unique_ptr<CalendarClient> CalendarClient::connect(ESource* source, const S
     if (client == nullptr) {
         return nullptr;
     }
-    std::unique_ptr<CalendarClient> connected(new CalendarClient(
-        GOwned<ECalClient>(E_CAL_CLIENT(client)), cancellable, std::move(listener)));
-    connected->watch(watched);
-    return connected;
+    return std::unique_ptr<CalendarClient>(new CalendarClient(
+        GOwned<ECalClient>(E_CAL_CLIENT(client)), span, cancellable, std::move(listener)));
 }
 
-CalendarClient::CalendarClient(GOwned<ECalClient> client, GCancellable* cancellable,
+CalendarClient::CalendarClient(GOwned<ECalClient> client, Span span, GCancellable* cancellable,
                                Listener listener)
     : m_client(std::move(client))
+    , m_span(std::move(span))
     , m_cancellable(cancellable)
     , m_listener(std::move(listener))
 {
@@ -87,26 +102,29 @@ CalendarClient::~CalendarClient()
     g_signal_handlers_disconnect_by_data(m_client.get(), this);
 }
 
-QList<CalendarEntry> CalendarClient::read(const Span& span) const
+std::optional<QList<CalendarEntry>> CalendarClient::read()
 {
+    if (!m_view) {
+        watch();
+    }
     auto* zone = systemZone();
     if (zone != nullptr) {
         e_cal_client_set_default_timezone(m_client.get(), zone);
     }
     Collection collection{.facts = factsOf(e_client_get_source(E_CLIENT(m_client.get())), zone),
-                          .span = span,
+                          .span = m_span,
                           .entries = {}};
-    const auto searched = span.widened();
+    const auto searched = m_span.widened();
     e_cal_client_generate_instances_sync(m_client.get(), searched.from.toSecsSinceEpoch(),
                                          searched.to.toSecsSinceEpoch(), m_cancellable, collect,
                                          &collection);
-    return collection.entries;
+    return isReached() ? std::optional(collection.entries) : std::nullopt;
 }
 
-void CalendarClient::watch(const Span& span)
+void CalendarClient::watch()
 {
     ECalClientView* view = nullptr;
-    if (!e_cal_client_get_view_sync(m_client.get(), queryFor(span.widened()).constData(), &view,
+    if (!e_cal_client_get_view_sync(m_client.get(), queryFor(m_span.widened()).constData(), &view,
                                     m_cancellable, nullptr)) {
         return;
     }
@@ -120,6 +138,17 @@ void CalendarClient::watch(const Span& span)
     // Without what is there already, which is read anyway.
     e_cal_client_view_set_flags(view, E_CAL_CLIENT_VIEW_FLAGS_NONE, nullptr);
     e_cal_client_view_start(view, nullptr);
+}
+
+/// Asks for something small: libecal does not tell that it could not read the events.
+bool CalendarClient::isReached() const
+{
+    GSList* none = nullptr;
+    GError* failure = nullptr;
+    e_cal_client_get_object_list_sync(m_client.get(), NoEvents, &none, m_cancellable, &failure);
+    g_slist_free_full(none, g_object_unref);
+    const std::unique_ptr<GError, GErrorFreed> error(failure);
+    return !isOfALostService(error.get());
 }
 
 void CalendarClient::die(EClient* /*client*/, gpointer self)

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace quib {
 
@@ -22,7 +23,7 @@ public:
     };
 
     /// Null where the calendar can't be opened.
-    static std::unique_ptr<CalendarClient> connect(ESource* source, const Span& watched,
+    static std::unique_ptr<CalendarClient> connect(ESource* source, const Span& span,
                                                    GCancellable* cancellable, Listener listener);
 
     ~CalendarClient();
@@ -30,15 +31,19 @@ public:
     CalendarClient& operator=(const CalendarClient&) = delete;
 
     bool isDead() const { return m_isDead; }
-    QList<CalendarEntry> read(const Span& span) const;
+    /// Absent where what reads this calendar crashed meanwhile.
+    std::optional<QList<CalendarEntry>> read();
 
 private:
-    CalendarClient(GOwned<ECalClient> client, GCancellable* cancellable, Listener listener);
-    void watch(const Span& span);
+    CalendarClient(GOwned<ECalClient> client, Span span, GCancellable* cancellable,
+                   Listener listener);
+    void watch();
+    bool isReached() const;
     static void die(EClient* client, gpointer self);
 
     GOwned<ECalClient> m_client;
-    GOwned<ECalClientView> m_view; ///< Null where the calendar can't be watched.
+    Span m_span;
+    GOwned<ECalClientView> m_view; ///< Null where the calendar could not be watched yet.
     GCancellable* m_cancellable;
     Listener m_listener;
     bool m_isDead = false;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace quib {
 
@@ -47,18 +48,19 @@ QList<CalendarEntry> CalendarReader::read(const Span& span)
     }
     watch(span);
     QList<CalendarEntry> entries;
-    Clients kept;
+    Calendars kept;
     auto* const sources
         = e_source_registry_list_enabled(m_registry.get(), E_SOURCE_EXTENSION_CALENDAR);
     for (auto* link = sources; link != nullptr; link = link->next) {
         auto* source = static_cast<ESource*>(link->data);
-        if (auto* client = clientOf(source)) {
-            entries += client->read(span);
-            kept.insert(m_clients.extract(e_source_get_uid(source)));
-        }
+        const QByteArray id(e_source_get_uid(source));
+        auto& calendar = m_calendars[id];
+        refresh(calendar, source);
+        entries += calendar.entries;
+        kept.insert(m_calendars.extract(id));
     }
     g_list_free_full(sources, g_object_unref);
-    m_clients = std::move(kept);
+    m_calendars = std::move(kept);
     return entries;
 }
 
@@ -74,10 +76,9 @@ bool CalendarReader::open()
     if (!m_registry) {
         return false;
     }
-    const auto changed = [](ESourceRegistry*, ESource* source, gpointer reader) {
-        if (e_source_has_extension(source, E_SOURCE_EXTENSION_CALENDAR)) {
-            static_cast<CalendarReader*>(reader)->announceIn(Pause);
-        }
+    // Of any source: calendars may hang on one that is none.
+    const auto changed = [](ESourceRegistry*, ESource*, gpointer reader) {
+        static_cast<CalendarReader*>(reader)->announceIn(Pause);
     };
     for (const auto* signal : RegistrySignals) {
         g_signal_connect(m_registry.get(), signal, G_CALLBACK(+changed), this);
@@ -87,34 +88,38 @@ bool CalendarReader::open()
 
 void CalendarReader::watch(const Span& span)
 {
-    std::erase_if(m_clients, [](const auto& client) { return client.second->isDead(); });
     if (m_span != span) {
-        m_clients.clear();
+        m_calendars.clear();
         m_span = span;
         m_deaths = 0;
     }
 }
 
-CalendarClient* CalendarReader::clientOf(ESource* source)
+void CalendarReader::refresh(Calendar& calendar, ESource* source)
 {
-    auto& client = m_clients[e_source_get_uid(source)];
-    if (!client) {
+    auto& client = calendar.client;
+    if (!client || client->isDead()) {
         client = CalendarClient::connect(
             source, m_span, m_cancellable,
             {.changed = [this] { announceIn(Pause); }, .died = [this] { announceDeath(); }});
     }
-    return client.get();
+    if (auto entries = client ? client->read() : std::nullopt) {
+        calendar.entries = std::move(*entries);
+    }
 }
 
 void CalendarReader::announceIn(std::chrono::milliseconds delay)
 {
-    if (m_announcement) {
+    const auto due = std::chrono::steady_clock::now() + delay;
+    if (m_announcement && m_due <= due) {
         return;
     }
+    m_due = due;
     m_announcement.reset(g_timeout_source_new(static_cast<guint>(delay.count())));
     const auto announce = [](gpointer data) -> gboolean {
         auto* reader = static_cast<CalendarReader*>(data);
         reader->m_announcement.reset();
+        reader->m_announcesDeath = false;
         reader->m_changed();
         return G_SOURCE_REMOVE;
     };
@@ -124,8 +129,9 @@ void CalendarReader::announceIn(std::chrono::milliseconds delay)
 
 void CalendarReader::announceDeath()
 {
-    announceIn(Pause * (1 << std::min(m_deaths, MostDoublings)));
-    ++m_deaths;
+    if (!std::exchange(m_announcesDeath, true)) {
+        announceIn(Pause * (1 << std::min(m_deaths++, MostDoublings)));
+    }
 }
 
 } // namespace quib

@@ -20,8 +20,8 @@ struct GSourceEnded {
     }
 };
 
-/// All of the user's calendars, on a thread with a loop of its own. What can't be reached has no
-/// events.
+/// All of the user's calendars, on a thread with a loop of its own. What can't be reached has the
+/// events that were read last.
 class CalendarReader {
 public:
     CalendarReader(GCancellable* cancellable, std::function<void()> changed);
@@ -33,11 +33,17 @@ public:
     QList<CalendarEntry> read(const Span& span);
 
 private:
-    using Clients = std::map<QByteArray, std::unique_ptr<CalendarClient>>;
+    struct Calendar {
+        std::unique_ptr<CalendarClient> client; ///< Null where it can't be opened.
+        QList<CalendarEntry> entries; ///< As read last.
+    };
+
+    using Calendars = std::map<QByteArray, Calendar>;
 
     bool open();
     void watch(const Span& span);
-    CalendarClient* clientOf(ESource* source);
+    void refresh(Calendar& calendar, ESource* source);
+    /// Unless that happens sooner anyway.
     void announceIn(std::chrono::milliseconds delay);
     void announceDeath();
 
@@ -45,8 +51,10 @@ private:
     std::function<void()> m_changed;
     GOwned<ESourceRegistry> m_registry;
     Span m_span;
-    Clients m_clients; ///< By the calendar's id.
+    Calendars m_calendars; ///< By id.
     std::unique_ptr<GSource, GSourceEnded> m_announcement; ///< Null when none is due.
+    std::chrono::steady_clock::time_point m_due; ///< Of the announcement.
+    bool m_announcesDeath = false; ///< Of which every calendar tells.
     int m_deaths = 0; ///< Of the service, since another span is watched.
 };
 

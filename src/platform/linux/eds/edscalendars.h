@@ -24,6 +24,8 @@ public:
     /// What happens between the two moments, which are watched from now on. The answer is given on
     /// the other thread, and never once this has ended.
     virtual void read(const QDateTime& from, const QDateTime& to, Answer answer) = 0;
+    /// Ends without waiting for the thread. Nothing is asked afterwards.
+    virtual void leave() = 0;
 };
 
 /// What the plugin with the calendars offers. No other part of the program knows the libraries of
@@ -35,7 +37,7 @@ public:
     EdsPlugin(const EdsPlugin&) = delete;
     EdsPlugin& operator=(const EdsPlugin&) = delete;
 
-    /// Tells of changes on the other thread, likewise.
+    /// Tells of changes on the other thread, likewise. Null where there is no room for a thread.
     virtual std::unique_ptr<EdsCalendars> open(std::function<void()> changed) = 0;
 };
 

@@ -2,13 +2,18 @@
 
 #include "platform/linux/eds/edsthread.h"
 
+#include <system_error>
 #include <utility>
 
 namespace quib {
 
 std::unique_ptr<EdsCalendars> EdsPluginObject::open(std::function<void()> changed)
 {
-    return std::make_unique<EdsThread>(std::move(changed));
+    try {
+        return std::make_unique<EdsThread>(std::move(changed));
+    } catch (const std::system_error&) {
+        return nullptr;
+    }
 }
 
 } // namespace quib

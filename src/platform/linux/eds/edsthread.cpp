@@ -54,8 +54,8 @@ public:
         });
     }
 
-    /// True when the thread has ended. From now on nobody is told anything.
-    bool end()
+    /// From now on nobody is told anything.
+    void end()
     {
         {
             const std::lock_guard lock(m_telling);
@@ -63,6 +63,11 @@ public:
         }
         g_cancellable_cancel(m_cancellable.get());
         post([this] { g_main_loop_quit(m_loop.get()); });
+    }
+
+    /// Waits for a moment.
+    bool hasEnded()
+    {
         return m_ended.get_future().wait_for(LongestGoodbye) == std::future_status::ready;
     }
 
@@ -111,7 +116,11 @@ EdsThread::EdsThread(std::function<void()> changed)
 
 EdsThread::~EdsThread()
 {
-    if (m_loop->end()) {
+    if (!m_thread.joinable()) {
+        return;
+    }
+    m_loop->end();
+    if (m_loop->hasEnded()) {
         m_thread.join();
     } else {
         m_thread.detach();
@@ -121,6 +130,12 @@ EdsThread::~EdsThread()
 void EdsThread::read(const QDateTime& from, const QDateTime& to, Answer answer)
 {
     m_loop->read({.from = from, .to = to}, answer);
+}
+
+void EdsThread::leave()
+{
+    m_loop->end();
+    m_thread.detach();
 }
 
 } // namespace quib

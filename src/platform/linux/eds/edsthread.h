@@ -15,6 +15,7 @@ public:
     EdsThread& operator=(const EdsThread&) = delete;
 
     void read(const QDateTime& from, const QDateTime& to, Answer answer) override;
+    void leave() override;
 
 private:
     class Loop;

@@ -1,4 +1,4 @@
-#include "platform/linux/eds/instance.h"
+#include "platform/linux/eds/occurrence.h"
 
 #include "platform/linux/gowned.h"
 
@@ -20,14 +20,19 @@ std::optional<QColor> colorNamed(const QString& name)
 
 QDateTime momentOf(ICalTime* time, ICalTimezone* floatingZone)
 {
+    const QDate day(i_cal_time_get_year(time), i_cal_time_get_month(time),
+                    i_cal_time_get_day(time));
     if (i_cal_time_is_date(time)) {
-        return QDate(i_cal_time_get_year(time), i_cal_time_get_month(time),
-                     i_cal_time_get_day(time))
-            .startOfDay();
+        return day.startOfDay();
     }
-    auto* zone = i_cal_time_get_timezone(time);
-    return QDateTime::fromSecsSinceEpoch(
-        i_cal_time_as_timet_with_zone(time, zone != nullptr ? zone : floatingZone));
+    auto* const own = i_cal_time_get_timezone(time);
+    auto* const zone = own != nullptr ? own : floatingZone;
+    if (zone == nullptr) {
+        return {day,
+                QTime(i_cal_time_get_hour(time), i_cal_time_get_minute(time),
+                      i_cal_time_get_second(time))};
+    }
+    return QDateTime::fromSecsSinceEpoch(i_cal_time_as_timet_with_zone(time, zone));
 }
 
 std::optional<QString> titleOf(ICalComponent* event)
@@ -60,21 +65,21 @@ CalendarFacts factsOf(ESource* calendar, ICalTimezone* floatingZone)
             .floatingZone = floatingZone};
 }
 
-std::optional<CalendarEntry> entryOf(const Instance& instance, const CalendarFacts& facts)
+std::optional<CalendarEntry> entryOf(const Occurrence& occurrence, const CalendarFacts& facts)
 {
-    if (i_cal_component_get_status(instance.event) == I_CAL_STATUS_CANCELLED) {
+    if (i_cal_component_get_status(occurrence.event) == I_CAL_STATUS_CANCELLED) {
         return std::nullopt;
     }
-    const auto start = momentOf(instance.start, facts.floatingZone);
-    const auto end = momentOf(instance.end, facts.floatingZone);
+    const auto start = momentOf(occurrence.start, facts.floatingZone);
+    const auto end = momentOf(occurrence.end, facts.floatingZone);
     if (!start.isValid() || !end.isValid()) {
         return std::nullopt;
     }
-    return CalendarEntry{.id = idOf(instance.event, facts.id),
-                         .title = titleOf(instance.event),
+    return CalendarEntry{.id = idOf(occurrence.event, facts.id),
+                         .title = titleOf(occurrence.event),
                          .start = start,
                          .end = std::max(start, end),
-                         .isAllDay = i_cal_time_is_date(instance.start) != FALSE,
+                         .isAllDay = i_cal_time_is_date(occurrence.start) != FALSE,
                          .color = facts.color};
 }
 
