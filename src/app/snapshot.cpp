@@ -4,8 +4,8 @@
 #include "app/notch/geometry.h"
 #include "app/notchpanel.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QImage>
@@ -17,6 +17,8 @@
 #include <QQuickWindow>
 #include <QTimer>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -26,7 +28,7 @@ namespace {
 
 constexpr auto SettlingTime = 400ms;
 constexpr auto LookingTime = 20ms;
-constexpr std::chrono::milliseconds LongestWait = 3s;
+constexpr std::chrono::milliseconds LongestWait = 3s; // For all tabs together.
 
 /// The main loop of this mode: there is no other.
 void runLoop(std::chrono::milliseconds time)
@@ -40,12 +42,10 @@ void runLoop(std::chrono::milliseconds time)
 }
 
 /// Icons and events come when others have answered. Patience ends before the user's does.
-void awaitAnswers(const AppDelegate& delegate)
+void awaitAnswers(const AppDelegate& delegate, const QDeadlineTimer& deadline)
 {
-    QElapsedTimer waited;
-    waited.start();
-    while ((delegate.platform().icons->isBusy() || delegate.calendar().isReloading())
-           && !waited.hasExpired(LongestWait.count())) {
+    while ((delegate.platform().icons->isBusy() || delegate.calendar().isWaiting())
+           && !deadline.hasExpired()) {
         runLoop(LookingTime);
     }
 }
@@ -103,12 +103,13 @@ private:
 void run(const QString& folder, AppDelegate& delegate)
 {
     delegate.model().setMotionReduced(true);
+    const QDeadlineTimer deadline(SettlingTime * AllTabs.size() + LongestWait);
     for (const auto tab : AllTabs) {
         delegate.model().setTab(tab);
         delegate.model().setExpanded(true);
         OffscreenPanel panel(delegate.viewContext());
         runLoop(SettlingTime);
-        awaitAnswers(delegate);
+        awaitAnswers(delegate, deadline);
         panel.picture().save(QDir(folder).filePath(rawText(tab) + u".png"_s), "PNG");
     }
 }

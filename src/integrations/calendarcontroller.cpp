@@ -55,7 +55,11 @@ CalendarController::CalendarController(CalendarStore* store, Clock clock, TimeZo
         return;
     }
     connect(m_store, &CalendarStore::changed, this, &CalendarController::reload);
+    m_isAsking = true;
     m_store->readAuthorization([self = QPointer(this)](CalendarAuthorization authorization) {
+        if (self) {
+            self->m_isAsking = false;
+        }
         if (self && !self->m_wasAnswered) {
             self->takeAuthorization(authorization);
         }

@@ -44,8 +44,8 @@ public:
     /// By start. All of today's that have not ended, and those of the whole day.
     const QList<Event>& events() const { return m_events; }
     Access access() const { return m_access; }
-    /// While the calendars have yet to answer the last reload.
-    bool isReloading() const { return m_isReloading; }
+    /// While the calendars have yet to say whether we may read them, or to answer the last reload.
+    bool isWaiting() const { return m_isAsking || m_isReloading; }
 
     Q_INVOKABLE void requestAccess();
     /// Does nothing without access. The events stay as they are until the calendars have answered.
@@ -68,6 +68,7 @@ private:
     QList<Event> m_events;
     Access m_access = Access::Unknown;
     bool m_wasAnswered = false; ///< By the user, which counts more than what was read.
+    bool m_isAsking = false; ///< Whether we may read, as it stands; not the user.
     bool m_isReloading = false;
     bool m_reloadsAgain = false; ///< Another was wanted meanwhile.
     int m_accesses = 0; ///< Tells the answers that were asked for with the access of before.

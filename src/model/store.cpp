@@ -18,6 +18,7 @@ namespace quib {
 namespace {
 
 constexpr double FirstRate = 30;
+
 template <typename Record>
 bool removeAll(QList<Record>& records, const QUuid& id)
 {

@@ -56,10 +56,8 @@ public:
     std::optional<Client> client(const std::optional<QUuid>& id) const;
     QString notes() const { return m_data.notes; }
     std::optional<TimeEntry> runningEntry() const;
-    bool hasRunningEntry() const
-    {
-        return m_runningRow >= 0;
-    } ///< At no cost: asked 60 times a second.
+    /// At no cost: asked 60 times a second.
+    bool hasRunningEntry() const { return m_runningRow >= 0; }
     QDateTime runningSince() const; ///< Invalid when no timer runs.
     /// The entries that had not ended by then, in stored order; a running one ends now.
     QList<TimeEntry> entries(const QDateTime& since) const;

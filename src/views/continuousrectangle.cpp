@@ -68,7 +68,9 @@ QBrush ContinuousRectangle::filling() const
 QImage ContinuousRectangle::picture(double pixelsPerPoint) const
 {
     const bool isStroked = m_strokeColor.alpha() > 0 && m_strokeWidth > 0;
-    if (size().isEmpty() || (m_color.alpha() == 0 && !isStroked)) {
+    const bool isFilled
+        = m_color.alpha() > 0 || (m_lowerColor.isValid() && m_lowerColor.alpha() > 0);
+    if (size().isEmpty() || (!isFilled && !isStroked)) {
         return {};
     }
     const QSizeF pixels = size() * pixelsPerPoint;

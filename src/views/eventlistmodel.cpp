@@ -1,5 +1,7 @@
 #include "views/eventlistmodel.h"
 
+#include "views/storelink.h"
+
 namespace quib {
 
 namespace {
@@ -21,18 +23,10 @@ QList<EventRecord> recordsOf(const QList<CalendarController::Event>& events)
 
 void EventListModel::setCalendar(CalendarController* calendar)
 {
-    if (m_calendar == calendar) {
-        return;
+    if (followSource(m_calendar, calendar, this, &EventListModel::follow,
+                     &CalendarController::eventsChanged)) {
+        Q_EMIT calendarChanged();
     }
-    if (m_calendar) {
-        m_calendar->disconnect(this);
-    }
-    m_calendar = calendar;
-    if (m_calendar) {
-        connect(m_calendar, &CalendarController::eventsChanged, this, &EventListModel::follow);
-    }
-    follow();
-    Q_EMIT calendarChanged();
 }
 
 int EventListModel::rowCount(const QModelIndex& parent) const

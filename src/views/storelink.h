@@ -4,13 +4,16 @@
 
 #include <QPointer>
 
+#include <type_traits>
+
 namespace quib {
 
-/// Lets `follower` follow another store, or none: `follow` is called now, and after each of the
-/// signals. False when it is the same store as before. The store is borrowed and may die first.
-template <typename Follower, typename... Signals>
-bool followStore(QPointer<Store>& current, Store* next, Follower* follower,
-                 void (Follower::*follow)(), Signals... changes)
+/// Lets `follower` follow another source, or none: `follow` is called now, after each of the
+/// signals, and when the source dies, which it may do first: it is borrowed. False when it is the
+/// same source as before.
+template <typename Source, typename Follower, typename... Signals>
+bool followSource(QPointer<Source>& current, std::type_identity_t<Source>* next, Follower* follower,
+                  void (Follower::*follow)(), Signals... changes)
 {
     if (current == next) {
         return false;
@@ -21,9 +24,18 @@ bool followStore(QPointer<Store>& current, Store* next, Follower* follower,
     current = next;
     if (current) {
         (QObject::connect(current, changes, follower, follow), ...);
+        QObject::connect(current, &QObject::destroyed, follower, follow);
     }
     (follower->*follow)();
     return true;
+}
+
+/// The same of a store.
+template <typename Follower, typename... Signals>
+bool followStore(QPointer<Store>& current, Store* next, Follower* follower,
+                 void (Follower::*follow)(), Signals... changes)
+{
+    return followSource(current, next, follower, follow, changes...);
 }
 
 } // namespace quib

@@ -47,6 +47,15 @@ void Symbol::setColor(const QColor& color)
     }
 }
 
+void Symbol::setValue(double value)
+{
+    if (m_look.value != value) {
+        m_look.value = value;
+        Q_EMIT valueChanged();
+        redraw();
+    }
+}
+
 bool Symbol::isKnown(const QString& name)
 {
     return findSymbol(name).has_value();

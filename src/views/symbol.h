@@ -18,6 +18,8 @@ class Symbol : public quib::RasterItem { // Spelt out for the tools of QML.
     Q_PROPERTY(double size READ size WRITE setSize NOTIFY sizeChanged)
     Q_PROPERTY(int weight READ weight WRITE setWeight NOTIFY weightChanged)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+    /// How much of a symbol of bars is lit, from 0 to 1; whole bars, the rest is dimmed.
+    Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged)
 
 public:
     explicit Symbol(QQuickItem* parent = nullptr);
@@ -26,11 +28,13 @@ public:
     double size() const { return m_look.size; }
     int weight() const { return m_look.weight; }
     QColor color() const { return m_look.color; }
+    double value() const { return m_look.value; }
 
     void setName(const QString& name);
     void setSize(double points);
     void setWeight(int weight);
     void setColor(const QColor& color);
+    void setValue(double value);
 
     /// Whether a name means a symbol to us; callers choose what stands in for one that does not.
     Q_INVOKABLE static bool isKnown(const QString& name);
@@ -40,6 +44,7 @@ Q_SIGNALS:
     void sizeChanged();
     void weightChanged();
     void colorChanged();
+    void valueChanged();
 
 protected:
     QImage picture(double pixelsPerPoint) const override;

@@ -5,12 +5,14 @@
 #include <QPainter>
 #include <QPen>
 
+#include <algorithm>
 #include <cmath>
 
 namespace quib {
 
 namespace {
 
+constexpr float DimmedOpacity = 0.4F;
 constexpr double RegularLine = 1.0 / 16; ///< Of the icons, in a unit square.
 
 /// The pen that makes an outline of the regular weight a heavier one, in a unit square.
@@ -46,6 +48,21 @@ void paintOutline(QPainter& painter, const SymbolShape& shape, const SymbolLook&
     painter.drawPath(shape.path);
 }
 
+/// Dims all from the first bar on that is not lit. Bars stand apart: none is cut.
+void dimTheRest(QPainter& painter, const QPainterPath& bars, double value)
+{
+    const auto parts = bars.toSubpathPolygons();
+    const auto lit = static_cast<qsizetype>(std::lround(value * static_cast<double>(parts.size())));
+    if (lit >= parts.size()) {
+        return;
+    }
+    const auto rest = bars.boundingRect();
+    const auto from = parts.at(std::max<qsizetype>(0, lit)).boundingRect().left();
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.fillRect(QRectF(QPointF(from, rest.top()), rest.bottomRight()),
+                     QColor::fromRgbF(0, 0, 0, DimmedOpacity));
+}
+
 } // namespace
 
 QImage symbolImage(const SymbolLook& look, double pixelsPerPoint)
@@ -67,6 +84,7 @@ QImage symbolImage(const SymbolLook& look, double pixelsPerPoint)
         paintOutline(painter, *shape, look, side);
     } else {
         painter.drawPath(drawn);
+        dimTheRest(painter, drawn, look.value);
     }
     // Tinted last: where fill and pen overlap, a colour that is not opaque would show it.
     painter.resetTransform();

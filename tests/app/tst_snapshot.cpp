@@ -7,8 +7,10 @@
 #include <QImage>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 class SnapshotTest : public QObject {
     Q_OBJECT
@@ -19,6 +21,7 @@ private Q_SLOTS:
     void pictures_haveTheSizeOfThePanel();
     void pictures_areClearAroundTheCard();
     void data_isNotWritten();
+    void calendar_thatAnswersLate_isInThePicture();
     void missingFolder_staysMissing();
 
 private:
@@ -31,6 +34,7 @@ void SnapshotTest::initTestCase()
     qputenv("QUIB_DATA_DIR", m_data.path().toLocal8Bit());
     FakeShell shell;
     quib::AppDelegate delegate(std::move(shell.platform));
+    shell.calendar.authorizations.front()(quib::CalendarAuthorization::NotDetermined);
 
     quib::Snapshot::run(m_pictures.path(), delegate);
 
@@ -66,6 +70,33 @@ void SnapshotTest::data_isNotWritten()
              QStringList{u"shortcuts.json"_s});
 }
 
+void SnapshotTest::calendar_thatAnswersLate_isInThePicture()
+{
+    const QTemporaryDir pictures;
+    FakeShell shell;
+    quib::AppDelegate delegate(std::move(shell.platform));
+    auto& calendar = shell.calendar;
+    QTimer::singleShot(600ms, this, [&] {
+        calendar.authorizations.front()(quib::CalendarAuthorization::FullAccess);
+    });
+    QTimer::singleShot(1200ms, this, [&] {
+        calendar.readings.back().answer(
+            {{.title = u"Fair"_s, .isAllDay = true, .color = QColor(Qt::green)}});
+    });
+
+    quib::Snapshot::run(pictures.path(), delegate);
+
+    const QImage picture(pictures.filePath(u"home.png"_s));
+    int green = 0;
+    for (int x = 0; x < picture.width(); ++x) {
+        for (int y = 0; y < picture.height(); ++y) {
+            green += picture.pixelColor(x, y) == QColor(Qt::green) ? 1 : 0;
+        }
+    }
+    QVERIFY(green > 20); // The bar of the event.
+}
+
+// Nor does it wait for ever for the calendar, which is silent here.
 void SnapshotTest::missingFolder_staysMissing()
 {
     FakeShell shell;

@@ -19,6 +19,7 @@ class CalendarControllerTest : public QObject {
 private Q_SLOTS:
     void init();
     void fresh_hasNothingAndKnowsNothing();
+    void waiting_endsWithTheLastAnswer();
     void authorization_decidesTheAccess_data();
     void authorization_decidesTheAccess();
     void requestAccess_isWhatTheUserSays_data();
@@ -106,6 +107,16 @@ void CalendarControllerTest::fresh_hasNothingAndKnowsNothing()
     QCOMPARE(m_store->authorizations.size(), 1U);
     QVERIFY(m_store->requests.empty());
     QVERIFY(m_store->readings.empty());
+}
+
+void CalendarControllerTest::waiting_endsWithTheLastAnswer()
+{
+    QVERIFY(m_controller->isWaiting());
+
+    grant();
+    QVERIFY(m_controller->isWaiting());
+    answer({});
+    QVERIFY(!m_controller->isWaiting());
 }
 
 void CalendarControllerTest::authorization_decidesTheAccess_data()

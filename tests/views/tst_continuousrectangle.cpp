@@ -21,6 +21,7 @@ private Q_SLOTS:
     void noRadius_givesARectangle();
     void fill_coversTheShapeAndNothingElse();
     void stroke_liesInsideTheShape();
+    void gradient_mayBeginClear();
     void withoutColours_nothingIsDrawn();
 };
 
@@ -39,7 +40,7 @@ double depth(const QPainterPath& path, double x)
 }
 
 /// 48 by 46 points with corners of 14, alone on black.
-QImage drawn(const QColor& fill, const QColor& stroke)
+QImage drawn(const QColor& fill, const QColor& stroke, const QColor& lower = {})
 {
     QQuickWindow window;
     window.resize(60, 60);
@@ -50,6 +51,7 @@ QImage drawn(const QColor& fill, const QColor& stroke)
     rectangle.setSize({48, 46});
     rectangle.setRadius(14);
     rectangle.setColor(fill);
+    rectangle.setLowerColor(lower);
     rectangle.setStrokeColor(stroke);
     window.show();
     return window.grabWindow();
@@ -130,6 +132,14 @@ void ContinuousRectangleTest::stroke_liesInsideTheShape()
     QCOMPARE(image.pixelColor(30, 5), QColor(Qt::black));
     QCOMPARE(image.pixelColor(30, 7), QColor(Qt::black));
     QCOMPARE(image.pixelColor(7, 29), QColor(Qt::black));
+}
+
+void ContinuousRectangleTest::gradient_mayBeginClear()
+{
+    const auto image = drawn(Qt::transparent, Qt::transparent, Qt::white);
+
+    QVERIFY(image.pixelColor(48, 46).red() > 150);
+    QVERIFY(image.pixelColor(12, 12).red() < 60);
 }
 
 void ContinuousRectangleTest::withoutColours_nothingIsDrawn()

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void application_isNamedByTheShell();
     void application_storeGoneMeanwhile_isDropped();
     void events_changeRowByRow();
+    void sourceGone_leavesNoRows();
 };
 
 namespace {
@@ -175,6 +176,31 @@ void HomeModelsTest::events_changeRowByRow()
     QCOMPARE(texts(model, EventListModel::TitleRole), (QStringList{u"a"_s, u"new"_s, u"b"_s}));
     QVERIFY(resets.isEmpty());
     QCOMPARE(inserted.size(), 1);
+}
+
+void HomeModelsTest::sourceGone_leavesNoRows()
+{
+    Workspace workspace;
+    workspace.task(u"a"_s);
+    workspace.store->addLaunchItem({.id = QUuid::createUuid(), .name = u"Mail"_s});
+    FakeCalendarStore calendars;
+    auto calendar = std::make_unique<CalendarController>(&calendars);
+    OpenTaskListModel tasks;
+    LaunchListModel launches;
+    EventListModel events;
+    tasks.setStore(workspace.store.get());
+    launches.setStore(workspace.store.get());
+    events.setCalendar(calendar.get());
+    calendars.authorizations.front()(quib::CalendarAuthorization::FullAccess);
+    calendars.readings.back().answer({{.title = u"Fair"_s, .isAllDay = true}});
+    QCOMPARE(tasks.rowCount() + launches.rowCount() + events.rowCount(), 3);
+
+    workspace.store.reset();
+    calendar.reset();
+
+    QCOMPARE(tasks.rowCount(), 0);
+    QCOMPARE(launches.rowCount(), 0);
+    QCOMPARE(events.rowCount(), 0);
 }
 
 QTEST_GUILESS_MAIN(HomeModelsTest)

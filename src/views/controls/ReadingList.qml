@@ -44,7 +44,7 @@ ListView {
         parent: root.parent
         anchors.fill: root
         anchors.margins: -4
-        visible: root.activeFocus
+        visible: root.activeFocus && root.visible && root.overflows
         radius: 6
     }
 }

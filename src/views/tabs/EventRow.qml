@@ -15,9 +15,11 @@ Item {
     required property color eventColor
     required property date now
 
+    readonly property string time: root.allDay ? "All day" : Format.timeOfDay(root.start)
+
     implicitHeight: 32
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.title
+    Accessible.name: "%2, %1".arg(root.time).arg(root.title) // The title last: it may hold anything.
 
     Rectangle {
         id: bar
@@ -50,10 +52,11 @@ Item {
         QuibText {
             objectName: "time"
             width: parent.width
-            text: root.allDay ? "All day" : Format.timeOfDay(root.start)
+            text: root.time
             size: 10.5
             color: Brand.muted
             elide: Text.ElideRight
+            Accessible.ignored: true
         }
     }
 

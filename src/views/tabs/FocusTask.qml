@@ -1,7 +1,7 @@
 import QtQuick
 
-import Quib.Views
 import Quib.Brand
+import Quib.Views
 
 /*!
     An open task, with the circle that ticks it off.
@@ -14,9 +14,9 @@ FocusScope {
 
     signal toggled
 
-    implicitHeight: 22
+    implicitHeight: 18
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.title
+    Accessible.name: TextLine.beginning(root.title)
 
     PlainButton {
         id: tick
@@ -25,7 +25,7 @@ FocusScope {
         anchors.verticalCenter: parent.verticalCenter
         focus: true
         Accessible.role: Accessible.CheckBox
-        Accessible.name: "Mark done: " + root.title
+        Accessible.name: "Mark done: %1".arg(TextLine.beginning(root.title))
         Accessible.checkable: true
 
         onClicked: root.toggled()

@@ -94,20 +94,12 @@ FocusScope {
                 elide: Text.ElideRight
             }
 
-            DigitsText {
+            RunningClock {
                 objectName: "clock"
                 visible: timer.isRunning
-                scale: Math.min(1, parent.width / width) // For a hand-edited start.
-                transformOrigin: Item.Left
-                text: Format.formatDuration(beat.elapsed, true)
+                room: parent.width
+                since: timer.since
                 size: 24
-                weight: Font.DemiBold
-
-                Beat {
-                    id: beat
-
-                    since: timer.since
-                }
             }
 
             PillButton {

@@ -1,0 +1,70 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+import Quib.Brand
+import Quib.Views
+
+/*!
+    The next open tasks, as many as there is room for.
+*/
+FocusScope {
+    id: root
+
+    required property Store store
+
+    readonly property int rowHeight: 18
+    readonly property int gap: Math.max(0, Math.min(8, Math.floor((root.height - 3 * root.rowHeight) / 2)))
+    readonly property int places: Math.floor((root.height + root.gap) / (root.rowHeight + root.gap))
+
+    signal emptied
+
+    Accessible.role: Accessible.List
+    Accessible.name: "Open tasks"
+
+    // The keyboard stays with the row that takes the place of the one that goes.
+    function tickOff(row, task, hasKeyboard) {
+        root.store.toggleTask(task);
+        if (hasKeyboard && rows.count > 0) {
+            rows.itemAt(Math.min(row, rows.count - 1)).forceActiveFocus(Qt.TabFocusReason);
+        } else if (hasKeyboard) {
+            root.emptied();
+        }
+    }
+
+    OpenTaskListModel {
+        id: tasks
+
+        store: root.store
+    }
+
+    Column {
+        width: parent.width
+        spacing: root.gap
+
+        Repeater {
+            id: rows
+
+            model: tasks
+
+            delegate: FocusTask {
+                required property int index
+
+                objectName: "task"
+                width: root.width
+                height: root.rowHeight
+                visible: index < root.places
+
+                onToggled: root.tickOff(index, taskID, activeFocus)
+            }
+        }
+    }
+
+    QuibText {
+        objectName: "nothing"
+        visible: tasks.count === 0
+        text: "No open tasks"
+        size: 11.5
+        color: Brand.muted2
+    }
+}
