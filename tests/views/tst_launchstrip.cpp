@@ -358,7 +358,8 @@ void LaunchStripTest::icon_ofAPathIsAskedForAtItsSize()
     m_tab->panel.settle();
 
     const auto picture = m_tab->panel.window->grabWindow();
-    QCOMPARE(picture.pixelColor(middle * picture.devicePixelRatio()), QColor(Qt::red));
+    const auto scale = m_tab->panel.window->effectiveDevicePixelRatio();
+    QCOMPARE(picture.pixelColor(middle * scale), QColor(Qt::red));
 }
 
 QTEST_MAIN(LaunchStripTest)

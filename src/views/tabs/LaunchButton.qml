@@ -67,34 +67,34 @@ FocusScope {
             color: Brand.white(capsule.hovered ? 0.14 : 0.07)
         }
 
-        contentItem: Item {
-            implicitWidth: 16 + 7 + nameText.width
-            implicitHeight: 16
+        contentItem: Row {
+            spacing: 7
 
-            Symbol {
-                objectName: "globe"
-                anchors.verticalCenter: parent.verticalCenter
-                visible: root.path === ""
-                name: "globe"
-                size: 16
-                color: Brand.muted
-            }
-
-            FileIcon {
-                objectName: "icon"
+            Item {
                 anchors.verticalCenter: parent.verticalCenter
                 width: 16
                 height: 16
-                source: root.icons
-                path: root.path
+
+                Symbol {
+                    objectName: "globe"
+                    anchors.verticalCenter: parent.verticalCenter
+                    visible: root.path === ""
+                    name: "globe"
+                    size: 16
+                    color: Brand.muted
+                }
+
+                FileIcon {
+                    objectName: "icon"
+                    anchors.fill: parent
+                    source: root.icons
+                    path: root.path
+                }
             }
 
             QuibText {
-                id: nameText
-
                 objectName: "name"
                 anchors.verticalCenter: parent.verticalCenter
-                x: 16 + 7
                 width: Math.min(implicitWidth, 140)
                 text: root.name
                 size: 11.5
