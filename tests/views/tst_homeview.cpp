@@ -82,7 +82,7 @@ void HomeViewTest::noPlayer_saysSo()
     QCOMPARE(text(m_music, u"title"_s), u"Nothing playing"_s);
     QCOMPARE(text(m_music, u"artist"_s), u"Open Spotify or Music"_s);
     QCOMPARE(part(m_music, u"playPause"_s)->property("symbol").toString(), u"play.fill"_s);
-    QVERIFY(part(m_music, u"note"_s)->isVisible());
+    QVERIFY(part(m_music, u"musicNote"_s)->isVisible());
 }
 
 void HomeViewTest::track_isShown()
@@ -94,7 +94,7 @@ void HomeViewTest::track_isShown()
     QCOMPARE(text(m_music, u"artist"_s), u"Band"_s);
     QCOMPARE(part(m_music, u"playPause"_s)->property("symbol").toString(), u"pause.fill"_s);
     QVERIFY(part(m_music, u"waveform"_s)->isVisible());
-    QVERIFY(!part(m_music, u"note"_s)->isVisible());
+    QVERIFY(!part(m_music, u"musicNote"_s)->isVisible());
 }
 
 void HomeViewTest::pausedTrack_showsANote()
@@ -104,7 +104,7 @@ void HomeViewTest::pausedTrack_showsANote()
     QCOMPARE(text(m_music, u"heading"_s), u"Now playing · Music"_s);
     QCOMPARE(part(m_music, u"playPause"_s)->property("symbol").toString(), u"play.fill"_s);
     QVERIFY(!part(m_music, u"waveform"_s)->isVisible());
-    QVERIFY(part(m_music, u"note"_s)->isVisible());
+    QVERIFY(part(m_music, u"musicNote"_s)->isVisible());
 }
 
 void HomeViewTest::buttons_sendTheirVerbs_data()

@@ -136,8 +136,9 @@ void HomeViewSizesTest::nowPlaying_hasItsSizes()
 
     QCOMPARE(square->property("radius").toDouble(), 10.0);
     QCOMPARE(square->width(), square->height());
-    QCOMPARE(part(card, u"note"_s)->property("size").toDouble(), 18.0);
-    QCOMPARE(part(card, u"note"_s)->property("weight").toInt(), static_cast<int>(QFont::DemiBold));
+    QCOMPARE(part(card, u"musicNote"_s)->property("size").toDouble(), 18.0);
+    QCOMPARE(part(card, u"musicNote"_s)->property("weight").toInt(),
+             static_cast<int>(QFont::DemiBold));
     QCOMPARE(part(card, u"waveform"_s)->property("size").toDouble(), 18.0);
     QCOMPARE(part(card, u"waveform"_s)->property("weight").toInt(),
              static_cast<int>(QFont::DemiBold));
