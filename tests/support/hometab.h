@@ -29,6 +29,18 @@ struct HomeTab {
     {
         QTest::keyClick(panel.window.get(), Qt::Key(key), modifiers);
     }
+    /// The name of what has the keyboard; "nothing" for what is not to be seen.
+    QString focused() const
+    {
+        const auto* focus = panel.window->activeFocusItem();
+        return focus && focus->isVisible() ? focus->objectName() : QStringLiteral("nothing");
+    }
+    /// Whether what has the keyboard shows it.
+    bool showsFocus() const
+    {
+        const auto* focus = panel.window->activeFocusItem();
+        return focus->property("visualFocus").toBool();
+    }
     void type(const QByteArray& text) const
     {
         for (const auto letter : text) {

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void weight_leavesFilledSymbolsAlone();
     void homeSymbol_atTwelvePixels_isSevenRings();
     void waveform_atTwelvePixels_isBarsWithGaps();
+    void value_lightsWholeBars_data();
+    void value_lightsWholeBars();
     void isKnown_tellsNamesThatMeanSomething();
     void item_takesTheSizeOfTheSymbol();
     void item_betweenTwoPixels_goesToOne();
@@ -184,6 +186,38 @@ void SymbolTest::waveform_atTwelvePixels_isBarsWithGaps()
     const auto image = symbolImage({.name = u"waveform"_s, .size = 12, .weight = 600}, 1);
 
     QVERIFY(countPatches(image) >= 5);
+}
+
+void SymbolTest::value_lightsWholeBars_data()
+{
+    QTest::addColumn<double>("scale");
+
+    for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+        QTest::addRow("at %g", scale) << scale;
+    }
+}
+
+void SymbolTest::value_lightsWholeBars()
+{
+    QFETCH(double, scale);
+    quib::SymbolLook look{.name = u"waveform"_s, .size = 18, .weight = 600};
+    const auto full = symbolImage(look, scale);
+
+    for (int lit = 0; lit <= 7; ++lit) {
+        look.value = lit / 7.0;
+        const auto image = symbolImage(look, scale);
+        double shares = 0; // How much of the bars is left.
+        for (int x = 0; x < full.width(); ++x) {
+            const double tall = coverage(full.copy(x, 0, 1, full.height()));
+            const double now = coverage(image.copy(x, 0, 1, full.height()));
+            const double share = tall > 0 ? now / tall : 0;
+            QVERIFY(tall == 0 || share == 1 || qAbs(share - 0.4) < 0.02);
+            const bool isInside = x > 0 && coverage(full.copy(x - 1, 0, 1, full.height())) > 0;
+            QVERIFY(tall == 0 || !isInside || qAbs(share - shares) < 0.02);
+            shares = share;
+        }
+        QCOMPARE(image == full, lit == 7);
+    }
 }
 
 void SymbolTest::isKnown_tellsNamesThatMeanSomething()

@@ -60,7 +60,7 @@ FocusScope {
                 }
 
                 Symbol {
-                    objectName: "note"
+                    objectName: "musicNote"
                     anchors.centerIn: parent
                     visible: !root.media.isPlaying
                     name: "music.note"
