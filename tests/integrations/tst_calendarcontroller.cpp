@@ -376,11 +376,11 @@ void CalendarControllerTest::reload_whileOneIsUnderWay_followsIt()
     answer({entry(u"First"_s, 1, 2)});
 
     QCOMPARE(titles(), QStringList(u"First"_s));
-    QVERIFY(m_controller->isReloading());
+    QVERIFY(m_controller->isWaiting());
     QCOMPARE(m_store->readings.size(), 2U);
     answer({entry(u"Second"_s, 1, 2)});
     QCOMPARE(titles(), QStringList(u"Second"_s));
-    QVERIFY(!m_controller->isReloading());
+    QVERIFY(!m_controller->isWaiting());
     QCOMPARE(m_store->readings.size(), 2U);
 }
 
