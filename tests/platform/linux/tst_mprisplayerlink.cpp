@@ -145,7 +145,7 @@ void MprisPlayerLinkTest::query_strangeProperties_givesWhatIsRight_data()
         << playing({{url, u"file:///"_s + QString(megabyte, u'x')}}) << nothing;
     QTest::addRow("a thousand artists")
         << playing({{artist, Texts(u"ab"_s.repeated(500).split(u'a'))}})
-        << u"||"_s + u"b, "_s.repeated(100).trimmed() + u"||playing"_s;
+        << u"||"_s + u"b, "_s.repeated(39).chopped(2) + u"||playing"_s;
 }
 
 void MprisPlayerLinkTest::query_strangeProperties_givesWhatIsRight()

@@ -5,6 +5,7 @@
 #include <QTimeZone>
 
 #include <array>
+#include <cstdlib>
 #include <limits>
 #include <utility>
 
@@ -63,10 +64,29 @@ bool isOfALostService(const GError* error)
             || g_error_matches(error, G_DBUS_ERROR, G_DBUS_ERROR_DISCONNECTED));
 }
 
-/// Where times without a zone of their own are; null where the service does not know the system's.
-ICalTimezone* systemZone()
+/// With the difference from UTC that the system has at that moment.
+GOwned<ICalTimezone> fixedZone(const QDateTime& moment)
 {
-    return i_cal_timezone_get_builtin_timezone(QTimeZone::systemTimeZoneId().constData());
+    const int offset = moment.toLocalTime().offsetFromUtc();
+    const auto digits = QTime(0, 0).addSecs(std::abs(offset)).toString(u"HHmmss"_s);
+    const auto text = u"BEGIN:VTIMEZONE\nTZID:Quib local time\nBEGIN:STANDARD\n"
+                      "DTSTART:19700101T000000\nTZOFFSETFROM:%1\nTZOFFSETTO:%1\nEND:STANDARD\n"
+                      "END:VTIMEZONE\n"_s.arg((offset < 0 ? u'-' : u'+') + digits);
+    GOwned<ICalTimezone> zone(i_cal_timezone_new());
+    const GOwned<ICalComponent> component(
+        i_cal_component_new_from_string(text.toLatin1().constData()));
+    const bool isMade
+        = component && i_cal_timezone_set_component(zone.get(), component.get()) != FALSE;
+    return isMade ? std::move(zone) : nullptr;
+}
+
+/// Where times without a zone of their own are. The service may not know the system's.
+GOwned<ICalTimezone> systemZone(const QDateTime& moment)
+{
+    auto* const known
+        = i_cal_timezone_get_builtin_timezone(QTimeZone::systemTimeZoneId().constData());
+    return known == nullptr ? fixedZone(moment)
+                            : GOwned<ICalTimezone>(I_CAL_TIMEZONE(g_object_ref(known)));
 }
 
 } // namespace
@@ -107,11 +127,12 @@ std::optional<QList<CalendarEntry>> CalendarClient::read()
     if (!m_view) {
         watch();
     }
-    auto* zone = systemZone();
-    if (zone != nullptr) {
-        e_cal_client_set_default_timezone(m_client.get(), zone);
+    const auto zone = systemZone(m_span.from);
+    if (zone) {
+        e_cal_client_set_default_timezone(m_client.get(), zone.get());
     }
-    Collection collection{.facts = factsOf(e_client_get_source(E_CLIENT(m_client.get())), zone),
+    Collection collection{.facts
+                          = factsOf(e_client_get_source(E_CLIENT(m_client.get())), zone.get()),
                           .span = m_span,
                           .entries = {}};
     const auto searched = m_span.widened();
