@@ -135,7 +135,7 @@ void RealPlayerTest::nothingToPlay_isNoTrack()
     play({});
     QTRY_VERIFY(m_link->isRunning(Player::Music));
 
-    QCOMPARE(reply(), QString());
+    QTRY_COMPARE(reply(), QString());
 }
 
 void RealPlayerTest::quits_runsNoMore()
