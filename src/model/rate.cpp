@@ -87,7 +87,7 @@ QStringList currencySymbols(const UserLocale& locale)
 
 QString withoutCurrency(const QString& text, const UserLocale& locale)
 {
-    const auto amount = text.trimmed();
+    auto amount = text.trimmed();
     for (const auto& symbol : currencySymbols(locale)) {
         if (!symbol.isEmpty() && amount.startsWith(symbol, Qt::CaseInsensitive)) {
             return amount.mid(symbol.size());
