@@ -76,20 +76,23 @@ bool MprisPlayerLink::isRunning(Player player) const
 
 void MprisPlayerLink::query(Player player, Reply reply)
 {
-    const auto name = m_players.nameOf(player);
-    if (name.isEmpty()) {
-        QMetaObject::invokeMethod(
-            this, [reply = std::move(reply)] { reply({}); }, Qt::QueuedConnection);
-        return;
-    }
-    auto message = callOf(name, PropertiesInterface, u"GetAll"_s);
-    message << QString(PlayerInterface);
-    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message, PatienceMs), this);
+    auto* watcher = new QDBusPendingCallWatcher(ask(m_players.nameOf(player)), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, reply = std::move(reply)] {
         watcher->deleteLater();
         const QDBusPendingReply<QVariantMap> properties = *watcher;
         reply(properties.isError() ? QString() : replyText(properties.value()));
     });
+}
+
+/// Everything about the player at once; an error where there is none to ask.
+QDBusPendingCall MprisPlayerLink::ask(const QString& name) const
+{
+    if (name.isEmpty()) {
+        return QDBusPendingCall::fromError(QDBusError(QDBusError::ServiceUnknown, {}));
+    }
+    auto message = callOf(name, PropertiesInterface, u"GetAll"_s);
+    message << QString(PlayerInterface);
+    return m_bus.asyncCall(message, PatienceMs);
 }
 
 void MprisPlayerLink::send(Player player, const QString& verb)

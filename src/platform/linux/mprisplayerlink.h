@@ -4,6 +4,7 @@
 #include "platform/linux/musicplayers.h"
 
 #include <QDBusConnection>
+#include <QDBusPendingCall>
 
 namespace quib {
 
@@ -21,6 +22,7 @@ public:
     void launchSpotify() override;
 
 private:
+    QDBusPendingCall ask(const QString& name) const;
     void followNames();
     void listNames();
 
