@@ -1,26 +1,17 @@
 // What is seen on the desk's screen, and what pointer and keyboard do there.
 #include "deskconnection.h"
 
-#include <QElapsedTimer>
-
-#include <chrono>
-#include <thread>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 bool waitFor(const char* what, const std::function<bool()>& isSo)
 {
-    QElapsedTimer timer;
-    timer.start();
-    while (!isSo()) {
-        if (timer.hasExpired(10'000)) {
-            qWarning("waited in vain for %s", what);
-            return false;
-        }
-        std::this_thread::sleep_for(5ms); // Between two looks at another program.
+    const bool came = QTest::qWaitFor(isSo, 10'000);
+    if (!came) {
+        qWarning("waited in vain for %s", what);
     }
-    return true;
+    return came;
 }
 
 void Desk::moveTo(QPoint point) const
