@@ -137,6 +137,9 @@ void OtherProgram::hide() const
 
 void OtherProgram::end()
 {
+    // A closed connection alone is noticed at the server's leisure.
+    xcb_kill_client(asking(), m_window);
+    finish(asking());
     m_connection.reset();
 }
 

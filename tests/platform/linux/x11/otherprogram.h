@@ -32,7 +32,7 @@ public:
     void takeKeyboard(xcb_timestamp_t time) const { focus(m_window, time); }
     /// To whatever window is under the pointer.
     void letKeyboardGo() const { focus(XCB_INPUT_FOCUS_POINTER_ROOT); }
-    /// Closes the window, as a program does that ends.
+    /// Takes the window away, as the server does when a program ends, and waits for it.
     void end();
 
     /// As window managers do for their shortcuts.
