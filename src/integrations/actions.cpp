@@ -71,17 +71,26 @@ QUrl withoutOwnHost(QUrl url)
 
 } // namespace
 
-std::optional<QUrl> locationOf(const QString& target, const QString& home)
+QString pathOf(const QString& target, const QString& home)
 {
     const auto text = withTildeExpanded(target, home);
-    if (!isPath(text)) {
+    return text.startsWith(u'/') && isPath(text) ? text : QString();
+}
+
+QString withScheme(const QString& address)
+{
+    return address.contains(u"://"_s) ? address : u"https://"_s + address;
+}
+
+std::optional<QUrl> locationOf(const QString& target, const QString& home)
+{
+    if (!isPath(target)) {
         return std::nullopt;
     }
-    if (text.startsWith(u'/')) {
-        return QUrl::fromLocalFile(text);
+    if (const auto path = pathOf(target, home); !path.isEmpty()) {
+        return QUrl::fromLocalFile(path);
     }
-    const auto address = text.contains(u"://"_s) ? text : u"https://"_s + text;
-    const auto url = withoutOwnHost(QUrl(address, QUrl::StrictMode));
+    const auto url = withoutOwnHost(QUrl(withScheme(target), QUrl::StrictMode));
     return leadsSomewhere(url) ? std::optional(url) : std::nullopt;
 }
 

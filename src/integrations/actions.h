@@ -29,6 +29,12 @@ private:
     Opener& m_opener;
 };
 
+/// The full path that a target is, "~" being the home folder; empty where it is none.
+QString pathOf(const QString& target, const QString& home);
+
+/// A web address with its scheme, which most people leave out.
+QString withScheme(const QString& address);
+
 /// What a target means: the location of a file, or a web address. Absent when it can be neither.
 std::optional<QUrl> locationOf(const QString& target, const QString& home);
 

@@ -1,6 +1,6 @@
 #include "views/chosenclient.h"
 
-#include "views/storelink.h"
+#include "views/followsource.h"
 
 namespace quib {
 
@@ -16,7 +16,7 @@ QString ChosenClient::status() const
 
 void ChosenClient::setStore(Store* store)
 {
-    if (followStore(m_store, store, this, &ChosenClient::follow, &Store::clientsChanged)) {
+    if (followSource(m_store, store, this, &ChosenClient::follow, &Store::clientsChanged)) {
         Q_EMIT storeChanged();
     }
 }

@@ -1,6 +1,6 @@
 #include "views/clientchoicemodel.h"
 
-#include "views/storelink.h"
+#include "views/followsource.h"
 
 #include <algorithm>
 
@@ -27,7 +27,7 @@ QUuid ClientChoiceModel::clientAt(int row) const
 
 void ClientChoiceModel::setStore(Store* store)
 {
-    if (followStore(m_store, store, this, &ClientChoiceModel::follow, &Store::clientsChanged)) {
+    if (followSource(m_store, store, this, &ClientChoiceModel::follow, &Store::clientsChanged)) {
         Q_EMIT storeChanged();
     }
 }

@@ -1,7 +1,7 @@
 #include "views/clienteditor.h"
 
 #include "model/rate.h"
-#include "views/storelink.h"
+#include "views/followsource.h"
 
 #include <QVariantMap>
 
@@ -73,8 +73,8 @@ QString ClientEditor::rateText() const
 
 void ClientEditor::setStore(Store* store)
 {
-    const bool isOther = followStore(m_store, store, this, &ClientEditor::follow,
-                                     &Store::clientsChanged, &Store::entriesChanged);
+    const bool isOther = followSource(m_store, store, this, &ClientEditor::follow,
+                                      &Store::clientsChanged, &Store::entriesChanged);
     if (isOther) {
         Q_EMIT storeChanged();
     }

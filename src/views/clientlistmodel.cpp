@@ -1,7 +1,7 @@
 #include "views/clientlistmodel.h"
 
+#include "views/followsource.h"
 #include "views/noclient.h"
-#include "views/storelink.h"
 
 #include <QHash>
 #include <QSet>
@@ -58,8 +58,8 @@ QList<Client> clientsWithTasks(const QList<Client>& clients, const QList<TaskIte
 
 void ClientListModel::setStore(Store* store)
 {
-    if (followStore(m_store, store, this, &ClientListModel::follow, &Store::clientsChanged,
-                    &Store::tasksChanged, &Store::entriesChanged)) {
+    if (followSource(m_store, store, this, &ClientListModel::follow, &Store::clientsChanged,
+                     &Store::tasksChanged, &Store::entriesChanged)) {
         Q_EMIT storeChanged();
     }
 }

@@ -1,6 +1,6 @@
 #include "views/eventlistmodel.h"
 
-#include "views/storelink.h"
+#include "views/followsource.h"
 
 namespace quib {
 

@@ -1,5 +1,7 @@
 #include "views/fileicon.h"
 
+#include "views/followsource.h"
+
 #include <QQuickWindow>
 
 #include <algorithm>
@@ -9,18 +11,9 @@ namespace quib {
 
 void FileIcon::setSource(IconSource* source)
 {
-    if (m_source == source) {
-        return;
+    if (followSource(m_source, source, this, &FileIcon::askAnew, &IconSource::changed)) {
+        Q_EMIT sourceChanged();
     }
-    if (m_source) {
-        m_source->disconnect(this);
-    }
-    m_source = source;
-    if (m_source) {
-        connect(m_source, &IconSource::changed, this, &FileIcon::askAnew);
-    }
-    Q_EMIT sourceChanged();
-    askAnew();
 }
 
 void FileIcon::setPath(const QString& path)

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "model/store.h"
-
+#include <QObject>
 #include <QPointer>
 
 #include <type_traits>
@@ -28,14 +27,6 @@ bool followSource(QPointer<Source>& current, std::type_identity_t<Source>* next,
     }
     (follower->*follow)();
     return true;
-}
-
-/// The same of a store.
-template <typename Follower, typename... Signals>
-bool followStore(QPointer<Store>& current, Store* next, Follower* follower,
-                 void (Follower::*follow)(), Signals... changes)
-{
-    return followSource(current, next, follower, follow, changes...);
 }
 
 } // namespace quib

@@ -43,17 +43,9 @@ QString linkName(const QString& typedName, const QString& address)
     if (!typedName.isEmpty()) {
         return typedName;
     }
-    const auto full = address.contains("://"_L1) ? address : u"https://"_s + address;
+    const auto full = withScheme(address);
     const QUrl url(full, QUrl::StrictMode);
     return url.isValid() && !url.host().isEmpty() ? hostAsTyped(url, full) : address;
-}
-
-QString launchPath(const QString& target, const QString& home)
-{
-    const auto location = target.startsWith(u'/') || target.startsWith(u'~')
-        ? locationOf(target, home)
-        : std::nullopt;
-    return location && location->isLocalFile() ? location->toLocalFile() : QString();
 }
 
 } // namespace quib

@@ -8,7 +8,4 @@ namespace quib {
 /// else the address.
 QString linkName(const QString& typedName, const QString& address);
 
-/// The full path that a target stands for, "~" being the home folder; empty for an address.
-QString launchPath(const QString& target, const QString& home);
-
 } // namespace quib

@@ -1,7 +1,8 @@
 #include "views/launchlistmodel.h"
 
+#include "integrations/actions.h"
+#include "views/followsource.h"
 #include "views/launchlink.h"
-#include "views/storelink.h"
 
 #include <QDir>
 
@@ -9,7 +10,7 @@ namespace quib {
 
 void LaunchListModel::setStore(Store* store)
 {
-    if (followStore(m_store, store, this, &LaunchListModel::follow, &Store::launchChanged)) {
+    if (followSource(m_store, store, this, &LaunchListModel::follow, &Store::launchChanged)) {
         Q_EMIT storeChanged();
     }
 }
@@ -51,7 +52,7 @@ QVariant LaunchListModel::data(const QModelIndex& index, int role) const
     case IdRole: return item.id;
     case NameRole: return item.name;
     case TargetRole: return item.target;
-    case PathRole: return launchPath(item.target, QDir::homePath());
+    case PathRole: return pathOf(item.target, QDir::homePath());
     }
     return {};
 }

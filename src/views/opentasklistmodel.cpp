@@ -1,6 +1,6 @@
 #include "views/opentasklistmodel.h"
 
-#include "views/storelink.h"
+#include "views/followsource.h"
 
 namespace quib {
 
@@ -26,7 +26,7 @@ QList<TaskItem> firstOpenTasks(const QList<TaskItem>& tasks)
 
 void OpenTaskListModel::setStore(Store* store)
 {
-    if (followStore(m_store, store, this, &OpenTaskListModel::follow, &Store::tasksChanged)) {
+    if (followSource(m_store, store, this, &OpenTaskListModel::follow, &Store::tasksChanged)) {
         Q_EMIT storeChanged();
     }
 }

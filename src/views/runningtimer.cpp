@@ -1,14 +1,14 @@
 #include "views/runningtimer.h"
 
+#include "views/followsource.h"
 #include "views/noclient.h"
-#include "views/storelink.h"
 
 namespace quib {
 
 void RunningTimer::setStore(Store* store)
 {
-    if (followStore(m_store, store, this, &RunningTimer::follow, &Store::entriesChanged,
-                    &Store::clientsChanged)) {
+    if (followSource(m_store, store, this, &RunningTimer::follow, &Store::entriesChanged,
+                     &Store::clientsChanged)) {
         Q_EMIT storeChanged();
     }
 }

@@ -14,8 +14,7 @@ namespace {
 /// The application that a button leads to, if it has no icon of its own; else empty.
 QString applicationOf(const ShortcutButton& button)
 {
-    const auto location = button.icon ? std::nullopt : locationOf(button.url, QDir::homePath());
-    const auto path = location ? location->toLocalFile() : QString();
+    const auto path = button.icon ? QString() : pathOf(button.url, QDir::homePath());
     return path.endsWith(".app"_L1) || path.endsWith(".desktop"_L1) ? path : QString();
 }
 

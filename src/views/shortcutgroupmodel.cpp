@@ -1,6 +1,7 @@
 #include "views/shortcutgroupmodel.h"
 
 #include "brand/brand.h"
+#include "views/followsource.h"
 
 using namespace Qt::StringLiterals;
 
@@ -23,21 +24,10 @@ QString ShortcutGroupModel::problem() const
 
 void ShortcutGroupModel::setShortcuts(Shortcuts* shortcuts)
 {
-    if (m_shortcuts == shortcuts) {
-        return;
+    if (followSource(m_shortcuts, shortcuts, this, &ShortcutGroupModel::follow,
+                     &Shortcuts::groupsChanged, &Shortcuts::problemChanged)) {
+        Q_EMIT shortcutsChanged();
     }
-    if (m_shortcuts) {
-        m_shortcuts->disconnect(this);
-    }
-    m_shortcuts = shortcuts;
-    if (m_shortcuts) {
-        connect(m_shortcuts, &Shortcuts::groupsChanged, this, &ShortcutGroupModel::follow);
-        connect(m_shortcuts, &Shortcuts::problemChanged, this, &ShortcutGroupModel::problemChanged);
-        connect(m_shortcuts, &QObject::destroyed, this, &ShortcutGroupModel::follow);
-    }
-    follow();
-    Q_EMIT shortcutsChanged();
-    Q_EMIT problemChanged();
 }
 
 int ShortcutGroupModel::rowCount(const QModelIndex& parent) const
@@ -74,6 +64,7 @@ void ShortcutGroupModel::follow()
         }
     }
     show(m_groups, records);
+    Q_EMIT problemChanged();
 }
 
 } // namespace quib

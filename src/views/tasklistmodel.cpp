@@ -1,6 +1,6 @@
 #include "views/tasklistmodel.h"
 
-#include "views/storelink.h"
+#include "views/followsource.h"
 
 #include <QHash>
 
@@ -23,8 +23,8 @@ QList<TaskItem> visibleTasks(const QList<TaskItem>& tasks, const std::optional<Q
 
 void TaskListModel::setStore(Store* store)
 {
-    if (followStore(m_store, store, this, &TaskListModel::follow, &Store::clientsChanged,
-                    &Store::tasksChanged)) {
+    if (followSource(m_store, store, this, &TaskListModel::follow, &Store::clientsChanged,
+                     &Store::tasksChanged)) {
         Q_EMIT storeChanged();
     }
 }

@@ -1,7 +1,7 @@
 #include "views/totallistmodel.h"
 
 #include "model/period.h"
-#include "views/storelink.h"
+#include "views/followsource.h"
 
 #include <algorithm>
 #include <limits>
@@ -53,8 +53,8 @@ QList<TotalRecord> totalRecords(const QList<ClientTotal>& totals)
 
 void TotalListModel::setStore(Store* store)
 {
-    if (followStore(m_store, store, this, &TotalListModel::refresh, &Store::entriesChanged,
-                    &Store::clientsChanged)) {
+    if (followSource(m_store, store, this, &TotalListModel::refresh, &Store::entriesChanged,
+                     &Store::clientsChanged)) {
         Q_EMIT storeChanged();
     }
 }

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void reveal_showsTheThing();
     void reveal_noPath_asksNothing();
     void locationOf_home_isTheGivenOne();
+    void pathOf_isWhatBeginsWithASlash_data();
+    void pathOf_isWhatBeginsWithASlash();
 
 private:
     FakeOpener m_opener;
@@ -171,6 +173,28 @@ void ActionsTest::reveal_noPath_asksNothing()
 void ActionsTest::locationOf_home_isTheGivenOne()
 {
     QCOMPARE(locationOf(u"~/x"_s, u"/home/bob"_s), QUrl::fromLocalFile(u"/home/bob/x"_s));
+}
+
+void ActionsTest::pathOf_isWhatBeginsWithASlash_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QString>("path");
+
+    QTest::addRow("path") << u"/usr/share/a.desktop"_s << u"/usr/share/a.desktop"_s;
+    QTest::addRow("home") << u"~"_s << u"/home/ann"_s;
+    QTest::addRow("below home") << u"~/Work 50%"_s << u"/home/ann/Work 50%"_s;
+    QTest::addRow("another's home") << u"~bob/x"_s << QString();
+    QTest::addRow("address") << u"example.com"_s << QString();
+    QTest::addRow("address of a file") << u"file:///usr/share/a.desktop"_s << QString();
+    QTest::addRow("no name of a file") << u"/a"_s + QChar(QChar::Null) << QString();
+    QTest::addRow("nothing") << QString() << QString();
+}
+
+void ActionsTest::pathOf_isWhatBeginsWithASlash()
+{
+    QFETCH(QString, target);
+
+    QTEST(pathOf(target, u"/home/ann"_s), "path");
 }
 
 QTEST_GUILESS_MAIN(ActionsTest)

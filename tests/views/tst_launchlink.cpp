@@ -3,7 +3,6 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-using quib::launchPath;
 using quib::linkName;
 
 class LaunchLinkTest : public QObject {
@@ -13,8 +12,6 @@ private Q_SLOTS:
     void typedName_isTheName() { QCOMPARE(linkName(u"Shop"_s, u"a.example"_s), u"Shop"_s); }
     void withoutName_isTheHostAsTyped_data();
     void withoutName_isTheHostAsTyped();
-    void paths_areWhatBeginsWithASlash_data();
-    void paths_areWhatBeginsWithASlash();
 };
 
 void LaunchLinkTest::withoutName_isTheHostAsTyped_data()
@@ -49,26 +46,6 @@ void LaunchLinkTest::withoutName_isTheHostAsTyped()
     QFETCH(QString, address);
 
     QTEST(linkName({}, address), "name");
-}
-
-void LaunchLinkTest::paths_areWhatBeginsWithASlash_data()
-{
-    QTest::addColumn<QString>("target");
-    QTest::addColumn<QString>("path");
-
-    QTest::addRow("path") << u"/usr/share/a.desktop"_s << u"/usr/share/a.desktop"_s;
-    QTest::addRow("home") << u"~"_s << u"/home/ann"_s;
-    QTest::addRow("below home") << u"~/Work 50%"_s << u"/home/ann/Work 50%"_s;
-    QTest::addRow("another's home") << u"~bob/x"_s << QString();
-    QTest::addRow("address") << u"example.com"_s << QString();
-    QTest::addRow("nothing") << QString() << QString();
-}
-
-void LaunchLinkTest::paths_areWhatBeginsWithASlash()
-{
-    QFETCH(QString, target);
-
-    QTEST(launchPath(target, u"/home/ann"_s), "path");
 }
 
 QTEST_APPLESS_MAIN(LaunchLinkTest)
