@@ -101,7 +101,10 @@ QString Desk::titleInFront() const
 
 bool Desk::waitForFront(const QString& title) const
 {
-    return waitFor("a window in front", [&] { return titleInFront().startsWith(title); });
+    return waitFor("a window in front, with the keyboard", [&] {
+        return titleInFront().startsWith(title)
+            && xdotool({u"getactivewindow"_s}) == xdotool({u"getwindowfocus"_s, u"-f"_s});
+    });
 }
 
 bool Desk::isShown(const QString& title) const
