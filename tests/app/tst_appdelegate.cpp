@@ -1,6 +1,7 @@
 #include "support/delegatefortest.h"
 
 #include "shortcuts/shortcuts.h"
+#include "support/writefile.h"
 
 #include <QTest>
 
@@ -29,10 +30,8 @@ private:
 void AppDelegateTest::launch_goesInOrder()
 {
     m_quib->shell.asked.clear();
-    QFile shortcuts(m_quib->folder.path() + u"/shortcuts.json"_s);
-    QVERIFY(shortcuts.open(QIODevice::WriteOnly));
-    shortcuts.write(R"({"groups": [{"title": "Only here", "buttons": []}]})");
-    shortcuts.close();
+    writeFile(m_quib->folder.path() + u"/shortcuts.json"_s,
+              R"({"groups": [{"title": "Only here", "buttons": []}]})");
     connect(&quib::Shortcuts::shared(), &quib::Shortcuts::groupsChanged, &m_quib->delegate,
             [this] { m_quib->shell.asked << u"reload shortcuts"_s; });
 

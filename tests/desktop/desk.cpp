@@ -1,6 +1,7 @@
 #include "desk.h"
 
 #include "deskconnection.h"
+#include "support/writefile.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -103,11 +104,7 @@ void Desk::startCompositor()
 
 void Desk::writeData(const QByteArray& json) const
 {
-    QDir().mkpath(dataFolder());
-    QFile file(dataFolder() + u"/data.json"_s);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(json);
-    }
+    writeFile(dataFolder() + u"/data.json"_s, json);
 }
 
 QJsonObject Desk::data() const

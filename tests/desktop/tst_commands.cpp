@@ -1,4 +1,5 @@
 #include "desk.h"
+#include "support/writefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -66,22 +67,16 @@ void CommandsTest::addTask(const Desk& desk, const QString& title)
 QString CommandsTest::recorder(Desk& desk, const QString& types)
 {
     const auto record = desk.folder(u"record"_s);
-    const auto program = desk.folder(u"recorder"_s);
-    QFile script(program);
-    script.open(QIODevice::WriteOnly);
-    script.write("#!/bin/sh\nprintf '%s\\n' \"$@\" > '" + QFile::encodeName(record) + ".new'\nmv '"
-                 + QFile::encodeName(record) + ".new' '" + QFile::encodeName(record) + "'\n");
-    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    script.close();
-    QDir().mkpath(desk.folder(u".local/share/applications"_s));
-    QFile entry(desk.folder(u".local/share/applications/recorder.desktop"_s));
-    entry.open(QIODevice::WriteOnly);
-    entry.write("[Desktop Entry]\nType=Application\nName=Recorder\nExec="
-                + QFile::encodeName(program) + " %f\nMimeType=" + types.toUtf8() + "\n");
-    QDir().mkpath(desk.folder(u".config"_s));
-    QFile defaults(desk.folder(u".config/mimeapps.list"_s));
-    defaults.open(QIODevice::WriteOnly);
-    defaults.write("[Default Applications]\n" + types.chopped(1).toUtf8() + "=recorder.desktop\n");
+    const auto target = QFile::encodeName(record);
+    const auto program = writeFile(desk.folder(u"recorder"_s),
+                                   "#!/bin/sh\nprintf '%s\\n' \"$@\" > '" + target + ".new'\nmv '"
+                                       + target + ".new' '" + target + "'\n");
+    QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    writeFile(desk.folder(u".local/share/applications/recorder.desktop"_s),
+              "[Desktop Entry]\nType=Application\nName=Recorder\nExec=" + QFile::encodeName(program)
+                  + " %f\nMimeType=" + types.toUtf8() + "\n");
+    writeFile(desk.folder(u".config/mimeapps.list"_s),
+              "[Default Applications]\n" + types.chopped(1).toUtf8() + "=recorder.desktop\n");
     return record;
 }
 

@@ -1,6 +1,7 @@
 #include "desk.h"
 
 #include "support/soundfile.h"
+#include "support/writefile.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -33,15 +34,6 @@ constexpr QPoint ConnectCalendar{748, 117};
 constexpr QPoint FirstEvent{691, 96}; // Its bar.
 constexpr QPoint EditLaunch{1114, 256};
 constexpr QPoint AddWebsite{1084, 256};
-
-void writeFile(const QString& path, const QByteArray& bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(bytes);
-    }
-}
 
 Program startPlayer(Desk& desk)
 {

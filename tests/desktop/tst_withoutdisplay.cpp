@@ -1,4 +1,5 @@
 #include "desk.h"
+#include "support/writefile.h"
 
 #include <QDir>
 #include <QImage>
@@ -63,12 +64,7 @@ QByteArray WithoutDisplayTest::picture(const QString& folder, const QString& nam
 
 QString WithoutDisplayTest::put(const QString& name, const QByteArray& bytes) const
 {
-    const auto path = m_home->filePath(name);
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    file.open(QIODevice::WriteOnly);
-    file.write(bytes);
-    return path;
+    return writeFile(m_home->filePath(name), bytes);
 }
 
 void WithoutDisplayTest::noDisplay_saysSoInOneLine()

@@ -1,4 +1,5 @@
 #include "model/atomicfile.h"
+#include "support/writefile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -19,12 +20,7 @@ class Files {
 public:
     QString path(const QString& name) const { return m_dir.filePath(name); }
 
-    void put(const QString& name, const QByteArray& bytes) const
-    {
-        QFile file(path(name));
-        file.open(QIODevice::WriteOnly);
-        file.write(bytes);
-    }
+    void put(const QString& name, const QByteArray& bytes) const { writeFile(path(name), bytes); }
 
     QByteArray bytes(const QString& name) const
     {

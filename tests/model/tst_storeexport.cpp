@@ -1,5 +1,6 @@
 #include "model/timesheet.h"
 #include "support/storefixture.h"
+#include "support/writefile.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -17,9 +18,7 @@ public:
     explicit User(const QByteArray& downloads)
     {
         qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_home.path()));
-        QFile list(m_home.filePath(u"user-dirs.dirs"_s));
-        list.open(QIODevice::WriteOnly);
-        list.write("XDG_DOWNLOAD_DIR=\"" + downloads + "\"\n");
+        writeFile(m_home.filePath(u"user-dirs.dirs"_s), "XDG_DOWNLOAD_DIR=\"" + downloads + "\"\n");
     }
     ~User() { qunsetenv("XDG_CONFIG_HOME"); }
     Q_DISABLE_COPY_MOVE(User)

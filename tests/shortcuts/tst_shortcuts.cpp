@@ -2,6 +2,7 @@
 
 #include "shortcuts/startertext.h"
 #include "support/datafolderfortest.h"
+#include "support/writefile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -62,9 +63,7 @@ void ShortcutsTest::init()
 
 void ShortcutsTest::put(const QByteArray& bytes)
 {
-    QFile out(file());
-    QVERIFY(out.open(QIODevice::WriteOnly));
-    out.write(bytes);
+    writeFile(file(), bytes);
 }
 
 QByteArray ShortcutsTest::bytes() const

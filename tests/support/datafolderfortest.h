@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QFile>
+#include "support/writefile.h"
+
 #include <QTemporaryDir>
 
 /// A data folder of a test's own, named in QUIB_DATA_DIR for as long as this lives.
@@ -19,12 +20,7 @@ public:
         return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
     }
 
-    void put(const QByteArray& bytes) const
-    {
-        QFile out(file());
-        out.open(QIODevice::WriteOnly);
-        out.write(bytes);
-    }
+    void put(const QByteArray& bytes) const { writeFile(file(), bytes); }
 
 private:
     QTemporaryDir m_dir;

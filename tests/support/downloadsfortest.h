@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QDir>
-#include <QFile>
+#include "support/writefile.h"
+
 #include <QTemporaryDir>
 
 /// A user whose downloads go to a folder of the test's own, for as long as this lives.
@@ -11,9 +11,8 @@ public:
     {
         qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_home.path()));
         QDir(m_home.path()).mkdir(QStringLiteral("Downloads"));
-        QFile list(m_home.filePath(QStringLiteral("user-dirs.dirs")));
-        list.open(QIODevice::WriteOnly);
-        list.write("XDG_DOWNLOAD_DIR=\"" + QFile::encodeName(path()) + "\"\n");
+        writeFile(m_home.filePath(QStringLiteral("user-dirs.dirs")),
+                  "XDG_DOWNLOAD_DIR=\"" + QFile::encodeName(path()) + "\"\n");
     }
     ~DownloadsForTest() { qunsetenv("XDG_CONFIG_HOME"); }
     Q_DISABLE_COPY_MOVE(DownloadsForTest)

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "support/writefile.h"
+
 #include <QByteArray>
 #include <QDataStream>
-#include <QFile>
 
 inline QByteArray riffChunk(const QByteArray& name, const QByteArray& bytes)
 {
@@ -30,10 +31,8 @@ inline void writeSound(const QString& path, const QByteArray& title, const QByte
     constexpr int SamplesPerSecond = 8000;
     const auto tags = "INFO" + riffChunk("INAM", title) + riffChunk("IART", artist);
     const QByteArray sound(120 * SamplesPerSecond, '\x80');
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(riffChunk("RIFF",
-                             "WAVE" + riffChunk("fmt ", soundFormat(SamplesPerSecond))
-                                 + riffChunk("LIST", tags) + riffChunk("data", sound)));
-    }
+    writeFile(path,
+              riffChunk("RIFF",
+                        "WAVE" + riffChunk("fmt ", soundFormat(SamplesPerSecond))
+                            + riffChunk("LIST", tags) + riffChunk("data", sound)));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/linux/autostartentry.h"
+#include "support/writefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -31,13 +32,7 @@ public:
 
     QString makeFile(const QString& name, const QByteArray& bytes) const
     {
-        auto made = path(name);
-        QDir().mkpath(QFileInfo(made).path());
-        QFile file(made);
-        if (file.open(QIODevice::WriteOnly)) {
-            file.write(bytes);
-        }
-        return made;
+        return writeFile(path(name), bytes);
     }
 
     void putEntry(const QString& folder, const QByteArray& bytes) const

@@ -1,5 +1,7 @@
 #include "platform/linux/calendardesk.h"
 
+#include "support/writefile.h"
+
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
@@ -33,15 +35,6 @@ QByteArray busConfiguration(const QString& services, int patience)
            "</busconfig>"_s.arg(services)
                .arg(patience)
                .toUtf8();
-}
-
-void makeFile(const QString& path, const QByteArray& bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(bytes);
-    }
 }
 
 } // namespace
@@ -83,11 +76,11 @@ CalendarDesk::~CalendarDesk()
 void CalendarDesk::makeCalendar(const QString& id, const QByteArray& events,
                                 const QByteArray& color) const
 {
-    makeFile(path(u"config/evolution/sources/%1.source"_s.arg(id)),
-             "[Data Source]\nDisplayName=" + id.toUtf8()
-                 + "\nEnabled=true\nParent=local-stub\n\n[Calendar]\nBackendName=local\nColor="
-                 + color + "\nSelected=true\n");
-    makeFile(path(u"data/evolution/calendar/%1/calendar.ics"_s.arg(id)), calendarOf(events));
+    writeFile(path(u"config/evolution/sources/%1.source"_s.arg(id)),
+              "[Data Source]\nDisplayName=" + id.toUtf8()
+                  + "\nEnabled=true\nParent=local-stub\n\n[Calendar]\nBackendName=local\nColor="
+                  + color + "\nSelected=true\n");
+    writeFile(path(u"data/evolution/calendar/%1/calendar.ics"_s.arg(id)), calendarOf(events));
 }
 
 QByteArray CalendarDesk::calendarOf(const QByteArray& events)
@@ -100,8 +93,8 @@ QByteArray CalendarDesk::calendarOf(const QByteArray& events)
 
 void CalendarDesk::makeServiceThatNeverComes(const QString& name) const
 {
-    makeFile(path(u"services/%1.service"_s.arg(name)),
-             "[D-BUS Service]\nName=" + name.toUtf8() + "\nExec=/bin/sleep 60\n");
+    writeFile(path(u"services/%1.service"_s.arg(name)),
+              "[D-BUS Service]\nName=" + name.toUtf8() + "\nExec=/bin/sleep 60\n");
 }
 
 void CalendarDesk::startBus(const QStringList& services, int startingMs)
@@ -111,7 +104,7 @@ void CalendarDesk::startBus(const QStringList& services, int startingMs)
         QFile::link(u"/usr/share/dbus-1/services/%1.service"_s.arg(service),
                     path(u"services/%1.service"_s.arg(service)));
     }
-    makeFile(path(u"bus.conf"_s), busConfiguration(path(u"services"_s), startingMs));
+    writeFile(path(u"bus.conf"_s), busConfiguration(path(u"services"_s), startingMs));
     m_bus.setProcessEnvironment(environment);
     m_bus.setStandardErrorFile(QProcess::nullDevice());
     m_bus.start(u"dbus-daemon"_s,

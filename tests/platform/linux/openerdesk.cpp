@@ -1,5 +1,7 @@
 #include "platform/linux/openerdesk.h"
 
+#include "support/writefile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -57,13 +59,7 @@ OpenerDesk::~OpenerDesk()
 
 QString OpenerDesk::makeFile(const QString& name, const QByteArray& bytes) const
 {
-    auto made = path(name);
-    QDir().mkpath(QFileInfo(made).path());
-    QFile file(made);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(bytes);
-    }
-    return made;
+    return writeFile(path(name), bytes);
 }
 
 QString OpenerDesk::makeFolder(const QString& name) const

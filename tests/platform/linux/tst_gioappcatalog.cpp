@@ -1,4 +1,5 @@
 #include "platform/linux/gioappcatalog.h"
+#include "support/writefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -61,14 +62,9 @@ void GioAppCatalogTest::initTestCase()
 QString GioAppCatalogTest::install(const QString& folder, const QString& id,
                                    const QString& lines) const
 {
-    auto path = m_folder.filePath(folder + u"/applications/"_s + id + u".desktop"_s);
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        const auto program = lines.contains(u"\nExec="_s) ? QByteArray() : "Exec=true\n"_ba;
-        file.write("[Desktop Entry]\nType=Application\n" + program + lines.toUtf8());
-    }
-    return path;
+    const auto program = lines.contains(u"\nExec="_s) ? QByteArray() : "Exec=true\n"_ba;
+    return writeFile(m_folder.filePath(folder + u"/applications/"_s + id + u".desktop"_s),
+                     "[Desktop Entry]\nType=Application\n" + program + lines.toUtf8());
 }
 
 void GioAppCatalogTest::applicationNamed_data()
@@ -122,11 +118,7 @@ void GioAppCatalogTest::nameOf_isWhatTheUserReads()
 
 void GioAppCatalogTest::nameOf_noEntry_isTheFilesName()
 {
-    const auto path = m_folder.filePath(u"My Tool 2.5.desktop"_s);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("no entry at all");
-    file.close();
+    const auto path = writeFile(m_folder.filePath(u"My Tool 2.5.desktop"_s), "no entry at all");
 
     QCOMPARE(GioAppCatalog().nameOf(path), u"My Tool 2.5"_s);
     QCOMPARE(GioAppCatalog().nameOf(u"/nowhere/Gone.app"_s), u"Gone"_s);

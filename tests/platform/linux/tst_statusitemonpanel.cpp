@@ -3,6 +3,7 @@
 #include "platform/linux/statusnotifier.h"
 #include "platform/linux/x11/otherprogram.h"
 #include "platform/linux/x11/runningprogram.h"
+#include "support/writefile.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -160,10 +161,7 @@ void StatusItemOnPanelTest::initTestCase()
 void StatusItemOnPanelTest::writeSettings() const
 {
     const auto folder = m_home.filePath(u"CONFIG_HOME/xfce4/xfconf/xfce-perchannel-xml"_s);
-    QVERIFY(QDir().mkpath(folder));
-    QFile file(folder + u"/xfce4-panel.xml"_s);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(PanelSettings);
+    writeFile(folder + u"/xfce4-panel.xml"_s, PanelSettings);
 }
 
 void StatusItemOnPanelTest::init()
