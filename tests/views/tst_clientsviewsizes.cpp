@@ -51,16 +51,6 @@ private:
 
 namespace {
 
-double numberOf(const QQuickItem* item, const char* property)
-{
-    return item->property(property).toDouble();
-}
-
-QString textOf(const QQuickItem* item, const char* property)
-{
-    return item->property(property).toString();
-}
-
 double sizeOf(const QQuickItem* item)
 {
     return numberOf(item, "size");
@@ -130,10 +120,10 @@ void ClientsViewSizesTest::header_hasItsSizes()
 
 void ClientsViewSizesTest::row_hasItsSizes()
 {
-    const auto frame = ShownPanel::inScene(row(0));
+    const auto frame = inScene(row(0));
     auto* dot = part(row(0), u"dot"_s);
     auto* name = part(row(0), u"name"_s);
-    const auto dotFrame = ShownPanel::inScene(dot);
+    const auto dotFrame = inScene(dot);
 
     QCOMPARE(dotFrame.size(), QSizeF(8, 8));
     QCOMPARE(numberOf(dot, "radius"), 4.0);
@@ -149,7 +139,7 @@ void ClientsViewSizesTest::row_isFilledByItsState()
 {
     const auto* selected = part(row(0), u"surface"_s);
     QCOMPARE(numberOf(selected, "radius"), 8.0);
-    QCOMPARE(ShownPanel::inScene(selected), ShownPanel::inScene(row(0)));
+    QCOMPARE(inScene(selected), inScene(row(0)));
     QCOMPARE(colorOf(selected), Brand::purple());
     QCOMPARE(selected->opacity(), 0.35);
 
@@ -170,7 +160,7 @@ void ClientsViewSizesTest::timedRow_hasItsMark()
     QCOMPARE(textOf(mark, "name"), u"stopwatch.fill"_s);
     QCOMPARE(sizeOf(mark), 10.0);
     QCOMPARE(colorOf(mark), Brand::live());
-    QCOMPARE(ShownPanel::inScene(mark).right(), ShownPanel::inScene(row(0)).right() - 8);
+    QCOMPARE(inScene(mark).right(), inScene(row(0)).right() - 8);
 }
 
 void ClientsViewSizesTest::badge_hasItsSizes()
@@ -178,10 +168,10 @@ void ClientsViewSizesTest::badge_hasItsSizes()
     m_panel->workspace.task(u"x"_s, m_cafe);
     m_panel->settle();
 
-    const auto badge = ShownPanel::inScene(part(row(0), u"badge"_s));
+    const auto badge = inScene(part(row(0), u"badge"_s));
     const auto* count = part(row(0), u"openTasks"_s);
     const auto* capsule = part(row(0), u"capsule"_s);
-    const auto digits = ShownPanel::inScene(count);
+    const auto digits = inScene(count);
 
     QCOMPARE(textOf(count, "text"), u"1"_s);
     QCOMPARE(sizeOf(count), 10.0);
@@ -189,8 +179,8 @@ void ClientsViewSizesTest::badge_hasItsSizes()
     QCOMPARE(colorOf(count), Brand::muted());
     QCOMPARE(digits.left(), badge.left() + 5);
     QCOMPARE(digits.right(), badge.right() - 5);
-    QCOMPARE(badge.right(), ShownPanel::inScene(row(0)).right() - 8);
-    QCOMPARE(ShownPanel::inScene(capsule), badge);
+    QCOMPARE(badge.right(), inScene(row(0)).right() - 8);
+    QCOMPARE(inScene(capsule), badge);
     QCOMPARE(colorOf(capsule), Brand::white(0.08));
     QCOMPARE(numberOf(capsule, "radius"), badge.height() / 2);
 }
@@ -252,10 +242,10 @@ void ClientsViewSizesTest::status_hasItsSizes()
     QCOMPARE(sizeOf(title), 10.5);
     QCOMPARE(colorOf(title),
              status == ClientStatus::Build ? Brand::glow() : Brand::color(rawText(status)));
-    QCOMPARE(ShownPanel::inScene(title), frame.adjusted(8, 3, -8, -3));
+    QCOMPARE(inScene(title), frame.adjusted(8, 3, -8, -3));
     QVERIFY(frame.width() - title->implicitWidth() - 16 < 1); // On whole points.
     QVERIFY(frame.height() - title->implicitHeight() - 6 < 1);
-    QCOMPARE(ShownPanel::inScene(capsule), frame);
+    QCOMPARE(inScene(capsule), frame);
     QCOMPARE(colorOf(capsule), Brand::color(rawText(status)));
     QCOMPARE(capsule->opacity(), 0.15);
     QCOMPARE(numberOf(capsule, "radius"), frame.height() / 2);

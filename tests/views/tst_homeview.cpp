@@ -54,7 +54,7 @@ private Q_SLOTS:
 private:
     QString text(const QString& card, const QString& name) { return m_tab->text(card, name); }
     QQuickItem* part(const QString& card, const QString& name) { return m_tab->part(card, name); }
-    void click(const QString& card, const QString& name) { m_tab->panel.click(part(card, name)); }
+    void click(const QString& card, const QString& name) { m_tab->click(part(card, name)); }
     static QString text(QQuickItem* row, const QString& name)
     {
         return ShownPanel::find(row, name)->property("text").toString();
@@ -123,21 +123,21 @@ void HomeViewTest::buttons_sendTheirVerbs()
 
     click(m_music, QString::fromLatin1(QTest::currentDataTag()));
 
-    QCOMPARE(m_tab->panel.player.asked.back(), verb + u" to Music"_s);
+    QCOMPARE(m_tab->player.asked.back(), verb + u" to Music"_s);
 }
 
 void HomeViewTest::waveform_movesOnlyWhilePlaying()
 {
-    m_tab->panel.model.setMotionReduced(false);
+    m_tab->model.setMotionReduced(false);
     m_tab->playerSays(Player::Music, u"Song||Band||playing"_s);
     const auto* waveform = part(m_music, u"waveform"_s);
     const auto lit = [&] { return waveform->property("lit").toInt(); };
     QTRY_VERIFY(lit() < 7);
 
-    m_tab->panel.model.setMotionReduced(true);
+    m_tab->model.setMotionReduced(true);
     QVERIFY(!waveform->property("moves").toBool());
     QCOMPARE(lit(), 7);
-    m_tab->panel.model.setMotionReduced(false);
+    m_tab->model.setMotionReduced(false);
     QVERIFY(waveform->property("moves").toBool());
     m_tab->playerSays(Player::Music, u"Song||Band||paused"_s);
     QVERIFY(!waveform->property("moves").toBool());
@@ -154,15 +154,15 @@ void HomeViewTest::waveform_restsOutOfSight_data()
 void HomeViewTest::waveform_restsOutOfSight()
 {
     QFETCH(bool, isCollapsed);
-    m_tab->panel.model.setMotionReduced(false);
+    m_tab->model.setMotionReduced(false);
     m_tab->playerSays(Player::Music, u"Song||Band||playing"_s);
     auto* timer = part(m_music, u"waveform"_s)->findChild<QObject*>(u"steps"_s);
     QVERIFY(timer->property("running").toBool());
 
     if (isCollapsed) {
-        m_tab->panel.model.setExpanded(false);
+        m_tab->model.setExpanded(false);
     } else {
-        m_tab->panel.model.setTab(Tab::Tasks);
+        m_tab->model.setTab(Tab::Tasks);
     }
 
     QTRY_VERIFY(!timer->property("running").toBool());
@@ -173,14 +173,14 @@ void HomeViewTest::texts_areNeverMarkup()
     const auto markup = u"<b>bold</b> <img src='http://example.com/a.png'>"_s;
     m_tab->playerSays(Player::Music, markup + u"||"_s + markup + u"||playing"_s);
     m_tab->grant({m_tab->event(markup, 5)});
-    m_tab->store().startTimer(m_tab->panel.workspace.client(markup), markup);
-    m_tab->panel.workspace.task(markup);
+    m_tab->store().startTimer(m_tab->workspace.client(markup), markup);
+    m_tab->workspace.task(markup);
     m_tab->launch(markup, markup);
-    m_tab->panel.move(part(m_strip, u"launch"_s));
+    m_tab->move(part(m_strip, u"launch"_s));
     auto* toolTip = part(m_strip, u"launch"_s)->property("toolTip").value<QObject*>();
     QTRY_VERIFY(toolTip->property("opened").toBool());
 
-    const auto texts = textItems(*m_tab->panel.window->contentItem());
+    const auto texts = textItems(*m_tab->window->contentItem());
 
     int hostile = 0;
     for (const auto* text : texts) {
@@ -196,7 +196,7 @@ void HomeViewTest::calendar_neverAsked_offersToConnect()
     QCOMPARE(text(m_today, u"message"_s), u"See today's meetings and calls here."_s);
     QVERIFY(!part(m_today, u"left"_s)->isVisible());
 
-    m_tab->panel.calendars.authorizations.front()(CalendarAuthorization::WriteOnly);
+    m_tab->calendars.authorizations.front()(CalendarAuthorization::WriteOnly);
 
     QVERIFY(part(m_today, u"connect"_s)->isVisible());
     QCOMPARE(part(m_today, u"connect"_s)->property("title").toString(), u"Connect Calendar"_s);
@@ -206,12 +206,12 @@ void HomeViewTest::calendar_neverAsked_offersToConnect()
 void HomeViewTest::calendar_connected_showsTheEvents()
 {
     click(m_today, u"connect"_s);
-    auto& calendars = m_tab->panel.calendars;
+    auto& calendars = m_tab->calendars;
     QCOMPARE(calendars.requests.size(), 1);
 
     calendars.requests.front()(true);
     calendars.readings.back().answer({m_tab->event(u"Call"_s, 5)});
-    m_tab->panel.settle();
+    m_tab->settle();
 
     QVERIFY(!part(m_today, u"connect"_s)->isVisible());
     QCOMPARE(text(m_today, u"left"_s), u"1 left"_s);
@@ -220,7 +220,7 @@ void HomeViewTest::calendar_connected_showsTheEvents()
 
 void HomeViewTest::calendar_denied_saysWhere()
 {
-    m_tab->panel.calendars.authorizations.front()(CalendarAuthorization::Denied);
+    m_tab->calendars.authorizations.front()(CalendarAuthorization::Denied);
 
     QCOMPARE(text(m_today, u"message"_s),
              u"Calendar access is off. Turn it on in System Settings › Privacy & Security › "
@@ -285,9 +285,9 @@ void HomeViewTest::manyEvents_scroll()
 
 void HomeViewTest::timer_isShownAndStopped()
 {
-    const auto cafe = m_tab->panel.workspace.client(u"Café"_s);
+    const auto cafe = m_tab->workspace.client(u"Café"_s);
     m_tab->store().startTimer(cafe, {});
-    m_tab->panel.settle();
+    m_tab->settle();
     QCOMPARE(text(m_focus, u"client"_s), u"Café"_s);
     QVERIFY(part(m_focus, u"running"_s)->isVisible());
     QCOMPARE(part(m_focus, u"stop"_s)->property("help").toString(), u"Stop timer"_s);
@@ -309,19 +309,19 @@ void HomeViewTest::noTimer_leadsToTheTimeTab()
 {
     click(m_focus, u"start"_s);
 
-    QCOMPARE(m_tab->panel.model.tab(), Tab::Time);
+    QCOMPARE(m_tab->model.tab(), Tab::Time);
     QVERIFY(!m_tab->store().hasRunningEntry());
 }
 
 void HomeViewTest::tasks_areTickedOff()
 {
     for (const auto& title : {u"a"_s, u"b"_s, u"c"_s, u"d"_s}) {
-        m_tab->panel.workspace.task(title);
+        m_tab->workspace.task(title);
     }
-    m_tab->panel.settle();
+    m_tab->settle();
     QCOMPARE(m_tab->rows(m_focus, u"task"_s).size(), 3);
 
-    m_tab->panel.click(ShownPanel::find(m_tab->rows(m_focus, u"task"_s).front(), u"tick"_s));
+    m_tab->click(ShownPanel::find(m_tab->rows(m_focus, u"task"_s).front(), u"tick"_s));
 
     QVERIFY(m_tab->store().data().tasks.front().done);
     QCOMPARE(m_tab->rows(m_focus, u"task"_s).size(), 3);
@@ -340,7 +340,7 @@ void HomeViewTest::launch_opensItsTarget()
 
     click(m_strip, u"launch"_s);
 
-    QCOMPARE(m_tab->panel.opener.asked, QStringList{u"browse https://mail.example"_s});
+    QCOMPARE(m_tab->opener.asked, QStringList{u"browse https://mail.example"_s});
 }
 
 void HomeViewTest::editing_removesAnItem()
@@ -349,7 +349,7 @@ void HomeViewTest::editing_removesAnItem()
     QVERIFY(!part(m_strip, u"remove"_s)->isVisible());
     QCOMPARE(part(m_strip, u"edit"_s)->property("symbol").toString(), u"slider.horizontal.3"_s);
     click(m_strip, u"edit"_s);
-    m_tab->panel.settle();
+    m_tab->settle();
     QCOMPARE(part(m_strip, u"edit"_s)->property("symbol").toString(), u"checkmark"_s);
 
     click(m_strip, u"remove"_s);
@@ -360,10 +360,10 @@ void HomeViewTest::editing_removesAnItem()
 void HomeViewTest::application_isAdded()
 {
     click(m_strip, u"edit"_s);
-    m_tab->panel.settle();
+    m_tab->settle();
 
     click(m_strip, u"addApplication"_s);
-    m_tab->panel.commands.choices.front()(QUrl::fromLocalFile(u"/opt/a.desktop"_s));
+    m_tab->commands.choices.front()(QUrl::fromLocalFile(u"/opt/a.desktop"_s));
 
     QCOMPARE(m_tab->store().data().launch.back().target, u"/opt/a.desktop"_s);
     QCOMPARE(m_tab->store().data().launch.back().name, u"the application at /opt/a.desktop"_s);
@@ -372,19 +372,19 @@ void HomeViewTest::application_isAdded()
 void HomeViewTest::startAdding()
 {
     click(m_strip, u"edit"_s);
-    m_tab->panel.settle();
+    m_tab->settle();
     click(m_strip, u"addLink"_s);
-    m_tab->panel.settle();
+    m_tab->settle();
 }
 
 void HomeViewTest::website_isAddedByKeyboard()
 {
     startAdding();
-    QCOMPARE(m_tab->panel.commands.asked, QStringList{u"take keyboard"_s});
+    QCOMPARE(m_tab->commands.asked, QStringList{u"take keyboard"_s});
     QVERIFY(part(m_strip, u"linkFields"_s)->isVisible());
 
     m_tab->press(Qt::Key_Tab);
-    m_tab->type("Shop.Example.COM/admin");
+    m_tab->type(u"Shop.Example.COM/admin"_s);
     m_tab->press(Qt::Key_Return);
 
     const auto& item = m_tab->store().data().launch.back();
@@ -398,7 +398,7 @@ void HomeViewTest::website_withoutAddress_addsNothing()
 {
     startAdding();
 
-    m_tab->type("A name");
+    m_tab->type(u"A name"_s);
     m_tab->press(Qt::Key_Return);
 
     QVERIFY(m_tab->store().data().launch.isEmpty());
@@ -413,7 +413,7 @@ void HomeViewTest::escape_leavesTheFields()
     m_tab->press(Qt::Key_Escape);
 
     QVERIFY(!part(m_strip, u"linkFields"_s)->isVisible());
-    QVERIFY(m_tab->panel.model.isExpanded());
+    QVERIFY(m_tab->model.isExpanded());
 }
 
 void HomeViewTest::icons_areThoseOfPaths()
@@ -424,8 +424,8 @@ void HomeViewTest::icons_areThoseOfPaths()
 
     QVERIFY(ShownPanel::find(rows[0], u"globe"_s)->isVisible());
     QVERIFY(!ShownPanel::find(rows[1], u"globe"_s)->isVisible());
-    QCOMPARE(m_tab->panel.icons.open.size(), 1);
-    QCOMPARE(m_tab->panel.icons.open.front().path, u"/usr/share/applications/files.desktop"_s);
+    QCOMPARE(m_tab->icons.open.size(), 1);
+    QCOMPARE(m_tab->icons.open.front().path, u"/usr/share/applications/files.desktop"_s);
 }
 
 void HomeViewTest::manyItems_scroll()
@@ -438,7 +438,7 @@ void HomeViewTest::manyItems_scroll()
 
     QVERIFY(list->property("contentWidth").toDouble() > list->width());
     for (const auto* row : m_tab->rows(m_strip, u"item"_s)) {
-        QVERIFY(ShownPanel::inScene(row).width() <= 12 + 16 + 7 + 140 + 12);
+        QVERIFY(inScene(row).width() <= 12 + 16 + 7 + 140 + 12);
     }
     QVERIFY(part(m_strip, u"edit"_s)->isVisible());
 }

@@ -29,12 +29,9 @@ private Q_SLOTS:
     void tasks_withoutRoom_areLeftOut();
 
 private:
-    QRectF rect(const QString& name) { return m_tab->panel.rect(name); }
+    QRectF rect(const QString& name) { return m_tab->rect(name); }
     QQuickItem* part(const QString& card, const QString& name) { return m_tab->part(card, name); }
-    QRectF rect(const QString& card, const QString& name)
-    {
-        return ShownPanel::inScene(part(card, name));
-    }
+    QRectF rect(const QString& card, const QString& name) { return inScene(part(card, name)); }
     /// Where things may stand in a card.
     QRectF room(const QString& card) { return rect(card).adjusted(11.9, 11.9, -11.9, -11.9); }
     bool staysIn(const QQuickItem* text, const QString& card);
@@ -45,19 +42,6 @@ private:
 };
 
 namespace {
-
-struct Look {
-    double size;
-    int weight;
-    QColor color;
-
-    bool operator==(const Look&) const = default;
-};
-
-Look lookOf(const QQuickItem* text)
-{
-    return {text->property("size").toDouble(), text->property("weight").toInt(), colorOf(text)};
-}
 
 /// Where the letters of a text are, which its item may be too narrow for.
 QRectF inked(const QQuickItem* text)
@@ -74,7 +58,7 @@ QRectF inked(const QQuickItem* text)
 
 bool HomeViewSizesTest::staysIn(const QQuickItem* text, const QString& card)
 {
-    const auto line = ShownPanel::inScene(text);
+    const auto line = inScene(text);
     return line.height() < 20 && room(card).contains(line)
         && inked(text).right() <= room(card).right() && inked(text).left() >= room(card).left();
 }
@@ -87,16 +71,16 @@ bool HomeViewSizesTest::areApart(const QString& card, const QStringList& names,
     }
     items.removeIf([](const QQuickItem* item) { return !item->isVisible(); });
     for (qsizetype i = 0; i < items.size(); ++i) {
-        const auto here = ShownPanel::inScene(items[i]);
+        const auto here = inScene(items[i]);
         const bool isButton = items[i]->property("pressed").isValid();
         if (!(isButton ? rect(card).adjusted(4, 4, -4, -4) : room(card)).contains(here)) {
             qWarning() << items[i]->objectName() << here << "stands out of" << room(card);
             return false;
         }
         for (qsizetype j = 0; j < i; ++j) {
-            if (ShownPanel::inScene(items[j]).intersects(here)) {
+            if (inScene(items[j]).intersects(here)) {
                 qWarning() << items[i]->objectName() << here << "touches" << items[j]->objectName()
-                           << ShownPanel::inScene(items[j]);
+                           << inScene(items[j]);
                 return false;
             }
         }
@@ -200,8 +184,8 @@ void HomeViewSizesTest::strip_hasItsSizes()
 {
     const auto card = u"launchStrip"_s;
     m_tab->launch(u"Mail"_s, u"mail.example"_s);
-    m_tab->panel.click(part(card, u"edit"_s));
-    m_tab->panel.settle();
+    m_tab->click(part(card, u"edit"_s));
+    m_tab->settle();
 
     const QList<std::tuple<QString, QString, QString>> buttons{
         {u"edit"_s, u"checkmark"_s, u"Edit quick launch"_s},
@@ -237,9 +221,9 @@ void HomeViewSizesTest::longTexts_stayInTheirPlaces()
     QFETCH(QString, name);
     m_tab->playerSays(Player::Spotify, name + u"||"_s + name + u"||playing"_s);
     m_tab->grant({m_tab->event(name, 5)});
-    m_tab->store().startTimer(m_tab->panel.workspace.client(name), {});
-    m_tab->panel.workspace.task(name);
-    m_tab->panel.settle();
+    m_tab->store().startTimer(m_tab->workspace.client(name), {});
+    m_tab->workspace.task(name);
+    m_tab->settle();
     auto* event = m_tab->rows(u"todayCard"_s, u"event"_s).front();
     auto* task = m_tab->rows(u"focusCard"_s, u"task"_s).front();
 
@@ -249,8 +233,7 @@ void HomeViewSizesTest::longTexts_stayInTheirPlaces()
     QVERIFY(staysIn(ShownPanel::find(task, u"title"_s), u"focusCard"_s));
     auto* title = ShownPanel::find(event, u"title"_s);
     QVERIFY(staysIn(title, u"todayCard"_s));
-    QVERIFY(inked(title).right()
-            <= ShownPanel::inScene(ShownPanel::find(event, u"distance"_s)).left());
+    QVERIFY(inked(title).right() <= inScene(ShownPanel::find(event, u"distance"_s)).left());
 }
 
 void HomeViewSizesTest::parts_haveRoomUnderTallBars_data()
@@ -265,13 +248,13 @@ void HomeViewSizesTest::parts_haveRoomUnderTallBars_data()
 void HomeViewSizesTest::parts_haveRoomUnderTallBars()
 {
     QFETCH(int, height);
-    m_tab->panel.model.setNotchSize({190, static_cast<double>(height)});
+    m_tab->model.setNotchSize({190, static_cast<double>(height)});
     m_tab->playerSays(Player::Spotify, u"Song||Band||playing"_s);
     m_tab->store().startTimer({}, {});
     for (const auto& title : {u"a"_s, u"b"_s, u"c"_s, u"d"_s}) {
-        m_tab->panel.workspace.task(title);
+        m_tab->workspace.task(title);
     }
-    m_tab->panel.settle();
+    m_tab->settle();
     const auto tasks = m_tab->rows(u"focusCard"_s, u"task"_s);
     QCOMPARE(tasks.size(), 3);
 
@@ -280,8 +263,8 @@ void HomeViewSizesTest::parts_haveRoomUnderTallBars()
                       u"playPause"_s, u"next"_s}));
     QVERIFY(areApart(u"focusCard"_s, {u"heading"_s, u"client"_s, u"elapsed"_s, u"stop"_s}, tasks));
     QVERIFY(areApart(u"todayCard"_s, {u"heading"_s, u"left"_s, u"message"_s, u"connect"_s}));
-    m_tab->panel.calendars.authorizations.front()(quib::CalendarAuthorization::Denied);
-    m_tab->panel.settle();
+    m_tab->calendars.authorizations.front()(quib::CalendarAuthorization::Denied);
+    m_tab->settle();
     QVERIFY(areApart(u"todayCard"_s, {u"heading"_s, u"left"_s, u"message"_s}));
     QVERIFY(rect(u"nowPlayingCard"_s, u"artwork"_s).height() >= 24);
 }
@@ -289,11 +272,11 @@ void HomeViewSizesTest::parts_haveRoomUnderTallBars()
 void HomeViewSizesTest::tasks_withoutRoom_areLeftOut()
 {
     for (const auto& title : {u"a"_s, u"b"_s, u"c"_s}) {
-        m_tab->panel.workspace.task(title);
+        m_tab->workspace.task(title);
     }
 
-    m_tab->panel.model.setNotchSize({190, 100});
-    m_tab->panel.settle();
+    m_tab->model.setNotchSize({190, 100});
+    m_tab->settle();
 
     const auto tasks = m_tab->rows(u"focusCard"_s, u"task"_s);
     QCOMPARE(tasks.size(), 1);

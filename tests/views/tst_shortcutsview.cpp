@@ -41,14 +41,14 @@ private Q_SLOTS:
     void texts_arePlain();
 
 private:
-    QStringList opened() const { return m_links->panel.opener.asked; }
+    QStringList opened() const { return m_links->opener.asked; }
     QString symbol(int row) const
     {
         return m_links->partOf(row, u"symbol"_s)->property("name").toString();
     }
     QString focused() const
     {
-        const auto* item = m_links->panel.window->activeFocusItem();
+        const auto* item = m_links->window->activeFocusItem();
         const auto name = item->property("name").toString();
         return name.isEmpty() ? item->objectName() : name;
     }
@@ -74,9 +74,9 @@ void ShortcutsViewTest::click_opens()
     QFETCH(QString, url);
     QFETCH(QString, asked);
     m_links->show({LinksTab::group(u"Work"_s, {LinksTab::button(u"Go"_s, url, u"star"_s)})});
-    const auto surface = ShownPanel::inScene(m_links->shortcut(0));
+    const auto surface = inScene(m_links->shortcut(0));
 
-    QTest::mouseClick(m_links->panel.window.get(), Qt::LeftButton, {},
+    QTest::mouseClick(m_links->window.get(), Qt::LeftButton, {},
                       surface.bottomRight().toPoint() - QPoint(12, 2));
 
     QCOMPARE(opened(), asked.isEmpty() ? QStringList() : QStringList{asked});
@@ -86,9 +86,9 @@ void ShortcutsViewTest::pencil_editsTheFile()
 {
     m_links->show({LinksTab::group(u"A"_s, {}), LinksTab::group(u"B"_s, {})});
 
-    m_links->panel.click(m_links->part(1, u"edit"_s));
+    m_links->click(m_links->part(1, u"edit"_s));
 
-    QCOMPARE(m_links->panel.commands.asked, QStringList{u"edit shortcuts"_s});
+    QCOMPARE(m_links->commands.asked, QStringList{u"edit shortcuts"_s});
 }
 
 void ShortcutsViewTest::icon_isChosenInOrder_data()
@@ -121,28 +121,27 @@ void ShortcutsViewTest::icon_isChosenInOrder()
     m_links->show({LinksTab::group(u"Work"_s, {LinksTab::button(u"Go"_s, url, icon)})});
 
     QTEST(symbol(0), "symbol");
-    const auto& asked = m_links->panel.icons.open;
+    const auto& asked = m_links->icons.open;
     QCOMPARE(asked.isEmpty() ? QString() : asked.front().path, application);
 }
 
 void ShortcutsViewTest::pictureOfAnApplication_isAskedFor()
 {
     m_links->show({LinksTab::group(u"Work"_s, {LinksTab::button(u"Go"_s, u"/opt/a.app"_s)})});
-    auto& icons = m_links->panel.icons;
+    auto& icons = m_links->icons;
     QCOMPARE(icons.open.size(), 1);
     QCOMPARE(icons.open.front().pixels, 20);
-    const auto middle
-        = ShownPanel::inScene(m_links->partOf(0, u"application"_s)).center().toPoint();
+    const auto middle = inScene(m_links->partOf(0, u"application"_s)).center().toPoint();
 
     icons.answerAll(Qt::red);
-    m_links->panel.settle();
-    QCOMPARE(m_links->panel.window->grabWindow().pixelColor(middle), QColor(Qt::red));
+    m_links->settle();
+    QCOMPARE(m_links->window->grabWindow().pixelColor(middle), QColor(Qt::red));
     Q_EMIT icons.changed();
 
     QCOMPARE(icons.open.size(), 1);
     icons.answerAll(Qt::green);
-    m_links->panel.settle();
-    QCOMPARE(m_links->panel.window->grabWindow().pixelColor(middle), QColor(Qt::green));
+    m_links->settle();
+    QCOMPARE(m_links->window->grabWindow().pixelColor(middle), QColor(Qt::green));
 }
 
 void ShortcutsViewTest::noFile_showsTheStarterButtons()
@@ -159,7 +158,7 @@ void ShortcutsViewTest::noGroups_showsNothing()
     QVERIFY(m_links->boxes().isEmpty());
     QVERIFY(!m_links->item(u"problem"_s)->isVisible());
 
-    m_links->panel.shortcuts.reload();
+    m_links->shortcuts.reload();
 
     QVERIFY(m_links->boxes().isEmpty());
 }
@@ -186,7 +185,7 @@ void ShortcutsViewTest::brokenFile_keepsTheLastButtons()
 
 void ShortcutsViewTest::firstShowing_readsTheFileOnce()
 {
-    connect(&m_links->panel.shortcuts, &quib::Shortcuts::groupsChanged, this,
+    connect(&m_links->shortcuts, &quib::Shortcuts::groupsChanged, this,
             [this] { m_links->write({LinksTab::group(u"Written meanwhile"_s, {})}); });
 
     m_links->show({LinksTab::group(u"One"_s, {})});
@@ -205,7 +204,7 @@ void ShortcutsViewTest::shownAnew_readsTheFile_data()
 void ShortcutsViewTest::shownAnew_readsTheFile()
 {
     QFETCH(bool, byCollapse);
-    auto& model = m_links->panel.model;
+    auto& model = m_links->model;
     m_links->show({LinksTab::group(u"One"_s, {})});
 
     m_links->write({LinksTab::group(u"Two"_s, {})});
@@ -292,8 +291,7 @@ void ShortcutsViewTest::keys_reachButtonsOutOfSight()
     m_links->show(groups);
     m_links->part(0, u"edit"_s)->forceActiveFocus(Qt::TabFocusReason);
     const auto area = m_links->rect(u"groups"_s).adjusted(-1, -1, 1, 1);
-    const auto focusRect
-        = [&] { return ShownPanel::inScene(m_links->panel.window->activeFocusItem()); };
+    const auto focusRect = [&] { return inScene(m_links->window->activeFocusItem()); };
 
     for (int number = 0; number < 15; ++number) {
         m_links->press(Qt::Key_Tab);
@@ -323,22 +321,21 @@ void ShortcutsViewTest::keys_returnToAButtonScrolledAway()
                    LinksTab::group(u"B"_s, LinksTab::buttons(1))});
     auto* grid = m_links->part(0, u"buttons"_s);
     QMetaObject::invokeMethod(grid, "positionViewAtEnd");
-    m_links->panel.settle();
+    m_links->settle();
     QVERIFY(grid->property("contentY").toDouble() > 0);
     m_links->part(pencil, u"edit"_s)->forceActiveFocus(Qt::TabFocusReason);
 
     m_links->press(key);
 
     QCOMPARE(focused(), u"Button 0"_s);
-    QVERIFY(ShownPanel::inScene(grid).contains(
-        ShownPanel::inScene(m_links->panel.window->activeFocusItem())));
+    QVERIFY(inScene(grid).contains(inScene(m_links->window->activeFocusItem())));
 }
 
 void ShortcutsViewTest::press_withThePointerShowsNoRing()
 {
     m_links->show({LinksTab::group(u"A"_s, LinksTab::buttons(3))});
 
-    m_links->panel.click(m_links->shortcut(1));
+    m_links->click(m_links->shortcut(1));
 
     QCOMPARE(opened().size(), 1);
     QVERIFY(!m_links->shortcut(1)->property("visualFocus").toBool());
@@ -380,7 +377,7 @@ void ShortcutsViewTest::help_isTheAddress()
     const auto url = u"https://example.com/<b>bold</b>"_s;
     m_links->show({LinksTab::group(u"Work"_s, {LinksTab::button(u"Go"_s, url)})});
 
-    m_links->panel.move(m_links->shortcut(0));
+    m_links->move(m_links->shortcut(0));
 
     auto* toolTip = m_links->shortcut(0)->property("toolTip").value<QObject*>();
     QTRY_VERIFY(toolTip->property("opened").toBool());

@@ -44,11 +44,6 @@ private:
 
 namespace {
 
-QRectF inScene(const QQuickItem* item)
-{
-    return ShownPanel::inScene(item);
-}
-
 bool near(double one, double other)
 {
     return qAbs(one - other) < 0.001;
@@ -239,9 +234,9 @@ void ShortcutsViewSizesTest::button_hasTheColoursOfItsGroup()
     QTEST(told(colorOf(m_links->partOf(0, u"symbol"_s))), "ink");
     QTEST(told(colorOf(m_links->partOf(0, u"name"_s))), "ink");
     QTEST(look(), "rest");
-    m_links->panel.move(m_links->shortcut(0));
+    m_links->move(m_links->shortcut(0));
     QTEST(look(), "hover");
-    m_links->panel.move(m_links->part(0, u"title"_s));
+    m_links->move(m_links->part(0, u"title"_s));
     QTEST(look(), "rest");
 }
 
@@ -305,9 +300,9 @@ void ShortcutsViewSizesTest::manyBoxes_scroll()
     QCOMPARE(m_links->boxes().at(0)->width(), 136.0);
     QCOMPARE(row->property("contentWidth").toDouble(), 12 * 136.0 + 11 * 10);
     QVERIFY(row->property("interactive").toBool() && row->clip());
-    QWheelEvent wheel({300, 200}, m_links->panel.window->mapToGlobal(QPointF(300, 200)), {},
-                      {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(m_links->panel.window.get(), &wheel);
+    QWheelEvent wheel({300, 200}, m_links->window->mapToGlobal(QPointF(300, 200)), {}, {0, -120},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(m_links->window.get(), &wheel);
     QTRY_VERIFY(row->property("contentX").toDouble() > 0);
 }
 
@@ -321,9 +316,9 @@ void ShortcutsViewSizesTest::manyButtons_scroll()
     QVERIFY(!m_links->part(1, u"buttons"_s)->property("interactive").toBool());
     QCOMPARE(grid->property("contentHeight").toDouble(), 100 * 42.0);
     QVERIFY(!m_links->shortcut(150));
-    QWheelEvent wheel({100, 200}, m_links->panel.window->mapToGlobal(QPointF(100, 200)), {},
-                      {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(m_links->panel.window.get(), &wheel);
+    QWheelEvent wheel({100, 200}, m_links->window->mapToGlobal(QPointF(100, 200)), {}, {0, -120},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(m_links->window.get(), &wheel);
     QTRY_VERIFY(grid->property("contentY").toDouble() > 0);
 }
 

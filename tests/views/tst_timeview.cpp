@@ -46,15 +46,15 @@ private:
 
 void TimeViewTest::type(const QString& text)
 {
-    m_tab->panel.click(item(u"note"_s));
+    m_tab->click(item(u"note"_s));
     for (const auto letter : text) {
-        QTest::keyClick(m_tab->panel.window.get(), letter.toLatin1());
+        QTest::keyClick(m_tab->window.get(), letter.toLatin1());
     }
 }
 
 void TimeViewTest::showAnew(const QByteArray& how)
 {
-    auto& model = m_tab->panel.model;
+    auto& model = m_tab->model;
     if (how == "tab") {
         model.setTab(Tab::Tasks);
         model.setTab(Tab::Time);
@@ -68,13 +68,13 @@ void TimeViewTest::showAnew(const QByteArray& how)
 void TimeViewTest::start_takesTheClientAndTheNoteAsTyped()
 {
     const auto cafe = m_tab->client(u"Café"_s);
-    m_tab->panel.click(item(u"timerClient"_s));
+    m_tab->click(item(u"timerClient"_s));
     m_tab->press(Qt::Key_Down);
     m_tab->press(Qt::Key_Return);
     QTRY_COMPARE(item(u"timerCard"_s)->property("client").toUuid(), cafe);
     type(u"  hero, \"take 2\" "_s);
 
-    m_tab->panel.click(item(u"start"_s));
+    m_tab->click(item(u"start"_s));
 
     const auto entry = m_tab->store().runningEntry();
     QVERIFY(entry);
@@ -94,7 +94,7 @@ void TimeViewTest::start_doubleClicked_keepsTheTimer()
 {
     type(u"Call"_s); // With a note one button stands where the other one was.
 
-    m_tab->panel.doubleClick(item(u"start"_s));
+    m_tab->doubleClick(item(u"start"_s));
 
     QVERIFY(m_tab->store().hasRunningEntry());
 }
@@ -114,9 +114,9 @@ void TimeViewTest::return_inTheNoteStartsForNobody()
 void TimeViewTest::stop_bringsTheChoiceBack()
 {
     m_tab->running(3600);
-    m_tab->panel.settle();
+    m_tab->settle();
 
-    m_tab->panel.click(item(u"stop"_s));
+    m_tab->click(item(u"stop"_s));
 
     QVERIFY(!m_tab->store().hasRunningEntry());
     for (const auto& name : {u"runningClient"_s, u"runningNote"_s, u"clock"_s, u"stop"_s}) {
@@ -151,7 +151,7 @@ void TimeViewTest::timerOfADeletedClient_isNobodys()
 void TimeViewTest::emptyNote_takesNoRoom()
 {
     m_tab->running(60);
-    m_tab->panel.settle();
+    m_tab->settle();
 
     QVERIFY(!item(u"runningNote"_s)->isVisible());
     QCOMPARE(m_tab->rect(u"clock"_s).top() - m_tab->rect(u"runningClient"_s).bottom(), 9.0);
@@ -210,9 +210,9 @@ void TimeViewTest::outOfSight_nothingRuns()
     QVERIFY(m_tab->clockBeat()->isRunning() && m_tab->totalsBeat()->isRunning());
 
     if (collapsed) {
-        m_tab->panel.model.setExpanded(false);
+        m_tab->model.setExpanded(false);
     } else {
-        m_tab->panel.model.setTab(Tab::Tasks);
+        m_tab->model.setTab(Tab::Tasks);
     }
 
     QTRY_VERIFY(!m_tab->clockBeat()->isRunning());
@@ -233,8 +233,8 @@ void TimeViewTest::shownAnew_theCheckMarkIsAtRestAndTheNoteStays()
 {
     QFETCH(QByteArray, how);
     type(u"half-typed"_s);
-    m_tab->panel.click(m_tab->segment(1));
-    m_tab->panel.click(item(u"export"_s));
+    m_tab->click(m_tab->segment(1));
+    m_tab->click(item(u"export"_s));
     QCOMPARE(m_tab->exportSymbol(), u"checkmark"_s);
 
     showAnew(how);
