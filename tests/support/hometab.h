@@ -1,67 +1,42 @@
 #pragma once
 
-#include "support/handclock.h"
 #include "support/shownpanel.h"
 
-/// The panel on its Home tab; the time is the test's to turn.
-struct HomeTab {
-    HandClock hands;
-    ShownPanel panel{{}, {.clock = hands.clock(), .schedule = hands.scheduler()}};
-
+/// The home tab of a panel that has the keyboard.
+struct HomeTab : ShownPanel {
     HomeTab()
     {
-        panel.open(quib::Tab::Home);
-        panel.window->requestActivate();
-        [[maybe_unused]] const bool isActive = QTest::qWaitForWindowActive(panel.window.get());
+        open(quib::Tab::Home);
+        takeKeyboard();
     }
 
-    quib::Store& store() const { return *panel.workspace.store; }
-    QQuickItem* item(const QString& name) const { return panel.item(name); }
     QQuickItem* part(const QString& card, const QString& name) const
     {
-        return ShownPanel::find(item(card), name);
+        return find(item(card), name);
     }
     QString text(const QString& card, const QString& name) const
     {
-        return part(card, name)->property("text").toString();
+        return textOf(part(card, name));
     }
-    void press(int key, Qt::KeyboardModifiers modifiers = {}) const
+    QList<QQuickItem*> rows(const QString& card, const QString& name) const
     {
-        QTest::keyClick(panel.window.get(), Qt::Key(key), modifiers);
-    }
-    /// The name of what has the keyboard; "nothing" for what is not to be seen.
-    QString focused() const
-    {
-        const auto* focus = panel.window->activeFocusItem();
-        return focus && focus->isVisible() ? focus->objectName() : QStringLiteral("nothing");
-    }
-    /// Whether what has the keyboard shows it.
-    bool showsFocus() const
-    {
-        const auto* focus = panel.window->activeFocusItem();
-        return focus->property("visualFocus").toBool();
-    }
-    void type(const QByteArray& text) const
-    {
-        for (const auto letter : text) {
-            QTest::keyClick(panel.window.get(), letter);
-        }
+        return findAll(item(card), name);
     }
 
     /// What the player that runs says when it is asked.
-    void playerSays(quib::Player player, const QString& reply)
+    void playerSays(quib::Player which, const QString& reply)
     {
-        panel.player.running = {player};
-        panel.media.refresh();
-        panel.player.answer(reply);
-        panel.settle();
+        player.running = {which};
+        media.refresh();
+        player.answer(reply);
+        settle();
     }
 
     void grant(const QList<quib::CalendarEntry>& entries)
     {
-        panel.calendars.authorizations.front()(quib::CalendarAuthorization::FullAccess);
-        panel.calendars.readings.back().answer(entries);
-        panel.settle();
+        calendars.authorizations.front()(quib::CalendarAuthorization::FullAccess);
+        calendars.readings.back().answer(entries);
+        settle();
     }
 
     /// An event that begins in that many minutes and lasts half an hour.
@@ -74,28 +49,27 @@ struct HomeTab {
                 .color = QColor(Qt::green)};
     }
 
+    /// One event a minute, the first of them now.
+    void grantMany(int count)
+    {
+        QList<quib::CalendarEntry> entries;
+        for (int number = 0; number < count; ++number) {
+            entries << event(QStringLiteral("Meeting %1").arg(number), number);
+        }
+        grant(entries);
+    }
+
+    void addTasks(const QStringList& titles)
+    {
+        for (const auto& title : titles) {
+            workspace.task(title);
+        }
+        settle();
+    }
+
     void launch(const QString& name, const QString& target) const
     {
         store().addLaunchItem({.id = QUuid::createUuid(), .name = name, .target = target});
-        panel.settle();
-    }
-
-    /// The rows that a list or a repeater has made, from the left or the top.
-    QList<QQuickItem*> rows(const QString& below, const QString& name) const
-    {
-        QList<QQuickItem*> found;
-        collect(item(below), name, found);
-        return found;
-    }
-
-private:
-    static void collect(QQuickItem* below, const QString& name, QList<QQuickItem*>& found)
-    {
-        for (auto* child : below->childItems()) {
-            if (child->objectName() == name && child->isVisible()) {
-                found << child;
-            }
-            collect(child, name, found);
-        }
+        settle();
     }
 };

@@ -6,10 +6,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-/// The panel on its Links tab, with a shortcuts file of the test's own.
-struct LinksTab {
-    ShownPanel panel;
-
+/// The links tab of a panel that has the keyboard, with a shortcuts file of the test's own.
+struct LinksTab : ShownPanel {
     /// One group, as the file has it.
     static QJsonObject group(const QString& title, const QJsonArray& buttons,
                              const QString& color = {})
@@ -42,7 +40,7 @@ struct LinksTab {
 
     void write(const QByteArray& text) const
     {
-        QFile file(panel.workspace.folder.filePath(QStringLiteral("shortcuts.json")));
+        QFile file(workspace.folder.filePath(QStringLiteral("shortcuts.json")));
         file.open(QIODevice::WriteOnly);
         file.write(text);
     }
@@ -55,11 +53,10 @@ struct LinksTab {
     /// Opens the tab, which reads the file; or closes it before and opens it again.
     void show()
     {
-        panel.model.setExpanded(false);
-        panel.open(quib::Tab::Links);
-        panel.window->requestActivate();
-        [[maybe_unused]] const bool isActive = QTest::qWaitForWindowActive(panel.window.get());
-        panel.settle();
+        model.setExpanded(false);
+        open(quib::Tab::Links);
+        takeKeyboard();
+        settle();
     }
     void show(const QJsonArray& groups)
     {
@@ -67,57 +64,41 @@ struct LinksTab {
         show();
     }
 
-    QQuickItem* item(const QString& name) const { return panel.item(name); }
-    QRectF rect(const QString& name) const { return panel.rect(name); }
-    void press(int key) const { QTest::keyClick(panel.window.get(), Qt::Key(key)); }
+    /// One box with one button.
+    void showButton(const QString& name, const QString& color = {})
+    {
+        show({group(QStringLiteral("Work"),
+                    {button(name, QStringLiteral("a.b"), QStringLiteral("star"))}, color)});
+    }
 
     /// The boxes, from left to right.
     QList<QQuickItem*> boxes() const
     {
-        QList<QQuickItem*> found;
-        collect(panel.root(), QStringLiteral("group"), found);
+        auto found = findAll(root(), QStringLiteral("group"));
         std::ranges::sort(found, {}, &QQuickItem::x);
         return found;
     }
 
-    QQuickItem* part(int box, const QString& name) const
-    {
-        return ShownPanel::find(boxes().at(box), name);
-    }
+    QQuickItem* part(int box, const QString& name) const { return find(boxes().at(box), name); }
 
     /// The button at a row of a box; null while it is far out of sight.
     QQuickItem* shortcut(int row, int box = 0) const
     {
-        QQuickItem* cell = nullptr;
-        auto* grid = part(box, QStringLiteral("buttons"));
-        QMetaObject::invokeMethod(grid, "forceLayout");
-        QMetaObject::invokeMethod(grid, "itemAtIndex", Q_RETURN_ARG(QQuickItem*, cell),
-                                  Q_ARG(int, row));
-        return cell ? ShownPanel::find(cell, QStringLiteral("shortcut")) : nullptr;
+        auto* cell = rowOf(part(box, QStringLiteral("buttons")), row);
+        return cell ? find(cell, QStringLiteral("shortcut")) : nullptr;
     }
 
     QQuickItem* partOf(int row, const QString& name, int box = 0) const
     {
-        return ShownPanel::find(shortcut(row, box), name);
+        return find(shortcut(row, box), name);
     }
 
     QStringList titles() const
     {
         QStringList found;
         for (const auto* box : boxes()) {
-            found << box->property("title").toString();
+            found << textOf(box, "title");
         }
         return found;
-    }
-
-private:
-    static void collect(QQuickItem* below, const QString& name, QList<QQuickItem*>& found)
-    {
-        if (below->objectName() == name) {
-            found << below;
-        }
-        for (auto* child : below->childItems()) {
-            collect(child, name, found);
-        }
     }
 };

@@ -8,16 +8,20 @@
 #include "shortcuts/shortcuts.h"
 #include "support/fakecommands.h"
 #include "support/fakeshell.h"
+#include "support/handclock.h"
+#include "support/look.h"
 #include "support/workspace.h"
 
 #include <QQuickItem>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
-/// The whole panel in a window, with a real store behind it. Springs snap unless a test lets them
-/// move.
+/// The whole panel in a window, with a real store behind it whose time is the test's to turn.
+/// Springs snap unless a test lets them move. A fault of a view fails the test.
 struct ShownPanel {
-    Workspace workspace;
+    HandClock hands;
+    Workspace workspace{{}, {.clock = hands.clock(), .schedule = hands.scheduler()}};
     quib::NotchModel model;
     QStringList asked;
     FakePanelHost host{asked};
@@ -26,16 +30,15 @@ struct ShownPanel {
     FakePlayerLink player;
     quib::MediaController media{player};
     FakeCalendarStore calendars;
-    quib::CalendarController calendar;
+    quib::CalendarController calendar{&calendars, hands.clock(), QTimeZone::utc()};
     quib::Shortcuts shortcuts;
     FakeIconSource icons;
     FakeCommands commands;
     std::unique_ptr<quib::NotchPanel> window;
 
-    explicit ShownPanel(const quib::QuibData& data = {}, quib::Store::Surroundings around = {})
-        : workspace(data, around)
-        , calendar(&calendars, around.clock, QTimeZone::utc())
+    ShownPanel()
     {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral("qml|QQuickItem")));
         model.setMotionReduced(true);
         model.setNotchSize({188, 37});
         window = std::make_unique<quib::NotchPanel>(quib::ViewContext{.model = model,
@@ -66,9 +69,16 @@ struct ShownPanel {
         frames.wait();
     }
 
+    void takeKeyboard() const
+    {
+        window->requestActivate();
+        [[maybe_unused]] const bool isActive = QTest::qWaitForWindowActive(window.get());
+    }
+
+    quib::Store& store() const { return *workspace.store; }
     QQuickItem* root() const { return window->rootObject(); }
 
-    /// The first item of that name, in the order of the scene; null when there is none.
+    /// The first of that name, in the order of the scene; null when there is none.
     QQuickItem* item(const QString& name) const { return find(root(), name); }
 
     static QQuickItem* find(QQuickItem* below, const QString& name)
@@ -84,12 +94,60 @@ struct ShownPanel {
         return nullptr;
     }
 
-    static QRectF inScene(const QQuickItem* item)
+    /// All of that name that are shown below an item, in the order of the scene.
+    static QList<QQuickItem*> findAll(const QQuickItem* below, const QString& name)
     {
-        return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+        QList<QQuickItem*> found;
+        for (auto* child : below->childItems()) {
+            if (child->objectName() == name && child->isVisible()) {
+                found << child;
+            }
+            found << findAll(child, name);
+        }
+        return found;
+    }
+
+    /// The row that a list has made; null while it is out of sight, or where there is none.
+    static QQuickItem* rowOf(QQuickItem* list, int number)
+    {
+        QQuickItem* found = nullptr;
+        QMetaObject::invokeMethod(list, "forceLayout");
+        QMetaObject::invokeMethod(list, "itemAtIndex", Q_RETURN_ARG(QQuickItem*, found),
+                                  Q_ARG(int, number));
+        return found;
     }
 
     QRectF rect(const QString& name) const { return inScene(item(name)); }
+    QString text(const QString& name) const { return textOf(item(name)); }
+
+    /// The name of what has the keyboard: of a field, not of the text in it; "nothing" for what is
+    /// not to be seen.
+    QString focused() const
+    {
+        const auto* focus = window->activeFocusItem();
+        const bool isSeen = focus && focus->isVisible();
+        while (
+            focus
+            && (focus->objectName().isEmpty() || focus->objectName() == QLatin1String("input"))) {
+            focus = focus->parentItem();
+        }
+        return isSeen && focus ? focus->objectName() : QStringLiteral("nothing");
+    }
+
+    /// Whether what has the keyboard shows it.
+    bool showsFocus() const { return window->activeFocusItem()->property("visualFocus").toBool(); }
+
+    void press(int key, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QTest::keyClick(window.get(), Qt::Key(key), modifiers);
+    }
+
+    void type(const QString& text) const
+    {
+        for (const auto letter : text) {
+            QTest::keyClick(window.get(), letter.toLatin1());
+        }
+    }
 
     void move(const QQuickItem* to) const
     {
@@ -112,8 +170,3 @@ struct ShownPanel {
         QTest::mouseClick(window.get(), Qt::LeftButton, {}, place);
     }
 };
-
-inline QColor colorOf(const QQuickItem* item)
-{
-    return item->property("color").value<QColor>();
-}

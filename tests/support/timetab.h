@@ -1,30 +1,17 @@
 #pragma once
 
 #include "support/downloadsfortest.h"
-#include "support/handclock.h"
 #include "support/shownpanel.h"
 #include "views/beat.h"
 
-/// The panel on its Time tab; the store's time is the test's to turn.
-struct TimeTab {
-    HandClock hands;
+/// The time tab of a panel that has the keyboard.
+struct TimeTab : ShownPanel {
     DownloadsForTest downloads;
-    ShownPanel panel{{}, {.clock = hands.clock(), .schedule = hands.scheduler()}};
 
     TimeTab()
     {
-        panel.open(quib::Tab::Time);
-        panel.window->requestActivate();
-        [[maybe_unused]] const bool isActive = QTest::qWaitForWindowActive(panel.window.get());
-    }
-
-    quib::Store& store() const { return *panel.workspace.store; }
-    QQuickItem* item(const QString& name) const { return panel.item(name); }
-    QRectF rect(const QString& name) const { return panel.rect(name); }
-    QString text(const QString& name) const { return item(name)->property("text").toString(); }
-    void press(int key, Qt::KeyboardModifiers modifiers = {}) const
-    {
-        QTest::keyClick(panel.window.get(), Qt::Key(key), modifiers);
+        open(quib::Tab::Time);
+        takeKeyboard();
     }
 
     /// A new client, appended.
@@ -61,19 +48,13 @@ struct TimeTab {
         store().setData(data);
     }
 
-    QQuickItem* row(int number) const
-    {
-        QQuickItem* found = nullptr;
-        auto* list = item(QStringLiteral("list"));
-        QMetaObject::invokeMethod(list, "forceLayout");
-        QMetaObject::invokeMethod(list, "itemAtIndex", Q_RETURN_ARG(QQuickItem*, found),
-                                  Q_ARG(int, number));
-        return found;
-    }
+    QQuickItem* row(int number) const { return rowOf(item(QStringLiteral("list")), number); }
+    QQuickItem* part(int number, const QString& name) const { return find(row(number), name); }
 
-    QQuickItem* part(int number, const QString& name) const
+    void typeNote(const QString& note) const
     {
-        return ShownPanel::find(row(number), name);
+        click(item(QStringLiteral("note")));
+        type(note);
     }
 
     quib::Beat* clockBeat() const
@@ -86,22 +67,7 @@ struct TimeTab {
             ->findChild<quib::Beat*>({}, Qt::FindDirectChildrenOnly);
     }
 
-    /// The name of what has the focus; of a field, not of the text in it.
-    QString focused() const
-    {
-        const auto* focus = panel.window->activeFocusItem();
-        while (
-            focus
-            && (focus->objectName().isEmpty() || focus->objectName() == QLatin1String("input"))) {
-            focus = focus->parentItem();
-        }
-        return focus ? focus->objectName() : QString();
-    }
-
-    QString exportSymbol() const
-    {
-        return item(QStringLiteral("export"))->property("symbol").toString();
-    }
+    QString exportSymbol() const { return textOf(item(QStringLiteral("export")), "symbol"); }
 
     QQuickItem* segment(int number) const
     {

@@ -1,6 +1,5 @@
 #include "support/hometab.h"
-
-#include <QAccessible>
+#include "support/toldtext.h"
 
 using namespace Qt::StringLiterals;
 using quib::Player;
@@ -31,39 +30,11 @@ private:
     QQuickItem* part(const QString& card, const QString& name) { return m_tab->part(card, name); }
     quib::Store& store() const { return m_tab->store(); }
     void press(int key) const { m_tab->press(key); }
-    void addTasks(const QStringList& titles);
-    void showEvents(int count);
     QStringList walk(int key, int steps);
 
     const QString m_focus = u"focusCard"_s;
     std::unique_ptr<HomeTab> m_tab;
 };
-
-namespace {
-
-QString nameOf(QQuickItem* item)
-{
-    return QAccessible::queryAccessibleInterface(item)->text(QAccessible::Name);
-}
-
-} // namespace
-
-void HomeKeyboardTest::addTasks(const QStringList& titles)
-{
-    for (const auto& title : titles) {
-        m_tab->panel.workspace.task(title);
-    }
-    m_tab->panel.settle();
-}
-
-void HomeKeyboardTest::showEvents(int count)
-{
-    QList<quib::CalendarEntry> events;
-    for (int number = 0; number < count; ++number) {
-        events << m_tab->event(u"Meeting %1"_s.arg(number), number);
-    }
-    m_tab->grant(events);
-}
 
 /// What the keyboard comes to at each press, with a mark where that does not show.
 QStringList HomeKeyboardTest::walk(int key, int steps)
@@ -86,10 +57,10 @@ void HomeKeyboardTest::keys_beginAtPlayPause()
 void HomeKeyboardTest::walk_goesThroughTheCardsAndBack()
 {
     m_tab->playerSays(Player::Spotify, u"Song||Band||playing"_s);
-    showEvents(12);
-    addTasks({u"a"_s, u"b"_s, u"c"_s});
+    m_tab->grantMany(12);
+    m_tab->addTasks({u"a"_s, u"b"_s, u"c"_s});
     store().startTimer({}, {});
-    m_tab->panel.settle();
+    m_tab->settle();
 
     QCOMPARE(walk(Qt::Key_Tab, 6),
              (QStringList{u"next"_s, u"events"_s, u"stop"_s, u"tick"_s, u"tick"_s, u"tick"_s}));
@@ -102,7 +73,7 @@ void HomeKeyboardTest::focus_withoutTheKeyboard_showsNoRing()
 {
     QVERIFY(!m_tab->showsFocus());
 
-    m_tab->panel.click(part(u"nowPlayingCard"_s, u"next"_s));
+    m_tab->click(part(u"nowPlayingCard"_s, u"next"_s));
 
     QVERIFY(!m_tab->showsFocus());
     press(Qt::Key_Tab);
@@ -111,7 +82,7 @@ void HomeKeyboardTest::focus_withoutTheKeyboard_showsNoRing()
 
 void HomeKeyboardTest::tick_goesOnToTheTaskThatTakesItsPlace()
 {
-    addTasks({u"a"_s, u"b"_s, u"c"_s});
+    m_tab->addTasks({u"a"_s, u"b"_s, u"c"_s});
     store().startTimer({}, {});
     ShownPanel::find(m_tab->rows(m_focus, u"task"_s)[1], u"tick"_s)
         ->forceActiveFocus(Qt::TabFocusReason);
@@ -122,7 +93,7 @@ void HomeKeyboardTest::tick_goesOnToTheTaskThatTakesItsPlace()
     QVERIFY(!store().data().tasks[0].done);
     QVERIFY(store().data().tasks[1].done);
     QVERIFY(store().data().tasks[2].done);
-    QCOMPARE(m_tab->panel.model.tab(), Tab::Home);
+    QCOMPARE(m_tab->model.tab(), Tab::Home);
     QCOMPARE(m_tab->focused(), u"tick"_s);
     QVERIFY(m_tab->showsFocus());
 }
@@ -139,7 +110,7 @@ void HomeKeyboardTest::tick_ofTheLastTask_goesToTheTimer_data()
 void HomeKeyboardTest::tick_ofTheLastTask_goesToTheTimer()
 {
     QFETCH(bool, runs);
-    addTasks({u"a"_s});
+    m_tab->addTasks({u"a"_s});
     if (runs) {
         store().startTimer({}, {});
     }
@@ -168,13 +139,13 @@ void HomeKeyboardTest::timerStartedElsewhere_leavesStartBehind()
 {
     part(m_focus, u"start"_s)->forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_Space);
-    QCOMPARE(m_tab->panel.model.tab(), Tab::Time);
+    QCOMPARE(m_tab->model.tab(), Tab::Time);
 
     store().startTimer({}, {});
-    m_tab->panel.model.setTab(Tab::Home);
+    m_tab->model.setTab(Tab::Home);
     press(Qt::Key_Space);
 
-    QCOMPARE(m_tab->panel.model.tab(), Tab::Home);
+    QCOMPARE(m_tab->model.tab(), Tab::Home);
     QVERIFY(store().hasRunningEntry());
 }
 
@@ -192,24 +163,24 @@ void HomeKeyboardTest::connect_whenAnswered_letsTheKeysGoOn()
     QCOMPARE(walk(Qt::Key_Tab, 2), (QStringList{u"next"_s, u"connect"_s}));
     press(Qt::Key_Space);
 
-    m_tab->panel.calendars.requests.front()(isGranted);
-    m_tab->panel.settle();
+    m_tab->calendars.requests.front()(isGranted);
+    m_tab->settle();
 
     QVERIFY(!m_tab->item(u"ring"_s)->isVisible());
     press(Qt::Key_Space);
-    QCOMPARE(m_tab->panel.calendars.requests.size(), 1);
+    QCOMPARE(m_tab->calendars.requests.size(), 1);
     QCOMPARE(walk(Qt::Key_Tab, 1), QStringList{u"start"_s});
     QCOMPARE(walk(Qt::Key_Backtab, 1), QStringList{u"next"_s});
 }
 
 void HomeKeyboardTest::shortList_showsNoRing()
 {
-    showEvents(1);
+    m_tab->grantMany(1);
     auto* list = m_tab->item(u"events"_s);
     list->forceActiveFocus(Qt::TabFocusReason);
     QVERIFY(!m_tab->item(u"ring"_s)->isVisible());
 
-    showEvents(0);
+    m_tab->grantMany(0);
     QVERIFY(!m_tab->item(u"ring"_s)->isVisible());
 }
 
@@ -218,20 +189,19 @@ void HomeKeyboardTest::names_sayWhatIsMeant()
     auto fair = m_tab->event(u"50%2 off %1"_s, -60);
     fair.isAllDay = true;
     m_tab->grant({fair, m_tab->event(u"Call"_s, 5)});
-    addTasks({QString(5000, u'w')});
+    m_tab->addTasks({QString(5000, u'w')});
     const auto events = m_tab->rows(u"todayCard"_s, u"event"_s);
 
-    QCOMPARE(nameOf(events[0]), u"50%2 off %1, All day"_s);
-    QCOMPARE(nameOf(events[1]),
-             u"Call, "_s + ShownPanel::find(events[1], u"time"_s)->property("text").toString());
-    QCOMPARE(nameOf(m_tab->item(u"events"_s)), u"Today's events"_s);
-    QCOMPARE(nameOf(part(m_focus, u"tasks"_s)), u"Open tasks"_s);
-    QVERIFY(nameOf(part(m_focus, u"tick"_s)).startsWith(u"Mark done: www"_s));
-    QVERIFY(nameOf(part(m_focus, u"tick"_s)).size() < 2000);
-    QVERIFY(nameOf(part(m_focus, u"task"_s)).size() < 2000);
-    QCOMPARE(nameOf(part(m_focus, u"start"_s)), u"Start tracking time"_s);
-    QCOMPARE(nameOf(part(m_focus, u"stop"_s)), u"Stop timer"_s);
-    QCOMPARE(nameOf(part(u"nowPlayingCard"_s, u"playPause"_s)), u"Play"_s);
+    QCOMPARE(toldOf(events[0]), u"50%2 off %1, All day"_s);
+    QCOMPARE(toldOf(events[1]), u"Call, "_s + textOf(ShownPanel::find(events[1], u"time"_s)));
+    QCOMPARE(toldOf(m_tab->item(u"events"_s)), u"Today's events"_s);
+    QCOMPARE(toldOf(part(m_focus, u"tasks"_s)), u"Open tasks"_s);
+    QVERIFY(toldOf(part(m_focus, u"tick"_s)).startsWith(u"Mark done: www"_s));
+    QVERIFY(toldOf(part(m_focus, u"tick"_s)).size() < 2000);
+    QVERIFY(toldOf(part(m_focus, u"task"_s)).size() < 2000);
+    QCOMPARE(toldOf(part(m_focus, u"start"_s)), u"Start tracking time"_s);
+    QCOMPARE(toldOf(part(m_focus, u"stop"_s)), u"Stop timer"_s);
+    QCOMPARE(toldOf(part(u"nowPlayingCard"_s, u"playPause"_s)), u"Play"_s);
 }
 
 QTEST_MAIN(HomeKeyboardTest)

@@ -1,9 +1,14 @@
+#include "support/clientbook.h"
+#include "support/hometab.h"
+#include "support/linkstab.h"
 #include "support/plaintexts.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QTest>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +18,9 @@ class PlainTextsTest : public QObject {
 
 private Q_SLOTS:
     void everyTextOfTheControls_isPlain();
+    void everyTextOfTheHomeTab_isPlain();
+    void everyTextOfTheClientsTab_isPlain();
+    void everyTextOfTheLinksTab_isPlain();
     void theWalk_tellsATextThatIsNot();
 };
 
@@ -63,7 +71,59 @@ void PlainTextsTest::everyTextOfTheControls_isPlain()
     const auto ofOneCharacter = Hostile.size();
     QTRY_COMPARE(textItems(*window->contentItem()).size(), 11 + ofOneCharacter);
     for (const auto* text : textItems(*window->contentItem())) {
-        QVERIFY2(isPlain(*text), qPrintable(text->property("text").toString()));
+        QVERIFY2(isPlain(*text), qPrintable(textOf(text)));
+    }
+}
+
+void PlainTextsTest::everyTextOfTheHomeTab_isPlain()
+{
+    HomeTab tab;
+    tab.playerSays(quib::Player::Spotify, Hostile + u"||"_s + Hostile + u"||playing"_s);
+    tab.grant({tab.event(Hostile, 5)});
+    tab.store().startTimer(tab.workspace.client(Hostile), Hostile);
+    tab.workspace.task(Hostile);
+    tab.launch(Hostile, Hostile);
+    auto* launch = tab.part(u"launchStrip"_s, u"launch"_s);
+    tab.move(launch);
+    auto* toolTip = launch->property("toolTip").value<QObject*>();
+    QTRY_VERIFY(toolTip->property("opened").toBool());
+
+    const auto texts = textItems(*tab.window->contentItem());
+
+    QVERIFY(std::ranges::count(texts, Hostile, [](const auto* text) { return textOf(text); }) >= 7);
+    for (const auto* text : texts) {
+        QVERIFY2(isPlain(*text), qPrintable(textOf(text)));
+    }
+}
+
+void PlainTextsTest::everyTextOfTheClientsTab_isPlain()
+{
+    const ClientBook book;
+    book.change(book.cafe, [](quib::Client& edited) {
+        edited.name = edited.siteURL = edited.folderPath = edited.notes = Hostile;
+    });
+    book.select(book.cafe);
+
+    const auto texts = textItems(*book.item(u"clientsView"_s));
+
+    QVERIFY(texts.size() > 10);
+    for (const auto* text : texts) {
+        QVERIFY2(isPlain(*text), qPrintable(textOf(text)));
+    }
+}
+
+void PlainTextsTest::everyTextOfTheLinksTab_isPlain()
+{
+    LinksTab links;
+    links.show({LinksTab::group(Hostile, {LinksTab::button(Hostile, Hostile)})});
+    links.write(QByteArrayLiteral("broken"));
+    links.show();
+
+    const auto texts = textItems(*links.item(u"shortcutsView"_s));
+
+    QCOMPARE(texts.size(), 3);
+    for (const auto* text : texts) {
+        QVERIFY2(isPlain(*text), qPrintable(textOf(text)));
     }
 }
 

@@ -35,7 +35,7 @@ void RootViewTest::collapsed_overhangsTheNotchByFivePointsOnEachSide()
     const ShownPanel panel;
 
     QCOMPARE(panel.rect(u"shape"_s), QRectF(380 - 99, 0, 198, 37));
-    QCOMPARE(panel.item(u"shape"_s)->property("radius").toDouble(), 10.0);
+    QCOMPARE(numberOf(panel.item(u"shape"_s), "radius"), 10.0);
     QVERIFY(!panel.item(u"wings"_s)); // Not built before a timer runs.
 }
 
@@ -57,7 +57,7 @@ void RootViewTest::expanded_isTheCardAtTheTopCentre()
     panel.open(Tab::Home);
 
     QCOMPARE(panel.rect(u"shape"_s), QRectF(30, 0, 700, 290));
-    QCOMPARE(panel.item(u"shape"_s)->property("radius").toDouble(), 26.0);
+    QCOMPARE(numberOf(panel.item(u"shape"_s), "radius"), 26.0);
     QVERIFY(panel.item(u"shapeGroup"_s)->clip());
     QVERIFY(!panel.item(u"wings"_s)->isVisible());
 }
@@ -83,7 +83,7 @@ void RootViewTest::outline()
     panel.model.setExpanded(expanded);
     panel.model.setDropTargeted(targeted);
 
-    QTEST(panel.item(u"shape"_s)->property("outline").value<QColor>(), "color");
+    QTEST(colorOf(panel.item(u"shape"_s), "outline"), "color");
 }
 
 void RootViewTest::spring_isTheOneOfTheTransition()
@@ -93,12 +93,12 @@ void RootViewTest::spring_isTheOneOfTheTransition()
     QVERIFY(spring);
 
     panel.model.setExpanded(true);
-    QCOMPARE(spring->property("response").toDouble(), 0.28);
-    QCOMPARE(spring->property("damping").toDouble(), 0.82);
+    QCOMPARE(numberOf(spring, "response"), 0.28);
+    QCOMPARE(numberOf(spring, "damping"), 0.82);
 
     panel.model.setExpanded(false);
-    QCOMPARE(spring->property("response").toDouble(), 0.2);
-    QCOMPARE(spring->property("damping").toDouble(), 1.0);
+    QCOMPARE(numberOf(spring, "response"), 0.2);
+    QCOMPARE(numberOf(spring, "damping"), 1.0);
 }
 
 void RootViewTest::springFromTheCollapsedNotch_growsAtOnce()

@@ -1,9 +1,8 @@
 #include "support/taskstab.h"
+#include "support/toldtext.h"
 
 #include "brand/brand.h"
 #include "views/noclient.h"
-
-#include <QAccessible>
 
 using namespace Qt::StringLiterals;
 using quib::Brand;
@@ -45,10 +44,10 @@ void TasksViewTest::empty_saysNothingToDo()
     const auto* text = m_tab->item(u"nothing"_s);
 
     QVERIFY(text->isVisible());
-    QCOMPARE(text->property("text").toString(), u"Nothing to do. Nice."_s);
-    QCOMPARE(text->property("size").toDouble(), 12.0);
+    QCOMPARE(textOf(text), u"Nothing to do. Nice."_s);
+    QCOMPARE(numberOf(text, "size"), 12.0);
     QCOMPARE(colorOf(text), Brand::muted2());
-    QCOMPARE(ShownPanel::inScene(text).top(), m_tab->rect(u"list"_s).top() + 30);
+    QCOMPARE(inScene(text).top(), m_tab->rect(u"list"_s).top() + 30);
     QVERIFY(!m_tab->item(u"clearDone"_s)->isVisible());
     QVERIFY(!m_tab->chip(0));
     QVERIFY(m_tab->item(u"allChip"_s)->isVisible());
@@ -58,7 +57,7 @@ void TasksViewTest::return_addsTheTaskAndKeepsTheFocus()
 {
     m_tab->add(u"  Call Ann  "_s);
     QCOMPARE(m_tab->shownTitles(), QStringList{u"Call Ann"_s});
-    QCOMPARE(m_tab->item(u"newTitle"_s)->property("text").toString(), QString());
+    QCOMPARE(textOf(m_tab->item(u"newTitle"_s)), QString());
 
     QTest::keyClick(m_tab->window.get(), 'B');
     QTest::keyClick(m_tab->window.get(), Qt::Key_Return);
@@ -72,7 +71,7 @@ void TasksViewTest::blankTitle_addsNothingAndIsCleared()
     m_tab->add(u"   "_s);
 
     QVERIFY(m_tab->store().data().tasks.isEmpty());
-    QCOMPARE(m_tab->item(u"newTitle"_s)->property("text").toString(), QString());
+    QCOMPARE(textOf(m_tab->item(u"newTitle"_s)), QString());
 }
 
 void TasksViewTest::newTask_goesToTheChosenClient()
@@ -116,8 +115,8 @@ void TasksViewTest::chips_areThoseOfClientsWithTasks()
     m_tab->workspace.task(u"a"_s, last);
     m_tab->workspace.task(u"b"_s, first, true);
 
-    QCOMPARE(m_tab->chip(0)->property("title").toString(), u"First"_s);
-    QCOMPARE(m_tab->chip(1)->property("title").toString(), u"Last"_s);
+    QCOMPARE(textOf(m_tab->chip(0), "title"), u"First"_s);
+    QCOMPARE(textOf(m_tab->chip(1), "title"), u"Last"_s);
     QVERIFY(!m_tab->chip(2));
 }
 
@@ -187,8 +186,8 @@ void TasksViewTest::hoveredRow_showsItsButton()
 
     m_tab->move(m_tab->part(0, u"title"_s));
     QTRY_VERIFY(remove->isVisible());
-    QCOMPARE(remove->property("symbol").toString(), u"xmark"_s);
-    QCOMPARE(remove->property("size").toDouble(), 9.0);
+    QCOMPARE(textOf(remove, "symbol"), u"xmark"_s);
+    QCOMPARE(numberOf(remove, "size"), 9.0);
     QCOMPARE(remove->size(), QSizeF(23, 23));
     m_tab->move(m_tab->row(1));
 
@@ -212,8 +211,8 @@ void TasksViewTest::clearDone_clearsTheDoneOnes()
     m_tab->workspace.task(u"open"_s);
     m_tab->workspace.task(u"done"_s, {}, true);
     const auto* text = m_tab->item(u"clearDone"_s)->property("contentItem").value<QQuickItem*>();
-    QCOMPARE(text->property("text").toString(), u"Clear 1 done"_s);
-    QCOMPARE(text->property("size").toDouble(), 10.5);
+    QCOMPARE(textOf(text), u"Clear 1 done"_s);
+    QCOMPARE(numberOf(text, "size"), 10.5);
     QCOMPARE(colorOf(text), Brand::muted2());
 
     m_tab->click(m_tab->item(u"clearDone"_s));
@@ -238,12 +237,12 @@ void TasksViewTest::picker_drawsAGoneClientAsNone()
     auto* picker = m_tab->item(u"newClient"_s);
     const auto cafe = m_tab->workspace.client(u"Café"_s, ClientStatus::Build);
     m_tab->item(u"tasksView"_s)->setProperty("newClient", cafe);
-    QCOMPARE(ShownPanel::find(picker, u"name"_s)->property("text").toString(), u"Café"_s);
+    QCOMPARE(textOf(ShownPanel::find(picker, u"name"_s)), u"Café"_s);
     QCOMPARE(colorOf(ShownPanel::find(picker, u"dot"_s)), Brand::purple());
 
     m_tab->store().deleteClient(cafe);
 
-    QCOMPARE(ShownPanel::find(picker, u"name"_s)->property("text").toString(), u"No client"_s);
+    QCOMPARE(textOf(ShownPanel::find(picker, u"name"_s)), u"No client"_s);
     QCOMPARE(colorOf(ShownPanel::find(picker, u"dot"_s)), Brand::muted2());
 }
 
@@ -268,21 +267,17 @@ void TasksViewTest::pickerMenu_choosesAndTakesBack()
 void TasksViewTest::names_tellWhatPressingDoes()
 {
     m_tab->workspace.task(u"Call Ann"_s);
-    const auto nameOf = [](QObject* object) {
-        auto* interface = QAccessible::queryAccessibleInterface(object);
-        return interface ? interface->text(QAccessible::Name) : QString();
-    };
 
-    QCOMPARE(nameOf(m_tab->part(0, u"tick"_s)), u"Mark done: Call Ann"_s);
-    QCOMPARE(nameOf(m_tab->part(0, u"remove"_s)), u"Delete: Call Ann"_s);
-    QCOMPARE(nameOf(m_tab->item(u"newClient"_s)), u"Client: No client"_s);
-    QCOMPARE(nameOf(m_tab->item(u"pin"_s)), u"Keep open"_s);
-    QCOMPARE(nameOf(m_tab->item(u"date"_s)), m_tab->item(u"date"_s)->property("text").toString());
-    QCOMPARE(nameOf(m_tab->item(u"tabs"_s)->childItems().front()), u"Home"_s);
-    QCOMPARE(nameOf(m_tab->item(u"list"_s)), u"Tasks"_s);
+    QCOMPARE(toldOf(m_tab->part(0, u"tick"_s)), u"Mark done: Call Ann"_s);
+    QCOMPARE(toldOf(m_tab->part(0, u"remove"_s)), u"Delete: Call Ann"_s);
+    QCOMPARE(toldOf(m_tab->item(u"newClient"_s)), u"Client: No client"_s);
+    QCOMPARE(toldOf(m_tab->item(u"pin"_s)), u"Keep open"_s);
+    QCOMPARE(toldOf(m_tab->item(u"date"_s)), textOf(m_tab->item(u"date"_s)));
+    QCOMPARE(toldOf(m_tab->item(u"tabs"_s)->childItems().front()), u"Home"_s);
+    QCOMPARE(toldOf(m_tab->item(u"list"_s)), u"Tasks"_s);
 
     m_tab->store().toggleTask(m_tab->store().data().tasks.front().id);
-    QCOMPARE(nameOf(m_tab->part(0, u"tick"_s)), u"Mark open: Call Ann"_s);
+    QCOMPARE(toldOf(m_tab->part(0, u"tick"_s)), u"Mark open: Call Ann"_s);
 }
 
 QTEST_MAIN(TasksViewTest)

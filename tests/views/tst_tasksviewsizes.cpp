@@ -38,30 +38,29 @@ void TasksViewSizesTest::entryRow_hasItsSizes()
     QCOMPARE(picker.width(), 140.0);
     QCOMPARE(picker.right(), area.right());
     QVERIFY(qAbs(picker.center().y() - field.center().y()) <= 0.5); // On whole points.
-    QCOMPARE(m_tab->item(u"newTitle"_s)->property("placeholder").toString(),
-             u"Add a task and press Return…"_s);
+    QCOMPARE(textOf(m_tab->item(u"newTitle"_s), "placeholder"), u"Add a task and press Return…"_s);
 }
 
 void TasksViewSizesTest::clientPicker_hasItsSizes()
 {
     auto* picker = m_tab->item(u"newClient"_s);
-    const auto frame = ShownPanel::inScene(picker);
-    const auto dot = ShownPanel::inScene(ShownPanel::find(picker, u"dot"_s));
+    const auto frame = inScene(picker);
+    const auto dot = inScene(ShownPanel::find(picker, u"dot"_s));
     auto* name = ShownPanel::find(picker, u"name"_s);
     auto* arrows = ShownPanel::find(picker, u"arrows"_s);
     auto* background = ShownPanel::find(picker, u"background"_s);
 
     QCOMPARE(dot.size(), QSizeF(6, 6));
     QCOMPARE(dot.left(), frame.left() + 9);
-    QCOMPARE(name->property("size").toDouble(), 11.5);
-    QCOMPARE(name->property("text").toString(), u"No client"_s);
+    QCOMPARE(numberOf(name, "size"), 11.5);
+    QCOMPARE(textOf(name), u"No client"_s);
     QCOMPARE(frame.height(), name->height() + 12);
-    QCOMPARE(arrows->property("name").toString(), u"chevron.up.chevron.down"_s);
-    QCOMPARE(arrows->property("size").toDouble(), 8.0);
-    QCOMPARE(ShownPanel::inScene(arrows).right(), frame.right() - 9);
-    QCOMPARE(background->property("radius").toDouble(), 8.0);
+    QCOMPARE(textOf(arrows, "name"), u"chevron.up.chevron.down"_s);
+    QCOMPARE(numberOf(arrows, "size"), 8.0);
+    QCOMPARE(inScene(arrows).right(), frame.right() - 9);
+    QCOMPARE(numberOf(background, "radius"), 8.0);
     QCOMPARE(colorOf(background), Brand::white(0.07));
-    QCOMPARE(ShownPanel::inScene(background), frame);
+    QCOMPARE(inScene(background), frame);
 }
 
 void TasksViewSizesTest::chips_haveTheirSizes()
@@ -70,8 +69,8 @@ void TasksViewSizesTest::chips_haveTheirSizes()
     m_tab->workspace.task(u"b"_s, m_tab->workspace.client(u"Bloom"_s));
 
     const auto all = m_tab->rect(u"allChip"_s);
-    const auto first = ShownPanel::inScene(m_tab->chip(0));
-    const auto second = ShownPanel::inScene(m_tab->chip(1));
+    const auto first = inScene(m_tab->chip(0));
+    const auto second = inScene(m_tab->chip(1));
 
     QCOMPARE(first.left() - all.right(), 4.0);
     QCOMPARE(second.left() - first.right(), 4.0);
@@ -95,31 +94,30 @@ void TasksViewSizesTest::row_hasItsSizes()
     m_tab->workspace.task(u"Call"_s, cafe, done);
 
     const auto* symbol = ShownPanel::find(m_tab->part(0, u"tick"_s), u"symbol"_s);
-    QTEST(symbol->property("name").toString(), "symbol");
+    QTEST(textOf(symbol, "name"), "symbol");
     QTEST(colorOf(symbol), "circle");
-    QCOMPARE(symbol->property("size").toDouble(), 14.0);
+    QCOMPARE(numberOf(symbol, "size"), 14.0);
 
     const auto* title = m_tab->part(0, u"title"_s);
     QTEST(colorOf(title), "title");
     QTEST(title->property("strikeout").toBool(), "done");
-    QCOMPARE(title->property("size").toDouble(), 12.5);
+    QCOMPARE(numberOf(title, "size"), 12.5);
 
     auto* tag = m_tab->part(0, u"tag"_s);
     const auto* name = ShownPanel::find(tag, u"clientName"_s);
     const auto* capsule = ShownPanel::find(tag, u"capsule"_s);
-    const auto frame = ShownPanel::inScene(tag);
-    const auto inner = ShownPanel::inScene(name);
+    const auto frame = inScene(tag);
+    const auto inner = inScene(name);
     QCOMPARE(inner, frame.adjusted(7, 2, -7, -2));
-    QCOMPARE(name->property("size").toDouble(), 10.0);
+    QCOMPARE(numberOf(name, "size"), 10.0);
     QCOMPARE(name->property("weight").toInt(), int(QFont::Medium));
     QCOMPARE(colorOf(name), Brand::color(u"review"_s));
     QCOMPARE(colorOf(capsule), Brand::color(u"review"_s));
     QCOMPARE(capsule->opacity(), 0.13);
-    QCOMPARE(capsule->property("radius").toDouble(), frame.height() / 2);
+    QCOMPARE(numberOf(capsule, "radius"), frame.height() / 2);
 
     m_tab->workspace.task(u"Other"_s, {}, done);
-    QCOMPARE(ShownPanel::inScene(m_tab->row(1)).top() - ShownPanel::inScene(m_tab->row(0)).bottom(),
-             2.0);
+    QCOMPARE(inScene(m_tab->row(1)).top() - inScene(m_tab->row(0)).bottom(), 2.0);
 }
 
 void TasksViewSizesTest::longTitleAndName_leaveRoomForEachOther()
@@ -128,9 +126,9 @@ void TasksViewSizesTest::longTitleAndName_leaveRoomForEachOther()
     m_tab->workspace.task(title, m_tab->workspace.client(QString(200, u'm')));
     m_tab->move(m_tab->row(0));
 
-    const auto remove = ShownPanel::inScene(m_tab->part(0, u"remove"_s));
-    const auto tag = ShownPanel::inScene(m_tab->part(0, u"tag"_s));
-    const auto text = ShownPanel::inScene(m_tab->part(0, u"title"_s));
+    const auto remove = inScene(m_tab->part(0, u"remove"_s));
+    const auto tag = inScene(m_tab->part(0, u"tag"_s));
+    const auto text = inScene(m_tab->part(0, u"title"_s));
 
     QVERIFY(text.right() < tag.left());
     QVERIFY(tag.right() <= remove.left());

@@ -33,30 +33,12 @@ private:
     QQuickItem* item(const QString& name) { return m_tab->item(name); }
     QRectF rect(const QString& name) { return m_tab->rect(name); }
     QRectF inside(const QString& card) { return rect(card).adjusted(12, 12, -12, -12); }
-    void settle() { m_tab->panel.settle(); }
+    void settle() { m_tab->settle(); }
 
     std::unique_ptr<TimeTab> m_tab;
 };
 
 namespace {
-
-QRectF inScene(const QQuickItem* item)
-{
-    return ShownPanel::inScene(item);
-}
-
-struct Look {
-    double size;
-    int weight;
-    QColor color;
-
-    bool operator==(const Look&) const = default;
-};
-
-Look lookOf(const QQuickItem* text)
-{
-    return {text->property("size").toDouble(), text->property("weight").toInt(), colorOf(text)};
-}
 
 double baselineOf(const QQuickItem* text)
 {
@@ -93,15 +75,15 @@ void TimeViewSizesTest::idleTimer_hasItsSizes()
     QCOMPARE(picker.left(), room.left());
     QCOMPARE(picker.width(), room.width());
     QCOMPARE(picker.top() - heading.bottom(), 9.0);
-    QCOMPARE(item(u"timerClient"_s)->property("placeholder").toString(), u"Choose client"_s);
+    QCOMPARE(textOf(item(u"timerClient"_s), "placeholder"), u"Choose client"_s);
     QCOMPARE(note.left(), room.left());
     QCOMPARE(note.width(), room.width());
     QCOMPARE(note.top() - picker.bottom(), 9.0);
-    QCOMPARE(item(u"note"_s)->property("placeholder").toString(), u"What are you working on?"_s);
+    QCOMPARE(textOf(item(u"note"_s), "placeholder"), u"What are you working on?"_s);
     QCOMPARE(start.left(), room.left());
     QCOMPARE(start.top() - note.bottom(), 9.0);
-    QCOMPARE(item(u"start"_s)->property("title").toString(), u"Start"_s);
-    QCOMPARE(item(u"start"_s)->property("fill").value<QColor>(), Brand::purple());
+    QCOMPARE(textOf(item(u"start"_s), "title"), u"Start"_s);
+    QCOMPARE(colorOf(item(u"start"_s), "fill"), Brand::purple());
 }
 
 void TimeViewSizesTest::runningTimer_hasItsSizes()
@@ -119,7 +101,7 @@ void TimeViewSizesTest::runningTimer_hasItsSizes()
     QCOMPARE(lookOf(item(u"runningClient"_s)), (Look{13, QFont::DemiBold, Qt::white}));
     QCOMPARE(lookOf(item(u"runningNote"_s)), (Look{11, QFont::Normal, Brand::muted()}));
     QCOMPARE(lookOf(item(u"clock"_s)), (Look{24, QFont::DemiBold, Qt::white}));
-    const auto fill = item(u"stop"_s)->property("fill").value<QColor>();
+    const auto fill = colorOf(item(u"stop"_s), "fill");
     QCOMPARE(fill.rgb(), Brand::red().rgb());
     QVERIFY(qAbs(fill.alphaF() - 0.7F) < 1e-4F);
 }
@@ -150,8 +132,7 @@ void TimeViewSizesTest::periodAndExport_areOneGroup()
     QVERIFY(qAbs(button.center().y() - period.center().y()) <= 0.5);
     QCOMPARE(item(u"period"_s)->property("titles").toStringList(),
              (QStringList{u"This week"_s, u"This month"_s}));
-    QCOMPARE(item(u"export"_s)->property("help").toString(),
-             u"Export timesheet CSV to Downloads"_s);
+    QCOMPARE(textOf(item(u"export"_s), "help"), u"Export timesheet CSV to Downloads"_s);
 }
 
 void TimeViewSizesTest::list_beginsBelowTheChoices()
@@ -192,10 +173,10 @@ void TimeViewSizesTest::row_hasItsSizes()
     QVERIFY(qAbs(baselineOf(amount) - baselineOf(name)) <= 0.5);
     QCOMPARE(inScene(track), QRectF(row.left(), row.bottom() - 4, row.width(), 4));
     QCOMPARE(colorOf(track), Brand::white(0.06));
-    QCOMPARE(track->property("radius").toDouble(), 2.0);
+    QCOMPARE(numberOf(track, "radius"), 2.0);
     QCOMPARE(inScene(bar).topLeft(), inScene(track).topLeft());
     QCOMPARE(bar->height(), 4.0);
-    QCOMPARE(bar->property("radius").toDouble(), 2.0);
+    QCOMPARE(numberOf(bar, "radius"), 2.0);
 }
 
 void TimeViewSizesTest::longNamesAndNotes_stayInTheirCards()

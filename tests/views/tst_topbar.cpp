@@ -81,7 +81,7 @@ void TopBarTest::tabButtons_standInOrderTwoPointsApart()
     QCOMPARE(all.size(), 7);
     for (int i = 0; i < 7; ++i) {
         QCOMPARE(all.at(i)->property("tab").toInt(), i);
-        const auto button = ShownPanel::inScene(all.at(i));
+        const auto button = inScene(all.at(i));
         QCOMPARE(button.topLeft().x(), bar.left() + 20 + i * 32);
         QCOMPARE(button.size(), QSizeF(30, 24));
         QVERIFY(isCentred(button, bar));
@@ -95,9 +95,9 @@ void TopBarTest::tabButton_showsItsSymbol()
 
     for (auto* button : buttons(panel)) {
         const auto* symbol = ShownPanel::find(button, u"symbol"_s);
-        QCOMPARE(symbol->property("name").toString(),
+        QCOMPARE(textOf(symbol, "name"),
                  quib::symbol(static_cast<Tab>(button->property("tab").toInt())));
-        QCOMPARE(symbol->property("size").toDouble(), 12.0);
+        QCOMPARE(numberOf(symbol, "size"), 12.0);
         QCOMPARE(symbol->property("weight").toInt(), int(QFont::DemiBold));
     }
 }
@@ -135,7 +135,7 @@ void TopBarTest::tabButton_lightsUp()
     const auto* background = ShownPanel::find(button, u"capsule"_s);
     QCOMPARE(background->opacity(), opacity);
     QCOMPARE(colorOf(background), capsule);
-    QCOMPARE(background->property("radius").toDouble(), 12.0);
+    QCOMPARE(numberOf(background, "radius"), 12.0);
 }
 
 void TopBarTest::clickingATab_selectsIt()
@@ -156,9 +156,8 @@ void TopBarTest::date_isWrittenInTheUsersWay()
 
     const auto today = QDate::currentDate();
 
-    QCOMPARE(date->property("text").toString(),
-             QLocale(QLocale::English).toString(today, u"ddd, MMM d"_s));
-    QCOMPARE(date->property("size").toDouble(), 11.0);
+    QCOMPARE(textOf(date), QLocale(QLocale::English).toString(today, u"ddd, MMM d"_s));
+    QCOMPARE(numberOf(date, "size"), 11.0);
     QCOMPARE(date->property("weight").toInt(), int(QFont::Medium));
     QCOMPARE(colorOf(date), Brand::muted());
 }
@@ -181,13 +180,13 @@ void TopBarTest::pin_showsWhetherItKeepsOpen()
     ShownPanel panel;
     panel.open(Tab::Home);
     const auto* symbol = ShownPanel::find(panel.item(u"pin"_s), u"symbol"_s);
-    QCOMPARE(symbol->property("size").toDouble(), 12.0);
-    QCOMPARE(symbol->property("name").toString(), u"pin"_s);
+    QCOMPARE(numberOf(symbol, "size"), 12.0);
+    QCOMPARE(textOf(symbol, "name"), u"pin"_s);
     QCOMPARE(colorOf(symbol), Brand::muted());
 
     panel.model.setPinned(true);
 
-    QCOMPARE(symbol->property("name").toString(), u"pin.fill"_s);
+    QCOMPARE(textOf(symbol, "name"), u"pin.fill"_s);
     QCOMPARE(colorOf(symbol), Brand::glow());
 }
 

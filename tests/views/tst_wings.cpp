@@ -59,9 +59,9 @@ void WingsTest::leftWing_showsTheClient()
     QCOMPARE(dot.size(), QSizeF(7, 7));
     QCOMPARE(dot.left(), wing.left() + 14);
     QCOMPARE(colorOf(running.panel.item(u"dot"_s)), Brand::live());
-    QCOMPARE(ShownPanel::inScene(name).left(), dot.right() + 6);
-    QCOMPARE(name->property("text").toString(), u"Café"_s);
-    QCOMPARE(name->property("size").toDouble(), 11.0);
+    QCOMPARE(inScene(name).left(), dot.right() + 6);
+    QCOMPARE(textOf(name), u"Café"_s);
+    QCOMPARE(numberOf(name, "size"), 11.0);
     QCOMPARE(name->property("weight").toInt(), int(QFont::DemiBold));
     QCOMPARE(colorOf(name), Brand::white(0.9));
 }
@@ -79,10 +79,10 @@ void WingsTest::rightWing_showsTheTimeWithSeconds()
     const Running running;
     const auto* elapsed = running.panel.item(u"elapsed"_s);
 
-    QVERIFY(elapsed->property("text").toString().startsWith(u"1:02:0"_s));
-    QCOMPARE(elapsed->property("size").toDouble(), 11.5);
+    QVERIFY(textOf(elapsed).startsWith(u"1:02:0"_s));
+    QCOMPARE(numberOf(elapsed, "size"), 11.5);
     QCOMPARE(colorOf(elapsed), Brand::glow());
-    QCOMPARE(ShownPanel::inScene(elapsed).right(), running.panel.rect(u"rightWing"_s).right() - 14);
+    QCOMPARE(inScene(elapsed).right(), running.panel.rect(u"rightWing"_s).right() - 14);
 }
 
 void WingsTest::pulse_beatsOnlyWhileItIsSeen()
