@@ -34,7 +34,7 @@ struct ShownPanel {
 
     explicit ShownPanel(const quib::QuibData& data = {}, quib::Store::Surroundings around = {})
         : workspace(data, around)
-        , calendar(&calendars, around.clock, QTimeZone::utc())
+        , calendar(&calendars, around.clock, QTimeZone::utc)
     {
         model.setMotionReduced(true);
         model.setNotchSize({188, 37});
