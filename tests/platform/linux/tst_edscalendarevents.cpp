@@ -237,7 +237,7 @@ void EdsCalendarEventsTest::read_colors_areTheCalendars()
 
     const auto answer = desk.answerTo({u"read"_s, u"2026-03-02"_s});
 
-    const auto entry = QJsonDocument::fromJson(answer.toUtf8()).array()[0];
+    const auto entry = QJsonDocument::fromJson(answer.toUtf8()).array().at(0);
     QTEST(entry[u"color"_s].toString(), "color");
 }
 
