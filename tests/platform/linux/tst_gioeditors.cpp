@@ -6,8 +6,6 @@
 
 using namespace Qt::StringLiterals;
 
-using Started = QList<QStringList>;
-
 /// Which of the editors opens a folder, and which opens a file of text.
 class GioEditorsTest : public QObject {
     Q_OBJECT

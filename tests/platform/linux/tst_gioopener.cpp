@@ -1,14 +1,11 @@
 #include "platform/linux/openerdesk.h"
 
-#include <QDir>
 #include <QFile>
 #include <QTest>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-
-using Started = QList<QStringList>;
 
 /// What opens a path or an address, whatever its name.
 class GioOpenerTest : public QObject {
