@@ -1,5 +1,6 @@
 #include "integrations/calendarfixture.h"
 
+#include <QScopeGuard>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -96,14 +97,15 @@ void CalendarDayTest::reload_timeZoneChanges_readsTheNewDay()
 
 void CalendarDayTest::reload_unknownTimeZone_isTheLocalDay()
 {
+    qputenv("TZ", "JST-9");
+    const auto restore = qScopeGuard([] { qputenv("TZ", "UTC"); });
     CalendarFixture f;
     f.zone = QTimeZone();
 
     f.grant();
 
-    const auto today = f.hands.now.toLocalTime().date();
-    QCOMPARE(f.store.readings.at(0).from, today.startOfDay());
-    QCOMPARE(f.store.readings.at(0).to, today.addDays(1).startOfDay());
+    QCOMPARE(f.store.readings.at(0).from, QDateTime(QDate(2026, 3, 1), QTime(15, 0), Qt::UTC));
+    QCOMPARE(f.store.readings.at(0).to, QDateTime(QDate(2026, 3, 2), QTime(15, 0), Qt::UTC));
 }
 
 void CalendarDayTest::reload_keepsTheEventsUntilTheAnswer()
