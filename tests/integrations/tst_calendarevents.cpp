@@ -67,7 +67,7 @@ void CalendarEventsTest::reload_noneLeft_isEmpty()
     f.grant();
     f.answer({f.entry(u"Call"_s, 1, 2)});
 
-    f.hands.now = f.hands.now.addSecs(3 * 3600);
+    f.hands.advance(std::chrono::hours(3));
     f.controller.reload();
     f.answer({f.entry(u"Call"_s, -2, -1)});
 

@@ -63,7 +63,7 @@ void HostileIconsTest::hostilePicture_isTheStandIn_data()
             + svg + "<text>&d;&d;&d;&d;&d;&d;&d;&d;</text></svg>";
     QTest::addRow("a drawing that does not end") << svg + rect;
     QTest::addRow("packed") << QByteArray("\x1f\x8b\x08") + QByteArray(1000, 'x');
-    QTest::addRow("five megabytes") << QByteArray(5 * 1024 * 1024, ' ');
+    QTest::addRow("five megabytes") << QByteArray(qsizetype(5) << 20, ' ');
 }
 
 void HostileIconsTest::hostilePicture_isTheStandIn()
