@@ -66,11 +66,6 @@ CalendarController::CalendarController(CalendarStore* store, Clock clock, TimeZo
     });
 }
 
-CalendarController::CalendarController(CalendarStore* store, Clock clock, const QTimeZone& timeZone)
-    : CalendarController(store, std::move(clock), [timeZone] { return timeZone; })
-{
-}
-
 void CalendarController::requestAccess()
 {
     if (m_store == nullptr) {

@@ -38,8 +38,6 @@ public:
     explicit CalendarController(CalendarStore* store, Clock clock = systemClock,
                                 TimeZone timeZone = QTimeZone::systemTimeZone,
                                 QObject* parent = nullptr);
-    /// For a user who stays where they are.
-    CalendarController(CalendarStore* store, Clock clock, const QTimeZone& timeZone);
 
     /// By start. All of today's that have not ended, and those of the whole day.
     const QList<Event>& events() const { return m_events; }

@@ -30,7 +30,7 @@ struct ShownPanel {
     FakePlayerLink player;
     quib::MediaController media{player};
     FakeCalendarStore calendars;
-    quib::CalendarController calendar{&calendars, hands.clock(), QTimeZone::utc()};
+    quib::CalendarController calendar{&calendars, hands.clock(), QTimeZone::utc};
     quib::Shortcuts shortcuts;
     FakeIconSource icons;
     FakeCommands commands;

@@ -161,7 +161,7 @@ void HomeModelsTest::events_changeRowByRow()
     };
     FakeCalendarStore store;
     CalendarController calendar(
-        &store, [&] { return now; }, QTimeZone::utc());
+        &store, [&] { return now; }, QTimeZone::utc);
     EventListModel model;
     const QAbstractItemModelTester tester(&model);
     model.setCalendar(&calendar);

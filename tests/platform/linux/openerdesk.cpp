@@ -166,9 +166,9 @@ QList<QJsonObject> OpenerDesk::records() const
     return list;
 }
 
-QList<QStringList> OpenerDesk::started() const
+Started OpenerDesk::started() const
 {
-    QList<QStringList> list;
+    Started list;
     for (const auto& record : records()) {
         list << textsOf(record.value(u"arguments"_s).toArray());
     }

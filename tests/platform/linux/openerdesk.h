@@ -7,6 +7,9 @@
 
 #include <memory>
 
+/// The arguments of each application that was started.
+using Started = QList<QStringList>;
+
 /// A desktop of its own in a folder of its own: applications that record how they were started, and
 /// one program that opens things. Applications are known to it that were there when it started.
 class OpenerDesk {
@@ -46,8 +49,8 @@ public:
 
     /// Of the applications that were started, in any order.
     QList<QJsonObject> records() const;
-    /// Their arguments, sorted.
-    QList<QStringList> started() const;
+    /// Sorted.
+    Started started() const;
 
 private:
     QTemporaryDir m_folder;

@@ -12,8 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Started = QList<QStringList>;
-
 QString fileAddress(const QString& path)
 {
     return QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());

@@ -7,8 +7,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Started = QList<QStringList>;
-
 /// A player in the ways in which it may be installed, the preferred one first.
 const QStringList Ways{u"spotify"_s, u"com.spotify.Client"_s, u"spotify_spotify"_s};
 

@@ -9,8 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Started = QList<QStringList>;
-
 const auto FileManager = u"org.freedesktop.FileManager1"_s;
 
 QByteArray shown(const QString& path)

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/linux/calendardesk.h"
+#include "platform/linux/calendarpermission.h"
+#include "platform/linux/fakedialog.h"
+
+#include <QTest>
+
+#include <memory>
+#include <optional>
+
+/// A session of its own, a dialog that it may show, and the one who asks for the calendars.
+struct PermissionDesk {
+    CalendarDesk desk;
+    std::unique_ptr<FakeDialog> dialog = std::make_unique<FakeDialog>();
+    std::unique_ptr<quib::CalendarPermission> permission; ///< None before the bus.
+
+    PermissionDesk()
+    {
+        qputenv("XDG_CONFIG_HOME", desk.path(QStringLiteral("config")).toUtf8());
+        qunsetenv("XDG_CURRENT_DESKTOP");
+    }
+
+    void startBus(const QStringList& services = {CalendarDesk::PermissionStore})
+    {
+        desk.startBus(services);
+        startAgain();
+    }
+
+    void startAgain() { permission = std::make_unique<quib::CalendarPermission>(desk.bus()); }
+
+    QString address() const
+    {
+        return desk.environment.value(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
+    }
+
+    std::optional<quib::CalendarAuthorization> read() const
+    {
+        std::optional<quib::CalendarAuthorization> answer;
+        permission->read([&answer](auto authorization) { answer = authorization; });
+        return QTest::qWaitFor([&answer] { return answer.has_value(); }) ? answer : std::nullopt;
+    }
+
+    std::optional<bool> ask() const
+    {
+        std::optional<bool> answer;
+        permission->ask([&answer](bool isGranted) { answer = isGranted; });
+        return QTest::qWaitFor([&answer] { return answer.has_value(); }) ? answer : std::nullopt;
+    }
+};
