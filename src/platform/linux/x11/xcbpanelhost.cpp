@@ -2,6 +2,7 @@
 
 #include "platform/linux/x11/xserver.h"
 
+#include <QCoreApplication>
 #include <QPlatformSurfaceEvent>
 #include <QTransform>
 
@@ -119,12 +120,30 @@ bool XcbPanelHost::eventFilter(QObject* object, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::PlatformSurface: followSurface(*event); break;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease: return tellRepeat(static_cast<QKeyEvent&>(*event));
     case QEvent::Show:
     case QEvent::Expose:
     case QEvent::Resize: applyShapes(); break;
     default: break; // NOLINT: Qt's events are not ours to list
     }
     return PanelHost::eventFilter(object, event);
+}
+
+/// Sends a repeat that was taken for a press again, as what it is.
+bool XcbPanelHost::tellRepeat(QKeyEvent& event)
+{
+    const bool isRepeat = m_keyRepeat.isRepeat(event);
+    if (event.type() != QEvent::KeyPress || event.isAutoRepeat() || !isRepeat) {
+        return false;
+    }
+    QKeyEvent repeat(event.type(), event.key(), event.modifiers(), event.nativeScanCode(),
+                     event.nativeVirtualKey(), event.nativeModifiers(), event.text(), true,
+                     static_cast<quint16>(event.count()), event.device());
+    repeat.setTimestamp(event.timestamp());
+    QCoreApplication::sendEvent(m_window, &repeat);
+    event.setAccepted(repeat.isAccepted());
+    return true;
 }
 
 /// Qt may give the window a new native one at any time.

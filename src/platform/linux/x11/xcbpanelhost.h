@@ -3,6 +3,7 @@
 #include "app/notch/panelhost.h"
 #include "platform/linux/x11/compositorwatch.h"
 #include "platform/linux/x11/keyboardloan.h"
+#include "platform/linux/x11/keyrepeat.h"
 #include "platform/linux/x11/windowshape.h"
 
 #include <QPointer>
@@ -36,6 +37,7 @@ public:
 
 private:
     void followSurface(const QEvent& event);
+    bool tellRepeat(QKeyEvent& event);
     void applyInputRegion();
     void applyVisibleShape();
     void applyShapes();
@@ -47,6 +49,7 @@ private:
     CompositorWatch m_compositor;
     WindowShape m_shape;
     KeyboardLoan m_keyboard;
+    KeyRepeat m_keyRepeat;
 };
 
 } // namespace quib
