@@ -52,6 +52,8 @@ void FileIcon::itemChange(ItemChange change, const ItemChangeData& value)
     RasterItem::itemChange(change, value);
     if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange) {
         ask();
+    } else if (change == ItemVisibleHasChanged && value.boolValue) {
+        askAnew(); // It may have changed out of sight.
     }
 }
 
