@@ -60,6 +60,8 @@ public:
     void button(const QString& downOrUp) const;
     void type(const QString& text) const;
     void key(const QString& name) const;
+    /// Down for as long as it takes to repeat a dozen times.
+    void hold(const QString& key) const;
     void showTab(int number) const;
     void openWithPointer() const;
 

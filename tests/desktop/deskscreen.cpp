@@ -46,6 +46,11 @@ void Desk::key(const QString& name) const
     xdotool({u"key"_s, name});
 }
 
+void Desk::hold(const QString& key) const
+{
+    xdotool({u"keydown"_s, key, u"sleep"_s, u"1.2"_s, u"keyup"_s, key});
+}
+
 void Desk::showTab(int number) const
 {
     click({800 - 350 + 22 + 20 + 15 + 32 * number, 23});

@@ -1,5 +1,6 @@
 #include "desk.h"
 
+#include <QJsonArray>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -17,6 +18,7 @@ private Q_SLOTS:
     void clickElsewhere_givesTheKeyboardToTheClickedWindow();
     void halfTypedText_survivesACollapse();
     void menu_isUsableByKeyboard();
+    void keyHeldDown_pressesOnce();
 };
 
 namespace {
@@ -151,6 +153,27 @@ void KeyboardTest::menu_isUsableByKeyboard()
     const auto data = desk.data();
     const auto task = data.value("tasks"_L1)[0];
     QCOMPARE(task["clientID"_L1], data.value("clients"_L1)[0]["id"_L1]);
+}
+
+/// Where each press would take away another item of the quick-launch strip.
+void KeyboardTest::keyHeldDown_pressesOnce()
+{
+    constexpr QPoint EditLaunch{1114, 256};
+    constexpr QPoint AddWebsite{1084, 256};
+    Desk desk;
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+    desk.click(EditLaunch);
+    desk.click(AddWebsite); // Its fields take the keyboard.
+    desk.key(u"Escape"_s);
+    desk.key(u"shift+Tab"_s);
+    desk.key(u"shift+Tab"_s);
+
+    desk.hold(u"Delete"_s);
+    desk.key(u"ctrl+q"_s);
+
+    QVERIFY(quib->waitForFinished());
+    QCOMPARE(desk.data()["launch"_L1].toArray().size(), 1);
 }
 
 QTEST_GUILESS_MAIN(KeyboardTest)

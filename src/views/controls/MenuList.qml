@@ -34,13 +34,14 @@ ListView {
 
         onHoveredChanged: root.follow(index, hovered)
         onClicked: root.activated(index)
+
+        // Taken from the template, which would click at each repeat.
+        Keys.onPressed: event => root.activateByKey(event)
+        Keys.onReleased: event => event.accepted = root.activates(event.key)
     }
 
     Keys.onUpPressed: root.highlight(root.currentIndex < 0 ? root.count - 1 : root.currentIndex - 1, -1)
     Keys.onDownPressed: root.highlight(root.currentIndex + 1, 1)
-    Keys.onReturnPressed: root.activateCurrent()
-    Keys.onEnterPressed: root.activateCurrent()
-    Keys.onSpacePressed: root.activateCurrent()
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
         if (event.accepted) {
@@ -71,8 +72,14 @@ ListView {
         root.positionViewAtIndex(root.currentIndex, ListView.Contain);
     }
 
-    function activateCurrent() {
-        if (root.currentIndex >= 0) {
+    function activates(key) {
+        return key === Qt.Key_Space || key === Qt.Key_Return || key === Qt.Key_Enter;
+    }
+
+    // The key that opened the menu may still be held down.
+    function activateByKey(event) {
+        event.accepted = root.activates(event.key);
+        if (event.accepted && !event.isAutoRepeat) {
             root.activated(root.currentIndex);
         }
     }

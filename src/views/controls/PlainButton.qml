@@ -32,6 +32,9 @@ T.AbstractButton {
 
     Keys.onReturnPressed: event => root.pressByKey(event)
     Keys.onEnterPressed: event => root.pressByKey(event)
+    // The template would press again at each repeat.
+    Keys.onSpacePressed: event => root.pressByKey(event)
+    Keys.onReleased: event => event.accepted = event.key === Qt.Key_Space
 
     // A key that is held down presses once.
     function pressByKey(event) {
