@@ -29,6 +29,7 @@ FocusScope {
         Accessible.checkable: true
 
         onClicked: root.toggled()
+        onDoubleClicked: {} // Its second press may be on the task that comes next.
 
         contentItem: Symbol {
             objectName: "symbol"

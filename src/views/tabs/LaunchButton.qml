@@ -60,6 +60,7 @@ FocusScope {
         Accessible.description: TextLine.beginning(root.target)
 
         onClicked: root.opened()
+        onDoubleClicked: {} // Launches once.
 
         background: ContinuousRectangle {
             objectName: "capsule"
@@ -118,6 +119,7 @@ FocusScope {
         Accessible.name: "Remove %1".arg(TextLine.beginning(root.name))
 
         onClicked: root.removed(false)
+        onDoubleClicked: {} // Its second press may be on the badge that comes next.
 
         contentItem: Symbol {
             objectName: "badge"

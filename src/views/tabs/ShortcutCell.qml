@@ -42,5 +42,6 @@ FocusScope {
         icons: root.icons
 
         onClicked: root.opened()
+        onDoubleClicked: {} // Opens once.
     }
 }

@@ -41,6 +41,7 @@ FocusScope {
         Accessible.checked: root.done
 
         onClicked: root.toggled()
+        onDoubleClicked: {} // Its second press may be on another task.
 
         contentItem: Symbol {
             objectName: "symbol"
@@ -116,5 +117,6 @@ FocusScope {
         Accessible.name: "Delete: %1".arg(root.title)
 
         onClicked: root.deleted()
+        onDoubleClicked: {} // Its second press is on the task that comes next.
     }
 }
