@@ -1,9 +1,8 @@
 #pragma once
 
 #include "platform/linux/themeiconsource.h"
+#include "support/writefile.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -33,12 +32,7 @@ public:
 
     QString put(const QString& name, const QByteArray& bytes) const
     {
-        auto made = path(name);
-        QDir().mkpath(QFileInfo(made).path());
-        QFile file(made);
-        file.open(QIODevice::WriteOnly);
-        file.write(bytes);
-        return made;
+        return writeFile(path(name), bytes);
     }
 
     QString picture(const QString& name, const QColor& color, QSize size = {32, 32}) const
