@@ -142,6 +142,20 @@ struct ShownPanel {
         QTest::keyClick(window.get(), Qt::Key(key), modifiers);
     }
 
+    /// Down until it has repeated a few times.
+    void hold(Qt::Key key) const
+    {
+        const auto send = [this, key](bool isPress, bool isRepeat) {
+            QTest::simulateEvent(window.get(), isPress, key, {}, {}, isRepeat);
+        };
+        send(true, false);
+        for (int repeat = 0; repeat < 5; ++repeat) {
+            send(false, true);
+            send(true, true);
+        }
+        send(false, false);
+    }
+
     void type(const QString& text) const
     {
         for (const auto letter : text) {
@@ -165,6 +179,8 @@ struct ShownPanel {
     {
         const auto place = inScene(on).center().toPoint();
         QTest::mouseClick(window.get(), Qt::LeftButton, {}, place);
+        settle();
+        QTest::mouseMove(window.get(), place + QPoint(1, 0)); // A hand is never quite still.
         settle();
         QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval;
         QTest::mouseClick(window.get(), Qt::LeftButton, {}, place);

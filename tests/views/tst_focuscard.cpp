@@ -15,12 +15,19 @@ private Q_SLOTS:
     void timerWithoutClient_saysSo();
     void noTimer_leadsToTheTimeTab();
     void tasks_areTickedOff();
+    void circle_doubleClicked_ticksOffOneTask();
+    void circle_keyHeldDown_ticksOffOneTask_data();
+    void circle_keyHeldDown_ticksOffOneTask();
     void noTasks_saysSo();
 
 private:
     QQuickItem* part(const QString& name) { return m_tab->part(u"focusCard"_s, name); }
     QString text(const QString& name) { return m_tab->text(u"focusCard"_s, name); }
     void click(const QString& name) { m_tab->click(part(name)); }
+    qsizetype tasksDone()
+    {
+        return std::ranges::count_if(m_tab->store().data().tasks, &quib::TaskItem::done);
+    }
     QList<QQuickItem*> tasks() { return m_tab->rows(u"focusCard"_s, u"task"_s); }
 
     std::unique_ptr<HomeTab> m_tab;
@@ -66,6 +73,36 @@ void FocusCardTest::tasks_areTickedOff()
     QVERIFY(m_tab->store().data().tasks.front().done);
     QCOMPARE(tasks().size(), 3);
     QVERIFY(!part(u"nothing"_s)->isVisible());
+}
+
+void FocusCardTest::circle_doubleClicked_ticksOffOneTask()
+{
+    m_tab->addTasks({u"a"_s, u"b"_s, u"c"_s, u"d"_s});
+
+    m_tab->doubleClick(ShownPanel::find(tasks().front(), u"tick"_s));
+
+    QCOMPARE(tasksDone(), 1);
+}
+
+void FocusCardTest::circle_keyHeldDown_ticksOffOneTask_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+
+    QTest::addRow("blank") << Qt::Key_Space;
+    QTest::addRow("return") << Qt::Key_Return;
+    QTest::addRow("enter") << Qt::Key_Enter;
+}
+
+void FocusCardTest::circle_keyHeldDown_ticksOffOneTask()
+{
+    QFETCH(const Qt::Key, key);
+    m_tab->addTasks({u"a"_s, u"b"_s, u"c"_s, u"d"_s});
+    m_tab->takeKeyboard();
+    ShownPanel::find(tasks().front(), u"tick"_s)->forceActiveFocus(Qt::TabFocusReason);
+
+    m_tab->hold(key);
+
+    QCOMPARE(tasksDone(), 1);
 }
 
 void FocusCardTest::noTasks_saysSo()

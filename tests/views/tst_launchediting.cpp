@@ -11,6 +11,8 @@ private Q_SLOTS:
     void cleanup() { m_strip.reset(); }
 
     void editing_removesAnItem();
+    void badge_doubleClicked_removesOneItem();
+    void delete_heldDown_removesOneItem();
     void application_isAdded();
     void website_isAddedByKeyboard();
     void website_withoutAddress_addsNothing();
@@ -34,6 +36,28 @@ void LaunchEditingTest::editing_removesAnItem()
     m_strip->push(u"remove"_s);
 
     QVERIFY(m_strip->store().data().launch.isEmpty());
+}
+
+void LaunchEditingTest::badge_doubleClicked_removesOneItem()
+{
+    m_strip->fill(5, u"Same"_s);
+    m_strip->startEditing();
+
+    m_strip->doubleClick(m_strip->part(u"remove"_s));
+
+    QCOMPARE(m_strip->store().data().launch.size(), 4);
+}
+
+void LaunchEditingTest::delete_heldDown_removesOneItem()
+{
+    m_strip->fill(5);
+    m_strip->startEditing();
+    m_strip->takeKeyboard();
+    m_strip->part(u"launch"_s)->forceActiveFocus(Qt::TabFocusReason);
+
+    m_strip->hold(Qt::Key_Delete);
+
+    QCOMPARE(m_strip->store().data().launch.size(), 4);
 }
 
 void LaunchEditingTest::application_isAdded()

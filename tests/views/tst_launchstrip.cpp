@@ -14,8 +14,10 @@ private Q_SLOTS:
     void cleanup() { m_strip.reset(); }
 
     void launch_opensItsTarget();
+    void launch_doubleClicked_opensItOnce();
     void icons_areThoseOfPaths();
     void icon_ofAPathIsAskedForAtItsSize();
+    void icon_isAskedForAnewWhenItIsSeenAgain();
     void manyItems_scroll();
     void fades_tellThatMoreIsThere();
     void names_tellWhatPressingDoes();
@@ -31,6 +33,15 @@ void LaunchStripTest::launch_opensItsTarget()
     m_strip->push(u"launch"_s);
 
     QCOMPARE(m_strip->opener.asked, QStringList{u"browse https://mail.example"_s});
+}
+
+void LaunchStripTest::launch_doubleClicked_opensItOnce()
+{
+    m_strip->launch(u"Mail"_s, u"mail.example"_s);
+
+    m_strip->doubleClick(m_strip->part(u"launch"_s));
+
+    QCOMPARE(m_strip->opener.asked.size(), 1);
 }
 
 void LaunchStripTest::icons_areThoseOfPaths()
@@ -60,6 +71,18 @@ void LaunchStripTest::icon_ofAPathIsAskedForAtItsSize()
     const auto picture = m_strip->window->grabWindow();
     const auto scale = m_strip->window->effectiveDevicePixelRatio();
     QCOMPARE(picture.pixelColor(middle * scale), QColor(Qt::red));
+}
+
+void LaunchStripTest::icon_isAskedForAnewWhenItIsSeenAgain()
+{
+    m_strip->launch(u"Files"_s, u"/media/disk/files.desktop"_s);
+    m_strip->icons.answerAll(Qt::red);
+
+    m_strip->model.setExpanded(false);
+    QCOMPARE(m_strip->icons.open.size(), 0);
+    m_strip->model.setExpanded(true);
+
+    QCOMPARE(m_strip->icons.open.size(), 1);
 }
 
 void LaunchStripTest::manyItems_scroll()

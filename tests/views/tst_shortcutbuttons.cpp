@@ -15,6 +15,7 @@ private Q_SLOTS:
 
     void click_opens_data();
     void click_opens();
+    void doubleClick_opensOnce();
     void press_withThePointerShowsNoRing();
     void icon_isChosenInOrder_data();
     void icon_isChosenInOrder();
@@ -51,6 +52,15 @@ void ShortcutButtonsTest::click_opens()
                       surface.bottomRight().toPoint() - QPoint(12, 2));
 
     QCOMPARE(opened(), asked.isEmpty() ? QStringList() : QStringList{asked});
+}
+
+void ShortcutButtonsTest::doubleClick_opensOnce()
+{
+    m_links->show({LinksTab::group(u"A"_s, LinksTab::buttons(3))});
+
+    m_links->doubleClick(m_links->shortcut(1));
+
+    QCOMPARE(opened().size(), 1);
 }
 
 void ShortcutButtonsTest::press_withThePointerShowsNoRing()

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void chip_filtersAndStaysSelected();
     void lastTaskOfTheFilteredClientCleared_leavesTheFilterSet();
     void circle_ticksOffAndMovesTheRow();
+    void circle_doubleClicked_ticksOffOneTask();
+    void delete_doubleClicked_deletesOneTask();
     void changeOfOneTask_keepsTheOtherRows();
     void hoveredRow_showsItsButton();
     void deleting_takesOneClick();
@@ -149,6 +151,29 @@ void TasksViewTest::lastTaskOfTheFilteredClientCleared_leavesTheFilterSet()
     QCOMPARE(m_tab->shownTitles(), QStringList());
     QCOMPARE(m_tab->item(u"tasksView"_s)->property("filter").toUuid(), cafe);
     QVERIFY(m_tab->item(u"nothing"_s)->isVisible());
+}
+
+void TasksViewTest::circle_doubleClicked_ticksOffOneTask()
+{
+    m_tab->workspace.task(u"first"_s);
+    m_tab->workspace.task(u"second"_s);
+    m_tab->workspace.task(u"third"_s);
+
+    m_tab->doubleClick(m_tab->part(0, u"tick"_s));
+
+    QCOMPARE(std::ranges::count_if(m_tab->store().data().tasks, &quib::TaskItem::done), 1);
+}
+
+void TasksViewTest::delete_doubleClicked_deletesOneTask()
+{
+    m_tab->workspace.task(u"first"_s);
+    m_tab->workspace.task(u"second"_s);
+    m_tab->workspace.task(u"third"_s);
+    m_tab->move(m_tab->part(0, u"title"_s));
+
+    m_tab->doubleClick(m_tab->part(0, u"remove"_s));
+
+    QCOMPARE(m_tab->store().data().tasks.size(), 2);
 }
 
 void TasksViewTest::circle_ticksOffAndMovesTheRow()

@@ -14,6 +14,8 @@ private Q_SLOTS:
     void tab_goesThroughEverything();
     void tab_whileATimerRuns_comesToStop();
     void keys_afterAStart_doNothing();
+    void menu_keyThatOpensItHeldDown_choosesNothing_data();
+    void menu_keyThatOpensItHeldDown_choosesNothing();
     void names_tellWhatIsThere();
 
 private:
@@ -67,6 +69,28 @@ void TimeKeyboardTest::keys_afterAStart_doNothing()
 
     QCOMPARE(m_tab->store().runningEntry(), started);
     QCOMPARE(m_tab->text(u"note"_s), QString());
+}
+
+void TimeKeyboardTest::menu_keyThatOpensItHeldDown_choosesNothing_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+
+    QTest::addRow("blank") << Qt::Key_Space;
+    QTest::addRow("return") << Qt::Key_Return;
+}
+
+void TimeKeyboardTest::menu_keyThatOpensItHeldDown_choosesNothing()
+{
+    QFETCH(const Qt::Key, key);
+    m_tab->client(u"Café"_s);
+    m_tab->press(Qt::Key_Backtab);
+    QCOMPARE(m_tab->focused(), u"timerClient"_s);
+
+    m_tab->hold(key);
+    m_tab->press(Qt::Key_Down);
+    m_tab->press(Qt::Key_Return);
+
+    QCOMPARE(toldOf(item(u"timerClient"_s)), u"Client: Café"_s);
 }
 
 void TimeKeyboardTest::names_tellWhatIsThere()
