@@ -42,54 +42,54 @@ void CalendarDialogTest::ask_dialog_isAnsweredAndKept()
     QFETCH(const uint, response);
     QFETCH(const bool, isGranted);
     QFETCH(const CalendarAuthorization, kept);
-    PermissionDesk f;
-    f.startBus();
-    f.dialog->response = response;
-    QVERIFY(f.dialog->start(f.address()));
+    PermissionDesk session;
+    session.startBus();
+    session.dialog->response = response;
+    QVERIFY(session.dialog->start(session.address()));
 
-    QCOMPARE(f.ask(), isGranted);
+    QCOMPARE(session.ask(), isGranted);
 
-    QCOMPARE(f.dialog->shownFor, QStringList(u"org.korvel.Quib"_s));
-    f.startAgain();
-    QCOMPARE(f.read(), kept);
+    QCOMPARE(session.dialog->shownFor, QStringList(u"org.korvel.Quib"_s));
+    session.startAgain();
+    QCOMPARE(session.read(), kept);
     QVERIFY(!QFile::exists(consentFile()));
 }
 
 void CalendarDialogTest::ask_noDialog_isTheConsent()
 {
-    PermissionDesk f;
-    f.startBus();
+    PermissionDesk session;
+    session.startBus();
 
-    QCOMPARE(f.ask(), true);
+    QCOMPARE(session.ask(), true);
 
-    QCOMPARE(f.read(), CalendarAuthorization::FullAccess);
+    QCOMPARE(session.read(), CalendarAuthorization::FullAccess);
 }
 
 void CalendarDialogTest::ask_ofTheDesktopsOwnDialogFirst()
 {
-    PermissionDesk f;
-    f.startBus();
+    PermissionDesk session;
+    session.startBus();
     qputenv("XDG_CURRENT_DESKTOP", "Foo!:COSMIC");
     FakeDialog own;
     own.response = 1;
-    QVERIFY(own.start(f.address(), u"cosmic"_s));
-    QVERIFY(f.dialog->start(f.address()));
+    QVERIFY(own.start(session.address(), u"cosmic"_s));
+    QVERIFY(session.dialog->start(session.address()));
 
-    QCOMPARE(f.ask(), false);
+    QCOMPARE(session.ask(), false);
 
-    QCOMPARE(f.dialog->shownFor, QStringList());
+    QCOMPARE(session.dialog->shownFor, QStringList());
 }
 
 void CalendarDialogTest::ask_backendWithoutDialog_isPassedOver()
 {
-    PermissionDesk f;
-    f.startBus();
-    auto other = QDBusConnection::connectToBus(f.address(), u"other"_s);
+    PermissionDesk session;
+    session.startBus();
+    auto other = QDBusConnection::connectToBus(session.address(), u"other"_s);
     QVERIFY(other.registerService(u"org.freedesktop.impl.portal.desktop.gtk"_s));
-    f.dialog->response = 1;
-    QVERIFY(f.dialog->start(f.address(), u"kde"_s));
+    session.dialog->response = 1;
+    QVERIFY(session.dialog->start(session.address(), u"kde"_s));
 
-    const auto isGranted = f.ask();
+    const auto isGranted = session.ask();
 
     QDBusConnection::disconnectFromBus(u"other"_s);
     QCOMPARE(isGranted, false);
@@ -108,17 +108,17 @@ void CalendarDialogTest::ask_backendThatCannotStart_isPassedOver_data()
 void CalendarDialogTest::ask_backendThatCannotStart_isPassedOver()
 {
     QFETCH(const QString, error);
-    PermissionDesk f;
-    f.startBus();
+    PermissionDesk session;
+    session.startBus();
     FakeDialog broken;
     broken.failure = error;
-    QVERIFY(broken.start(f.address(), u"gtk"_s));
-    f.dialog->response = 1;
-    QVERIFY(f.dialog->start(f.address(), u"kde"_s));
+    QVERIFY(broken.start(session.address(), u"gtk"_s));
+    session.dialog->response = 1;
+    QVERIFY(session.dialog->start(session.address(), u"kde"_s));
 
-    QCOMPARE(f.ask(), false);
+    QCOMPARE(session.ask(), false);
 
-    QCOMPARE(f.dialog->shownFor.size(), 1);
+    QCOMPARE(session.dialog->shownFor.size(), 1);
 }
 
 void CalendarDialogTest::ask_desktopWithAStrangeName_isTheConsent_data()
@@ -133,40 +133,40 @@ void CalendarDialogTest::ask_desktopWithAStrangeName_isTheConsent_data()
 void CalendarDialogTest::ask_desktopWithAStrangeName_isTheConsent()
 {
     QFETCH(const QByteArray, desktop);
-    PermissionDesk f;
-    f.startBus();
+    PermissionDesk session;
+    session.startBus();
     qputenv("XDG_CURRENT_DESKTOP", desktop);
 
-    QCOMPARE(f.ask(), true);
+    QCOMPARE(session.ask(), true);
 }
 
 void CalendarDialogTest::ask_dialogCrashes_isNotGranted()
 {
-    PermissionDesk f;
-    f.startBus();
-    f.dialog->staysOpen = true;
-    QVERIFY(f.dialog->start(f.address()));
+    PermissionDesk session;
+    session.startBus();
+    session.dialog->staysOpen = true;
+    QVERIFY(session.dialog->start(session.address()));
     std::optional<bool> answer;
-    f.permission->ask([&answer](bool isGranted) { answer = isGranted; });
-    QTRY_COMPARE(f.dialog->shownFor.size(), 1);
+    session.permission->ask([&answer](bool isGranted) { answer = isGranted; });
+    QTRY_COMPARE(session.dialog->shownFor.size(), 1);
 
-    f.dialog.reset();
+    session.dialog.reset();
 
     QTRY_COMPARE(answer, false);
-    QCOMPARE(f.read(), CalendarAuthorization::NotDetermined);
+    QCOMPARE(session.read(), CalendarAuthorization::NotDetermined);
 }
 
 void CalendarDialogTest::ask_busDies_isNotGranted()
 {
-    PermissionDesk f;
-    f.startBus();
-    f.dialog->staysOpen = true;
-    QVERIFY(f.dialog->start(f.address()));
+    PermissionDesk session;
+    session.startBus();
+    session.dialog->staysOpen = true;
+    QVERIFY(session.dialog->start(session.address()));
     std::optional<bool> answer;
-    f.permission->ask([&answer](bool isGranted) { answer = isGranted; });
-    QTRY_COMPARE(f.dialog->shownFor.size(), 1);
+    session.permission->ask([&answer](bool isGranted) { answer = isGranted; });
+    QTRY_COMPARE(session.dialog->shownFor.size(), 1);
 
-    f.desk.killBus();
+    session.desk.killBus();
 
     QTRY_COMPARE(answer, false);
     QVERIFY(!QFile::exists(consentFile()));
@@ -174,34 +174,34 @@ void CalendarDialogTest::ask_busDies_isNotGranted()
 
 void CalendarDialogTest::ask_twice_showsOneDialog()
 {
-    PermissionDesk f;
-    f.startBus();
-    f.dialog->staysOpen = true;
-    QVERIFY(f.dialog->start(f.address()));
+    PermissionDesk session;
+    session.startBus();
+    session.dialog->staysOpen = true;
+    QVERIFY(session.dialog->start(session.address()));
     int granted = 0;
-    f.permission->ask([&granted](bool isGranted) { granted += isGranted; });
-    f.permission->ask([&granted](bool isGranted) { granted += isGranted; });
-    QTRY_COMPARE(f.dialog->shownFor.size(), 1);
+    session.permission->ask([&granted](bool isGranted) { granted += isGranted; });
+    session.permission->ask([&granted](bool isGranted) { granted += isGranted; });
+    QTRY_COMPARE(session.dialog->shownFor.size(), 1);
 
-    f.dialog->close(0);
+    session.dialog->close(0);
 
     QTRY_COMPARE(granted, 2);
-    QCOMPARE(f.dialog->shownFor.size(), 1);
+    QCOMPARE(session.dialog->shownFor.size(), 1);
 }
 
 void CalendarDialogTest::destroyed_whileTheDialogIsOpen()
 {
-    PermissionDesk f;
-    f.startBus();
-    f.dialog->staysOpen = true;
-    QVERIFY(f.dialog->start(f.address()));
+    PermissionDesk session;
+    session.startBus();
+    session.dialog->staysOpen = true;
+    QVERIFY(session.dialog->start(session.address()));
     bool isAnswered = false;
-    f.permission->ask([&isAnswered](bool) { isAnswered = true; });
-    QTRY_COMPARE(f.dialog->shownFor.size(), 1);
+    session.permission->ask([&isAnswered](bool) { isAnswered = true; });
+    QTRY_COMPARE(session.dialog->shownFor.size(), 1);
 
-    f.permission.reset();
-    f.dialog->close(0);
-    QVERIFY(f.desk.owns(u"org.freedesktop.impl.portal.desktop.gtk"_s));
+    session.permission.reset();
+    session.dialog->close(0);
+    QVERIFY(session.desk.owns(u"org.freedesktop.impl.portal.desktop.gtk"_s));
     QCoreApplication::processEvents();
 
     QVERIFY(!isAnswered);

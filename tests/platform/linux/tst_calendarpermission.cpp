@@ -42,22 +42,22 @@ void CalendarPermissionTest::read_isAsTheStoreHasIt()
 {
     QFETCH(const QString, word);
     QFETCH(const CalendarAuthorization, authorization);
-    PermissionDesk f;
-    f.startBus();
+    PermissionDesk session;
+    session.startBus();
     if (!word.isEmpty()) {
-        f.desk.setPermission(word);
+        session.desk.setPermission(word);
     }
 
-    QCOMPARE(f.read(), authorization);
+    QCOMPARE(session.read(), authorization);
 }
 
 void CalendarPermissionTest::read_answersLater()
 {
-    PermissionDesk f;
-    f.startBus();
+    PermissionDesk session;
+    session.startBus();
     bool isAnswered = false;
 
-    f.permission->read([&isAnswered](CalendarAuthorization) { isAnswered = true; });
+    session.permission->read([&isAnswered](CalendarAuthorization) { isAnswered = true; });
 
     QVERIFY(!isAnswered);
     QTRY_VERIFY(isAnswered);
@@ -65,18 +65,20 @@ void CalendarPermissionTest::read_answersLater()
 
 void CalendarPermissionTest::read_hungStore_blocksNothing()
 {
-    PermissionDesk f;
-    f.startBus();
-    f.desk.setPermission(u"yes"_s);
-    f.desk.signalTo({CalendarDesk::PermissionStore}, SIGSTOP);
+    PermissionDesk session;
+    session.startBus();
+    session.desk.setPermission(u"yes"_s);
+    session.desk.signalTo({CalendarDesk::PermissionStore}, SIGSTOP);
     std::optional<CalendarAuthorization> answer;
 
-    f.permission->read([&answer](CalendarAuthorization authorization) { answer = authorization; });
-    QVERIFY(f.desk.owns(CalendarDesk::PermissionStore)); // The bus has had our question by now.
+    session.permission->read(
+        [&answer](CalendarAuthorization authorization) { answer = authorization; });
+    QVERIFY(
+        session.desk.owns(CalendarDesk::PermissionStore)); // The bus has had our question by now.
     QCoreApplication::processEvents();
     QVERIFY(!answer);
 
-    f.desk.signalTo({CalendarDesk::PermissionStore}, SIGCONT);
+    session.desk.signalTo({CalendarDesk::PermissionStore}, SIGCONT);
     QTRY_COMPARE(answer, CalendarAuthorization::FullAccess);
 }
 
@@ -93,25 +95,25 @@ void CalendarPermissionTest::read_unreadableFile_isUndecided_data()
 void CalendarPermissionTest::read_unreadableFile_isUndecided()
 {
     QFETCH(const QByteArray, bytes);
-    PermissionDesk f;
-    f.startBus({});
+    PermissionDesk session;
+    session.startBus({});
     writeConsent(true);
     QFile file(consentFile());
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(bytes);
     file.close();
 
-    QCOMPARE(f.read(), CalendarAuthorization::NotDetermined);
+    QCOMPARE(session.read(), CalendarAuthorization::NotDetermined);
 }
 
 void CalendarPermissionTest::ask_hungStore_isAnswered()
 {
-    PermissionDesk f;
-    f.startBus();
-    f.desk.startService(CalendarDesk::PermissionStore);
-    f.desk.signalTo({CalendarDesk::PermissionStore}, SIGSTOP);
+    PermissionDesk session;
+    session.startBus();
+    session.desk.startService(CalendarDesk::PermissionStore);
+    session.desk.signalTo({CalendarDesk::PermissionStore}, SIGSTOP);
 
-    QCOMPARE(f.ask(), true);
+    QCOMPARE(session.ask(), true);
 }
 
 void CalendarPermissionTest::ask_noStore_isKeptInAFile_data()
@@ -130,58 +132,58 @@ void CalendarPermissionTest::ask_noStore_isKeptInAFile()
     QFETCH(const uint, response);
     QFETCH(const QByteArray, word);
     QFETCH(const CalendarAuthorization, kept);
-    PermissionDesk f;
-    f.startBus({});
-    f.dialog->response = response;
-    QVERIFY(f.dialog->start(f.address()));
+    PermissionDesk session;
+    session.startBus({});
+    session.dialog->response = response;
+    QVERIFY(session.dialog->start(session.address()));
 
-    QCOMPARE(f.ask(), response == 0);
+    QCOMPARE(session.ask(), response == 0);
 
     const auto written = [] {
         QFile file(consentFile());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     };
     QTRY_COMPARE(written(), word);
-    f.startAgain();
-    QCOMPARE(f.read(), kept);
+    session.startAgain();
+    QCOMPARE(session.read(), kept);
 }
 
 void CalendarPermissionTest::ask_storeThatCannotStart_isKeptInAFile()
 {
-    PermissionDesk f;
-    f.desk.makeServiceThatNeverComes(CalendarDesk::PermissionStore);
-    f.desk.startBus({}, 200);
-    f.startAgain();
+    PermissionDesk session;
+    session.desk.makeServiceThatNeverComes(CalendarDesk::PermissionStore);
+    session.desk.startBus({}, 200);
+    session.startAgain();
 
-    QCOMPARE(f.ask(), true);
+    QCOMPARE(session.ask(), true);
 
     QTRY_VERIFY(QFile::exists(consentFile()));
-    QCOMPARE(f.read(), CalendarAuthorization::FullAccess);
+    QCOMPARE(session.read(), CalendarAuthorization::FullAccess);
 }
 
 void CalendarPermissionTest::ask_noBus_isKeptInAFile()
 {
-    PermissionDesk f;
-    f.permission = std::make_unique<CalendarPermission>(QDBusConnection(u"none"_s));
-    QCOMPARE(f.read(), CalendarAuthorization::NotDetermined);
+    PermissionDesk session;
+    session.permission = std::make_unique<CalendarPermission>(QDBusConnection(u"none"_s));
+    QCOMPARE(session.read(), CalendarAuthorization::NotDetermined);
 
-    QCOMPARE(f.ask(), true);
+    QCOMPARE(session.ask(), true);
 
-    QTRY_COMPARE(f.read(), CalendarAuthorization::FullAccess);
+    QTRY_COMPARE(session.read(), CalendarAuthorization::FullAccess);
 }
 
 void CalendarPermissionTest::deletedPermission_isUndecided()
 {
-    PermissionDesk f;
-    f.startBus();
-    f.dialog->response = 1;
-    QVERIFY(f.dialog->start(f.address()));
-    QCOMPARE(f.ask(), false);
-    QCOMPARE(f.read(), CalendarAuthorization::Denied);
+    PermissionDesk session;
+    session.startBus();
+    session.dialog->response = 1;
+    QVERIFY(session.dialog->start(session.address()));
+    QCOMPARE(session.ask(), false);
+    QCOMPARE(session.read(), CalendarAuthorization::Denied);
 
     // What the README tells those who change their mind.
     QProcess undo;
-    undo.setProcessEnvironment(f.desk.environment);
+    undo.setProcessEnvironment(session.desk.environment);
     undo.start(u"gdbus"_s,
                {u"call"_s, u"--session"_s, u"--dest"_s, CalendarDesk::PermissionStore,
                 u"--object-path"_s, u"/org/freedesktop/impl/portal/PermissionStore"_s,
@@ -190,7 +192,7 @@ void CalendarPermissionTest::deletedPermission_isUndecided()
     QVERIFY(undo.waitForFinished());
     QCOMPARE(undo.readAllStandardError(), QByteArray());
 
-    QCOMPARE(f.read(), CalendarAuthorization::NotDetermined);
+    QCOMPARE(session.read(), CalendarAuthorization::NotDetermined);
 }
 
 QTEST_GUILESS_MAIN(CalendarPermissionTest)

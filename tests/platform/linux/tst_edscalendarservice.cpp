@@ -7,6 +7,23 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// With one calendar, which has been read.
+struct ReadDesk : CalendarDesk {
+    QStringList shown;
+
+    ReadDesk()
+    {
+        makeCalendar(u"work"_s, Call);
+        startBus();
+        startGranted();
+        shown = read(Monday);
+    }
+};
+
+} // namespace
+
 /// A service of the calendars that dies, hangs or is missing.
 class EdsCalendarServiceTest : public QObject {
     Q_OBJECT
@@ -26,11 +43,8 @@ private Q_SLOTS:
 
 void EdsCalendarServiceTest::killedService_isStartedAgain()
 {
-    CalendarDesk desk;
-    desk.makeCalendar(u"work"_s, Call);
-    desk.startBus();
-    desk.startGranted();
-    QCOMPARE(desk.read(Monday), ShownCall);
+    ReadDesk desk;
+    QCOMPARE(desk.shown, ShownCall);
     const auto before = desk.changes();
 
     desk.signalTo(CalendarDesk::Processes, SIGKILL);
@@ -63,11 +77,8 @@ void EdsCalendarServiceTest::serviceKilledOften_isStartedAgainSoon()
 
 void EdsCalendarServiceTest::serviceKilledWhileItReads_leavesWhatWasRead()
 {
-    CalendarDesk desk;
-    desk.makeCalendar(u"work"_s, Call);
-    desk.startBus();
-    desk.startGranted();
-    QCOMPARE(desk.read(Monday), ShownCall);
+    ReadDesk desk;
+    QCOMPARE(desk.shown, ShownCall);
 
     desk.signalTo(CalendarDesk::Processes, SIGSTOP);
     desk.send({u"read"_s, u"2026-03-02"_s});
@@ -79,11 +90,8 @@ void EdsCalendarServiceTest::serviceKilledWhileItReads_leavesWhatWasRead()
 
 void EdsCalendarServiceTest::hungService_holdsUpNothing()
 {
-    CalendarDesk desk;
-    desk.makeCalendar(u"work"_s, Call);
-    desk.startBus();
-    desk.startGranted();
-    QCOMPARE(desk.read(Monday), ShownCall);
+    ReadDesk desk;
+    QCOMPARE(desk.shown, ShownCall);
 
     desk.signalTo(CalendarDesk::Processes, SIGSTOP);
     desk.send({u"read"_s, u"2026-03-03"_s});
@@ -167,11 +175,8 @@ void EdsCalendarServiceTest::noPlugin_isEmpty()
 
 void EdsCalendarServiceTest::deadBus_isSurvived()
 {
-    CalendarDesk desk;
-    desk.makeCalendar(u"work"_s, Call);
-    desk.startBus();
-    desk.startGranted();
-    QCOMPARE(desk.read(Monday), ShownCall);
+    ReadDesk desk;
+    QCOMPARE(desk.shown, ShownCall);
 
     desk.killBus();
 
