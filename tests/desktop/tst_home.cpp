@@ -1,5 +1,6 @@
 #include "desk.h"
 
+#include "support/sendsignal.h"
 #include "support/soundfile.h"
 #include "support/writefile.h"
 
@@ -130,7 +131,7 @@ void HomeTest::hungPlayer_freezesNothing()
     const auto player = startPlayer(desk);
     QTRY_COMPARE_WITH_TIMEOUT(playbackOf(desk), u"Playing"_s, 15'000);
     const auto quib = desk.startQuib();
-    ::kill(pid_t(player->processId()), SIGSTOP);
+    sendSignal(player->processId(), SIGSTOP);
 
     desk.openWithPointer();
 
@@ -140,7 +141,7 @@ void HomeTest::hungPlayer_freezesNothing()
     QCOMPARE(desk.selectedTab(), LinksTab);
     desk.moveTo(Desk::FarAway);
     QVERIFY(desk.waitForExpanded(false));
-    ::kill(pid_t(player->processId()), SIGCONT);
+    sendSignal(player->processId(), SIGCONT);
 }
 
 void HomeTest::calendar_isConnectedAndShown()

@@ -1,4 +1,5 @@
 #include "desk.h"
+#include "support/sendsignal.h"
 
 #include <QDir>
 #include <QTest>
@@ -45,7 +46,7 @@ void addTask(const Desk& desk, const QString& title)
 
 void end(QProcess& quib, int signal)
 {
-    ::kill(static_cast<pid_t>(quib.processId()), signal);
+    sendSignal(quib.processId(), signal);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "desk.h"
+#include "support/sendsignal.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -78,7 +79,7 @@ bool isGrey(const QColor& color)
 
 void quitInOrder(QProcess& quib)
 {
-    ::kill(static_cast<pid_t>(quib.processId()), SIGTERM);
+    sendSignal(quib.processId(), SIGTERM);
     QVERIFY(quib.waitForFinished());
 }
 

@@ -1,5 +1,6 @@
 #include "platform/linux/calendardesk.h"
 
+#include "support/sendsignal.h"
 #include "support/writefile.h"
 
 #include <QDBusConnectionInterface>
@@ -66,7 +67,7 @@ CalendarDesk::CalendarDesk()
 CalendarDesk::~CalendarDesk()
 {
     for (const auto pid : m_signalled) {
-        ::kill(pid_t(pid), SIGCONT);
+        sendSignal(pid, SIGCONT);
     }
     m_program.kill();
     m_program.waitForFinished();
@@ -153,7 +154,7 @@ void CalendarDesk::signalTo(const QStringList& prefixes, int signal)
         if (std::ranges::any_of(prefixes,
                                 [&](const auto& start) { return name.startsWith(start); })) {
             const uint pid = bus().interface()->servicePid(name);
-            ::kill(pid_t(pid), signal);
+            sendSignal(pid, signal);
             m_signalled << pid;
         }
     }

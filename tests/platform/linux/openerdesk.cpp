@@ -1,5 +1,6 @@
 #include "platform/linux/openerdesk.h"
 
+#include "support/sendsignal.h"
 #include "support/writefile.h"
 
 #include <QDir>
@@ -50,7 +51,7 @@ OpenerDesk::~OpenerDesk()
     const auto all = records();
     for (const auto& record : all) {
         if (environment.contains(u"QUIB_STAYS"_s)) {
-            ::kill(pid_t(record.value(u"pid"_s).toInt()), SIGKILL);
+            sendSignal(record.value(u"pid"_s).toInt(), SIGKILL);
         }
     }
     kill();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/sendsignal.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QProcess>
@@ -28,8 +30,8 @@ public:
     WatcherProcess(const WatcherProcess&) = delete;
     WatcherProcess& operator=(const WatcherProcess&) = delete;
 
-    void hang() const { kill(pid_t(m_process.processId()), SIGSTOP); }
-    void goOn() const { kill(pid_t(m_process.processId()), SIGCONT); }
+    void hang() const { sendSignal(m_process.processId(), SIGSTOP); }
+    void goOn() const { sendSignal(m_process.processId(), SIGCONT); }
 
     void die()
     {

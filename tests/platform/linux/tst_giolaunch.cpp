@@ -1,5 +1,6 @@
 #include "platform/linux/hungfile.h"
 #include "platform/linux/openerdesk.h"
+#include "support/sendsignal.h"
 
 #include <QDir>
 #include <QFile>
@@ -202,7 +203,7 @@ void GioLaunchTest::hungApplicationOnTheBus_blocksNothing()
     const auto hung = desk.install(name, u"%f"_s, u"DBusActivatable=true"_s);
     const auto entry = desk.install(u"player"_s);
     const auto service = desk.startService(name);
-    kill(pid_t(service->processId()), SIGSTOP);
+    sendSignal(service->processId(), SIGSTOP);
     desk.start();
 
     QVERIFY(desk.ask({u"openPath"_s, hung}));

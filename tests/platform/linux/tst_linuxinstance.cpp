@@ -1,4 +1,5 @@
 #include "platform/linux/instancename.h"
+#include "support/sendsignal.h"
 
 #include <QDir>
 #include <QFile>
@@ -39,7 +40,7 @@ public:
         return m_told.count("activated");
     }
 
-    void hang() const { kill(pid_t(m_process.processId()), SIGSTOP); }
+    void hang() const { sendSignal(m_process.processId(), SIGSTOP); }
 
     void crash()
     {

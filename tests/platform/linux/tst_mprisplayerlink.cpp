@@ -1,6 +1,7 @@
 #include "platform/linux/fakeplayer.h"
 #include "platform/linux/mprisplayerlink.h"
 #include "support/playerreply.h"
+#include "support/sendsignal.h"
 
 #include <QProcess>
 #include <QSignalSpy>
@@ -58,12 +59,12 @@ void MprisPlayerLinkTest::query_hungPlayer_keepsNobodyWaiting()
     Texts answers;
     const auto note = [&answers](const QString& reply) { answers << reply; };
 
-    kill(pid_t(process.processId()), SIGSTOP);
+    sendSignal(process.processId(), SIGSTOP);
     link.query(Player::Spotify, note);
     link.send(Player::Spotify, u"playpause"_s);
     link.query(Player::Music, note);
     QTRY_COMPARE(answers.size(), 2);
-    kill(pid_t(process.processId()), SIGCONT);
+    sendSignal(process.processId(), SIGCONT);
 
     const auto playing = u"So What||Miles Davis, Bill Evans||playing"_s;
     QCOMPARE(answers, (Texts{playing, QString()}));
@@ -82,7 +83,7 @@ void MprisPlayerLinkTest::query_playerDies_givesNothing()
 
     Texts answers;
 
-    kill(pid_t(process.processId()), SIGSTOP);
+    sendSignal(process.processId(), SIGSTOP);
     link.query(Player::Spotify, [&answers](const QString& reply) { answers << reply; });
     process.kill();
 

@@ -1,5 +1,6 @@
 #include "platform/linux/pickerdesk.h"
 #include "platform/linux/x11/runningprogram.h"
+#include "support/sendsignal.h"
 
 #include <QProcess>
 #include <QScreen>
@@ -147,7 +148,7 @@ void PickerProgramTest::killedProgram_endsTheChoice()
     PickerDesk desk;
     desk.chooseFolder(desk.path({}));
 
-    kill(desk.processOfWindow(), SIGKILL);
+    sendSignal(desk.processOfWindow(), SIGKILL);
 
     QTRY_COMPARE(desk.chosen(), QStringList{QString()});
 }

@@ -1,4 +1,5 @@
 #include "platform/linux/quitsignals.h"
+#include "support/sendsignal.h"
 
 #include <QProcess>
 #include <QTest>
@@ -90,7 +91,7 @@ void QuitSignalsTest::signal_endsTheProgramInOrder()
     QFETCH(const int, signal);
     startProgram();
 
-    kill(pid_t(m_program->processId()), signal);
+    sendSignal(m_program->processId(), signal);
 
     QCOMPARE(told(), "about to quit\nended\n");
     QCOMPARE(m_program->exitStatus(), QProcess::NormalExit);

@@ -1,5 +1,6 @@
 #include "platform/linux/mprisplayerlink.h"
 #include "support/playerreply.h"
+#include "support/sendsignal.h"
 #include "support/soundfile.h"
 
 #include <QDBusConnectionInterface>
@@ -147,7 +148,7 @@ void RealPlayerTest::quits_runsNoMore()
     const auto pid = play({makeFile(u"1.wav"_s, "So What", "Miles Davis")});
     QTRY_COMPARE(reply(), SoWhat);
 
-    kill(pid_t(pid), SIGTERM);
+    sendSignal(pid, SIGTERM);
 
     QTRY_VERIFY(!m_link->isRunning(Player::Music));
     QCOMPARE(reply(), QString());
@@ -158,10 +159,10 @@ void RealPlayerTest::hung_givesNothingUntilItGoesOn()
     const auto pid = play({makeFile(u"1.wav"_s, "So What", "Miles Davis")});
     QTRY_COMPARE(reply(), SoWhat);
 
-    kill(pid_t(pid), SIGSTOP);
+    sendSignal(pid, SIGSTOP);
     QCOMPARE(reply(), QString());
     QVERIFY(m_link->isRunning(Player::Music));
-    kill(pid_t(pid), SIGCONT);
+    sendSignal(pid, SIGCONT);
 
     QTRY_COMPARE(reply(), SoWhat);
 }
@@ -177,7 +178,7 @@ void RealPlayerTest::two_theFirstIsKeptWhileItRuns()
     QTRY_VERIFY(bus.interface()->isServiceRegistered(second));
 
     QCOMPARE(reply(), SoWhat);
-    kill(pid_t(first), SIGKILL);
+    sendSignal(first, SIGKILL);
 
     QTRY_COMPARE(reply(), BlueInGreen);
 }

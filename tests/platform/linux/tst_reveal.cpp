@@ -1,4 +1,5 @@
 #include "platform/linux/openerdesk.h"
+#include "support/sendsignal.h"
 
 #include <QTest>
 #include <QUrl>
@@ -129,7 +130,7 @@ void RevealTest::reveal_fileManagerCrashes_opensTheFolder()
 {
     m_desk->startBus();
     m_fileManager = m_desk->startService(FileManager);
-    kill(pid_t(m_fileManager->processId()), SIGSTOP);
+    sendSignal(m_fileManager->processId(), SIGSTOP);
     m_desk->start();
     QVERIFY(m_desk->ask({u"reveal"_s, m_file}));
 
@@ -142,12 +143,12 @@ void RevealTest::reveal_hungFileManager_blocksNothing()
 {
     m_desk->startBus();
     m_fileManager = m_desk->startService(FileManager);
-    kill(pid_t(m_fileManager->processId()), SIGSTOP);
+    sendSignal(m_fileManager->processId(), SIGSTOP);
     m_desk->start();
 
     QVERIFY(m_desk->ask({u"reveal"_s, m_file}));
     endAfter({});
-    kill(pid_t(m_fileManager->processId()), SIGCONT);
+    sendSignal(m_fileManager->processId(), SIGCONT);
 
     QTRY_VERIFY(m_fileManager->canReadLine());
     QCOMPARE(m_fileManager->readLine(), shown(m_file));
@@ -160,11 +161,11 @@ void RevealTest::reveal_fileManagerFailsLate_opensNothing()
     m_desk->startBus();
     m_desk->environment.insert(u"QUIB_IMPATIENT"_s, u"1"_s); // Every answer is late.
     m_fileManager = m_desk->startService(FileManager, {u"refuse"_s});
-    kill(pid_t(m_fileManager->processId()), SIGSTOP);
+    sendSignal(m_fileManager->processId(), SIGSTOP);
     m_desk->start();
     QVERIFY(m_desk->ask({u"reveal"_s, m_file}));
 
-    kill(pid_t(m_fileManager->processId()), SIGCONT);
+    sendSignal(m_fileManager->processId(), SIGCONT);
 
     QTRY_VERIFY(m_fileManager->canReadLine());
     endAfter({});
