@@ -77,12 +77,14 @@ void MenuServiceTest::listen()
         QVERIFY(m_item->host().connect(m_item->name(), u"/MenuBar"_s, u"com.canonical.dbusmenu"_s,
                                        name, this, SLOT(hear(QDBusMessage))));
     }
+    m_item->finishReading(); // The bus has learned of it by then.
 }
 
 /// The names of the signals that came so far.
 QStringList MenuServiceTest::heard() const
 {
     m_item->finishReading(); // The signals come before the answer.
+    QCoreApplication::sendPostedEvents();
     QStringList names;
     std::ranges::transform(m_heard, std::back_inserter(names), &QDBusMessage::member);
     return names;
