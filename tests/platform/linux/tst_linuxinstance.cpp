@@ -1,10 +1,8 @@
-#include "platform/linux/instancename.h"
 #include "support/sendsignal.h"
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -13,7 +11,6 @@
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
-using namespace quib;
 
 namespace {
 
@@ -76,9 +73,6 @@ private Q_SLOTS:
     void claim_noRuntimeFolder_activatesTheFirst();
     void claim_folderOfOthersInTheWay_isAlone();
     void bus_activatesAsDesktopsDo();
-    void instanceName_isPlainForTheUsersOwnFolder();
-    void instanceName_otherFolder_isAValidBusName();
-    void instanceName_isTheSameHoweverThePathIsSpelt();
 
 private:
     static void withAndWithoutBus();
@@ -263,38 +257,6 @@ void LinuxInstanceTest::bus_activatesAsDesktopsDo()
     QTRY_COMPARE(first.activations(), 2);
     QCOMPARE(call(u"ActivateAction"_s, {u"open"_s, u"[]"_s, u"{}"_s}), 0);
     QTRY_COMPARE(first.activations(), 3);
-}
-
-void LinuxInstanceTest::instanceName_isPlainForTheUsersOwnFolder()
-{
-    qputenv("XDG_DATA_HOME", QFile::encodeName(folder(u"data"_s)));
-
-    const auto name = instanceName(folder(u"data/KorvelQuib"_s));
-
-    qunsetenv("XDG_DATA_HOME");
-    QCOMPARE(name, u"org.korvel.Quib"_s);
-}
-
-void LinuxInstanceTest::instanceName_otherFolder_isAValidBusName()
-{
-    const auto name = instanceName(folder(u"wörk & play"_s));
-
-    QVERIFY2(QRegularExpression(u"^org\\.korvel\\.Quib\\.d[0-9a-f]{16}$"_s).match(name).hasMatch(),
-             qPrintable(name));
-    QCOMPARE(objectPath(name), u"/org/korvel/Quib/"_s + name.section(u'.', 3));
-}
-
-void LinuxInstanceTest::instanceName_isTheSameHoweverThePathIsSpelt()
-{
-    QVERIFY(QDir(m_folder->path()).mkdir(u"real"_s));
-    QVERIFY(QFile::link(folder(u"real"_s), folder(u"link"_s)));
-    const auto name = instanceName(folder(u"real/new"_s));
-
-    QCOMPARE(instanceName(folder(u"real/new/"_s)), name);
-    QCOMPARE(instanceName(folder(u"real/../real//new"_s)), name);
-    QCOMPARE(instanceName(folder(u"link/new"_s)), name);
-    QCOMPARE(instanceName(QDir::current().relativeFilePath(folder(u"real/new"_s))), name);
-    QVERIFY(instanceName(folder(u"real/newer"_s)) != name);
 }
 
 QTEST_GUILESS_MAIN(LinuxInstanceTest)
