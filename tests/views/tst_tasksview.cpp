@@ -25,14 +25,6 @@ private Q_SLOTS:
     void chips_areThoseOfClientsWithTasks();
     void chip_filtersAndStaysSelected();
     void lastTaskOfTheFilteredClientCleared_leavesTheFilterSet();
-    void circle_ticksOffAndMovesTheRow();
-    void circle_doubleClicked_ticksOffOneTask();
-    void delete_doubleClicked_deletesOneTask();
-    void changeOfOneTask_keepsTheOtherRows();
-    void hoveredRow_showsItsButton();
-    void deleting_takesOneClick();
-    void clearDone_clearsTheDoneOnes();
-    void deletedClient_takesItsTagAway();
     void picker_drawsAGoneClientAsNone();
     void pickerMenu_choosesAndTakesBack();
     void names_tellWhatPressingDoes();
@@ -151,110 +143,6 @@ void TasksViewTest::lastTaskOfTheFilteredClientCleared_leavesTheFilterSet()
     QCOMPARE(m_tab->shownTitles(), QStringList());
     QCOMPARE(m_tab->item(u"tasksView"_s)->property("filter").toUuid(), cafe);
     QVERIFY(m_tab->item(u"nothing"_s)->isVisible());
-}
-
-void TasksViewTest::circle_doubleClicked_ticksOffOneTask()
-{
-    m_tab->workspace.task(u"first"_s);
-    m_tab->workspace.task(u"second"_s);
-    m_tab->workspace.task(u"third"_s);
-
-    m_tab->doubleClick(m_tab->part(0, u"tick"_s));
-
-    QCOMPARE(std::ranges::count_if(m_tab->store().data().tasks, &quib::TaskItem::done), 1);
-}
-
-void TasksViewTest::delete_doubleClicked_deletesOneTask()
-{
-    m_tab->workspace.task(u"first"_s);
-    m_tab->workspace.task(u"second"_s);
-    m_tab->workspace.task(u"third"_s);
-    m_tab->move(m_tab->part(0, u"title"_s));
-
-    m_tab->doubleClick(m_tab->part(0, u"remove"_s));
-
-    QCOMPARE(m_tab->store().data().tasks.size(), 2);
-}
-
-void TasksViewTest::circle_ticksOffAndMovesTheRow()
-{
-    m_tab->workspace.task(u"first"_s);
-    m_tab->workspace.task(u"second"_s);
-    m_tab->workspace.task(u"third"_s, {}, true);
-
-    m_tab->click(m_tab->part(0, u"tick"_s));
-
-    QVERIFY(m_tab->store().data().tasks.front().done);
-    QCOMPARE(m_tab->shownTitles(), (QStringList{u"second"_s, u"first"_s, u"third"_s}));
-}
-
-void TasksViewTest::changeOfOneTask_keepsTheOtherRows()
-{
-    const auto first = m_tab->workspace.task(u"first"_s);
-    m_tab->workspace.task(u"second"_s);
-    auto* firstRow = m_tab->row(0);
-    auto* secondRow = m_tab->row(1);
-
-    m_tab->store().toggleTask(first);
-    m_tab->store().addTask(u"new"_s, {});
-
-    QCOMPARE(m_tab->row(1), secondRow);
-    QCOMPARE(m_tab->row(2), firstRow);
-}
-
-void TasksViewTest::hoveredRow_showsItsButton()
-{
-    m_tab->workspace.task(u"first"_s);
-    m_tab->workspace.task(u"second"_s);
-    auto* remove = m_tab->part(0, u"remove"_s);
-    QVERIFY(!remove->isVisible());
-
-    m_tab->move(m_tab->part(0, u"title"_s));
-    QTRY_VERIFY(remove->isVisible());
-    QCOMPARE(textOf(remove, "symbol"), u"xmark"_s);
-    QCOMPARE(numberOf(remove, "size"), 9.0);
-    QCOMPARE(remove->size(), QSizeF(23, 23));
-    m_tab->move(m_tab->row(1));
-
-    QTRY_VERIFY(!remove->isVisible());
-}
-
-void TasksViewTest::deleting_takesOneClick()
-{
-    m_tab->workspace.task(u"first"_s);
-    m_tab->workspace.task(u"second"_s);
-    m_tab->move(m_tab->part(0, u"title"_s));
-    QTRY_VERIFY(m_tab->part(0, u"remove"_s)->isVisible());
-
-    m_tab->click(m_tab->part(0, u"remove"_s));
-
-    QCOMPARE(m_tab->shownTitles(), QStringList{u"second"_s});
-}
-
-void TasksViewTest::clearDone_clearsTheDoneOnes()
-{
-    m_tab->workspace.task(u"open"_s);
-    m_tab->workspace.task(u"done"_s, {}, true);
-    const auto* text = m_tab->item(u"clearDone"_s)->property("contentItem").value<QQuickItem*>();
-    QCOMPARE(textOf(text), u"Clear 1 done"_s);
-    QCOMPARE(numberOf(text, "size"), 10.5);
-    QCOMPARE(colorOf(text), Brand::muted2());
-
-    m_tab->click(m_tab->item(u"clearDone"_s));
-
-    QCOMPARE(m_tab->shownTitles(), QStringList{u"open"_s});
-    QVERIFY(!m_tab->item(u"clearDone"_s)->isVisible());
-}
-
-void TasksViewTest::deletedClient_takesItsTagAway()
-{
-    const auto cafe = m_tab->workspace.client(u"Café"_s);
-    m_tab->workspace.task(u"Call"_s, cafe);
-    QVERIFY(m_tab->part(0, u"tag"_s)->isVisible());
-
-    m_tab->store().deleteClient(cafe);
-
-    QVERIFY(!m_tab->part(0, u"tag"_s)->isVisible());
 }
 
 void TasksViewTest::picker_drawsAGoneClientAsNone()
