@@ -6,6 +6,23 @@
 using namespace Qt::StringLiterals;
 using namespace quib;
 
+namespace {
+
+/// With a dialog that stays open once it is asked.
+struct AskingDesk : PermissionDesk {
+    std::optional<bool> answer;
+
+    AskingDesk()
+    {
+        startBus();
+        dialog->staysOpen = true;
+        [[maybe_unused]] const bool isThere = dialog->start(address());
+        permission->ask([this](bool isGranted) { answer = isGranted; });
+    }
+};
+
+} // namespace
+
 /// Who is asked for the word: the dialog of the desktop, or nobody.
 class CalendarDialogTest : public QObject {
     Q_OBJECT
@@ -142,33 +159,23 @@ void CalendarDialogTest::ask_desktopWithAStrangeName_isTheConsent()
 
 void CalendarDialogTest::ask_dialogCrashes_isNotGranted()
 {
-    PermissionDesk session;
-    session.startBus();
-    session.dialog->staysOpen = true;
-    QVERIFY(session.dialog->start(session.address()));
-    std::optional<bool> answer;
-    session.permission->ask([&answer](bool isGranted) { answer = isGranted; });
+    AskingDesk session;
     QTRY_COMPARE(session.dialog->shownFor.size(), 1);
 
     session.dialog.reset();
 
-    QTRY_COMPARE(answer, false);
+    QTRY_COMPARE(session.answer, false);
     QCOMPARE(session.read(), CalendarAuthorization::NotDetermined);
 }
 
 void CalendarDialogTest::ask_busDies_isNotGranted()
 {
-    PermissionDesk session;
-    session.startBus();
-    session.dialog->staysOpen = true;
-    QVERIFY(session.dialog->start(session.address()));
-    std::optional<bool> answer;
-    session.permission->ask([&answer](bool isGranted) { answer = isGranted; });
+    AskingDesk session;
     QTRY_COMPARE(session.dialog->shownFor.size(), 1);
 
     session.desk.killBus();
 
-    QTRY_COMPARE(answer, false);
+    QTRY_COMPARE(session.answer, false);
     QVERIFY(!QFile::exists(consentFile()));
 }
 
