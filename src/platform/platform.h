@@ -10,6 +10,7 @@
 #include "app/notch/statusitem.h"
 #include "integrations/appcatalog.h"
 #include "integrations/calendarstore.h"
+#include "integrations/fileprobe.h"
 #include "integrations/iconsource.h"
 #include "integrations/opener.h"
 #include "integrations/playerlink.h"
@@ -30,6 +31,7 @@ struct Platform {
     std::unique_ptr<PlayerLink> player;
     std::unique_ptr<CalendarStore> calendar;
     std::unique_ptr<IconSource> icons;
+    std::unique_ptr<FileProbe> files;
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<FilePicker> filePicker;
@@ -44,7 +46,7 @@ bool hasDisplay();
 /// QGuiApplication on that desktop.
 Platform makePlatform();
 
-/// What remains where nothing is shown: from `desktop` to `icons`; the rest is null.
+/// What remains where nothing is shown: from `desktop` to `files`; the rest is null.
 Platform makePlatformWithoutDisplay();
 
 } // namespace quib

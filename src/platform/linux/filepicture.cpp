@@ -59,13 +59,13 @@ QStringList namesFor(const QFileInfo& file)
     if (file.isDir()) {
         return {file.fileName().endsWith(".app"_L1) ? executable : u"folder"_s};
     }
-    if (!file.isFile()) {
+    if (file.exists() && !file.isFile()) {
         return {};
     }
     if (file.fileName().endsWith(".desktop"_L1)) {
         return {executable};
     }
-    const auto kind = kindOf(file);
+    const auto kind = kindOf(file); // Of one that is gone the name may tell.
     return {kind.iconName(), kind.genericIconName(), u"text-x-generic"_s};
 }
 

@@ -1,6 +1,7 @@
 #include "platform/platform.h"
 
 #include "platform/linux/autostartentry.h"
+#include "platform/linux/diskprobe.h"
 #include "platform/linux/edscalendarstore.h"
 #include "platform/linux/gioappcatalog.h"
 #include "platform/linux/gioopener.h"
@@ -51,7 +52,8 @@ Platform makePlatformWithoutDisplay()
             .opener = std::make_unique<GioOpener>(),
             .player = std::make_unique<MprisPlayerLink>(),
             .calendar = std::make_unique<EdsCalendarStore>(),
-            .icons = std::move(icons)};
+            .icons = std::move(icons),
+            .files = std::make_unique<DiskProbe>()};
 }
 
 } // namespace quib

@@ -1,16 +1,7 @@
 #include "platform/linux/themeiconsource.h"
 
-#include "platform/linux/startdetached.h"
-
-#include <QCoreApplication>
-#include <QEvent>
-#include <QTimer>
-
-#include <condition_variable>
-#include <functional>
-#include <mutex>
+#include <memory>
 #include <utility>
-#include <vector>
 
 using namespace std::chrono_literals;
 
@@ -19,71 +10,15 @@ namespace quib {
 namespace {
 
 constexpr int LargestPicture = 1024;
-constexpr qsizetype MostAtOnce = 2;
-constexpr qsizetype MostHung = 8; // With so many nothing more is tried.
 constexpr qsizetype MostKept = 500;
 constexpr auto KeptFor = 60s; // Applications come and go.
-constexpr auto LongestFarewell = 200ms;
 
 } // namespace
 
-/// How a thread reaches the source for as long as there is one.
-class ThemeIconSource::Letterbox {
-public:
-    explicit Letterbox(ThemeIconSource& owner)
-        : m_owner(&owner)
-    {
-    }
-
-    void expect()
-    {
-        const std::scoped_lock lock(m_mutex);
-        ++m_expected;
-    }
-
-    void post(std::function<void()> letter)
-    {
-        const std::scoped_lock lock(m_mutex);
-        --m_expected;
-        m_letters.push_back(std::move(letter));
-        if (m_owner) {
-            QCoreApplication::postEvent(m_owner, new QEvent(QEvent::User)); // Which Qt takes.
-        }
-        m_posted.notify_all();
-    }
-
-    std::vector<std::function<void()>> take()
-    {
-        const std::scoped_lock lock(m_mutex);
-        return std::exchange(m_letters, {});
-    }
-
-    /// Lets those that are about to end do so: the program may be ending around them.
-    void close(qsizetype hung)
-    {
-        std::unique_lock lock(m_mutex);
-        m_owner = nullptr;
-        m_posted.wait_for(lock, LongestFarewell, [&] { return m_expected <= hung; });
-    }
-
-private:
-    std::mutex m_mutex;
-    std::condition_variable m_posted;
-    ThemeIconSource* m_owner;
-    std::vector<std::function<void()>> m_letters;
-    qsizetype m_expected = 0;
-};
-
 ThemeIconSource::ThemeIconSource(std::chrono::milliseconds patience)
-    : m_patience(patience)
-    , m_letterbox(std::make_shared<Letterbox>(*this))
+    : m_work({.patience = patience})
     , m_kept(MostKept)
 {
-}
-
-ThemeIconSource::~ThemeIconSource()
-{
-    m_letterbox->close(m_hung.size());
 }
 
 void ThemeIconSource::find(const QString& path, int pixels, Answer answer)
@@ -102,8 +37,7 @@ void ThemeIconSource::find(const QString& path, int pixels, Answer answer)
             Qt::QueuedConnection);
         return;
     }
-    m_queue.append(wish);
-    QMetaObject::invokeMethod(this, &ThemeIconSource::begin, Qt::QueuedConnection);
+    lookUp(wish);
 }
 
 void ThemeIconSource::setTheme(const QString& name)
@@ -114,61 +48,28 @@ void ThemeIconSource::setTheme(const QString& name)
     }
 }
 
-void ThemeIconSource::customEvent(QEvent* /*event*/)
+void ThemeIconSource::lookUp(const PictureWish& wish)
 {
-    for (const auto& letter : m_letterbox->take()) {
-        letter();
-    }
+    m_work.add(
+        {.work =
+             [this, wish] {
+                 return [this, wish, picture = pictureOf(wish)](PatientWork::Arrival arrival) {
+                     arrive(arrival, wish, picture);
+                 };
+             },
+         .giveUp = [this, wish](PatientWork::GivenUp) { answer(wish, standIn(wish.pixels)); }});
 }
 
-void ThemeIconSource::begin()
+void ThemeIconSource::arrive(PatientWork::Arrival arrival, const PictureWish& wish,
+                             const QImage& picture)
 {
-    while (!m_queue.isEmpty() && m_running.size() < MostAtOnce) {
-        const auto wish = m_queue.takeFirst();
-        if (m_hung.size() < MostHung) {
-            start(wish);
-        } else {
-            answer(wish, standIn(wish.pixels));
-        }
-    }
-}
-
-void ThemeIconSource::start(const PictureWish& wish)
-{
-    const int number = ++m_number;
-    const bool isStarted = startDetached([this, letterbox = m_letterbox, number, wish] {
-        const auto picture = pictureOf(wish);
-        letterbox->post([this, number, wish, picture] { arrive(number, wish, picture); });
-    });
-    if (!isStarted) {
-        answer(wish, standIn(wish.pixels));
-        return;
-    }
-    m_running.insert(number);
-    m_letterbox->expect();
-    QTimer::singleShot(m_patience, this, [this, number, wish] { giveUp(number, wish); });
-}
-
-void ThemeIconSource::arrive(int number, const PictureWish& wish, const QImage& picture)
-{
-    const bool wasGivenUp = m_hung.remove(number);
     auto kept = std::make_unique<Kept>(Kept{.picture = picture, .age = {}});
     kept->age.start();
     m_kept.insert(wish, kept.release()); // The cache takes it.
-    if (m_running.remove(number)) {
+    if (arrival == PatientWork::Arrival::InTime) {
         answer(wish, picture);
-    } else if (wasGivenUp && picture != standIn(wish.pixels)) {
+    } else if (picture != standIn(wish.pixels)) {
         Q_EMIT changed();
-    }
-    begin();
-}
-
-void ThemeIconSource::giveUp(int number, const PictureWish& wish)
-{
-    if (m_running.remove(number)) {
-        m_hung.insert(number);
-        answer(wish, standIn(wish.pixels));
-        begin();
     }
 }
 

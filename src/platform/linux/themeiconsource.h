@@ -2,14 +2,13 @@
 
 #include "integrations/iconsource.h"
 #include "platform/linux/filepicture.h"
+#include "platform/linux/patientwork.h"
 
 #include <QCache>
 #include <QElapsedTimer>
 #include <QHash>
-#include <QSet>
 
 #include <chrono>
-#include <memory>
 
 namespace quib {
 
@@ -23,7 +22,6 @@ public:
     static constexpr auto Patience = std::chrono::seconds(1);
 
     explicit ThemeIconSource(std::chrono::milliseconds patience = Patience);
-    ~ThemeIconSource() override;
 
     void find(const QString& path, int pixels, Answer answer) override;
     bool isBusy() const override { return !m_waiting.isEmpty(); }
@@ -31,32 +29,19 @@ public:
     /// The theme of the user's choice. One that is not installed counts as none.
     void setTheme(const QString& name);
 
-protected:
-    /// Threads have posted their answers.
-    void customEvent(QEvent* event) override;
-
 private:
-    class Letterbox;
-
     struct Kept {
         QImage picture;
         QElapsedTimer age;
     };
 
-    void begin();
-    void start(const PictureWish& wish);
-    void arrive(int number, const PictureWish& wish, const QImage& picture);
-    void giveUp(int number, const PictureWish& wish);
+    void lookUp(const PictureWish& wish);
+    void arrive(PatientWork::Arrival arrival, const PictureWish& wish, const QImage& picture);
     void answer(const PictureWish& wish, const QImage& picture);
 
-    std::chrono::milliseconds m_patience;
-    std::shared_ptr<Letterbox> m_letterbox;
+    PatientWork m_work;
     QString m_theme;
     QHash<PictureWish, QList<Answer>> m_waiting;
-    QList<PictureWish> m_queue; ///< Those of them that no thread looks up yet.
-    int m_number = 0; ///< Of the last thread.
-    QSet<int> m_running;
-    QSet<int> m_hung;
     QCache<PictureWish, Kept> m_kept;
 };
 
