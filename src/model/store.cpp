@@ -3,9 +3,8 @@
 #include "model/atomicfile.h"
 #include "model/datafile.h"
 #include "model/datafolder.h"
+#include "model/fileaddress.h"
 #include "model/sampledata.h"
-
-#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -31,12 +30,6 @@ qsizetype rowOf(const QList<Record>& records, const QUuid& id)
 {
     const auto found = std::ranges::find(records, id, &Record::id);
     return found == records.end() ? -1 : found - records.begin();
-}
-
-/// The path of a file's address, without the "/" that some programs end folders with.
-QString pathOf(const QUrl& url)
-{
-    return url.adjusted(QUrl::StripTrailingSlash).toLocalFile();
 }
 
 } // namespace
@@ -152,15 +145,14 @@ void Store::clearDoneTasks()
 
 void Store::addToShelf(const QList<QUrl>& urls)
 {
-    QSet<QString> known;
-    for (const auto& item : std::as_const(m_data.shelf)) {
-        known.insert(item.path);
-    }
+    const auto isOnIt = [this](const QString& path) {
+        const auto& shelf = std::as_const(m_data.shelf);
+        return std::ranges::find(shelf, path, &ShelfItem::path) != shelf.end();
+    };
     const auto sizeBefore = m_data.shelf.size();
     for (const auto& url : urls) {
-        const auto path = pathOf(url);
-        if (!path.isEmpty() && !known.contains(path)) {
-            known.insert(path);
+        const auto path = pathOfFile(url);
+        if (!path.isEmpty() && !isOnIt(path)) {
             m_data.shelf.prepend({.id = QUuid::createUuid(), .path = path});
         }
     }
@@ -172,6 +164,14 @@ void Store::addToShelf(const QList<QUrl>& urls)
 void Store::removeFromShelf(const QUuid& id)
 {
     if (removeAll(m_data.shelf, id)) {
+        announce(&Store::shelfChanged);
+    }
+}
+
+void Store::clearShelf()
+{
+    if (!m_data.shelf.isEmpty()) {
+        m_data.shelf.clear();
         announce(&Store::shelfChanged);
     }
 }

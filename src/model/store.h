@@ -78,6 +78,7 @@ public:
     /// Each new file goes to the front. Addresses that are no files are passed over.
     Q_INVOKABLE void addToShelf(const QList<QUrl>& urls);
     Q_INVOKABLE void removeFromShelf(const QUuid& id); ///< The file itself stays.
+    Q_INVOKABLE void clearShelf(); ///< The files themselves stay.
     /// Goes to the end.
     void addLaunchItem(const LaunchItem& item);
     Q_INVOKABLE void removeLaunchItem(const QUuid& id);

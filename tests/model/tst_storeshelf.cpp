@@ -39,6 +39,8 @@ private Q_SLOTS:
     void addToShelf_noFiles_saysNothing();
     void removeFromShelf_leavesTheFileItself();
     void removeFromShelf_unknownId_saysNothing();
+    void clearShelf_leavesTheFilesThemselves();
+    void clearShelf_nothingOnIt_saysNothing();
 };
 
 void StoreShelfTest::addToShelf_severalFiles_leavesTheLastInFront()
@@ -97,6 +99,7 @@ void StoreShelfTest::addToShelf_noFiles_saysNothing_data()
 
     QTest::addRow("nothing") << QList<QUrl>{};
     QTest::addRow("an empty address") << QList{QUrl()};
+    QTest::addRow("a name that is no text") << QList{QUrl::fromEncoded("file:///caf%E9")};
     QTest::addRow("an address of the web") << QList{QUrl(u"https://example.org/a"_s)};
 }
 
@@ -131,6 +134,30 @@ void StoreShelfTest::removeFromShelf_unknownId_saysNothing()
     f.startWith({.shelf = {{.id = idOf(1), .path = u"/a"_s}}});
 
     f.store.removeFromShelf(idOf(2));
+
+    QCOMPARE(f.announced(), QString());
+    QCOMPARE(f.hands.scheduled, 0);
+}
+
+void StoreShelfTest::clearShelf_leavesTheFilesThemselves()
+{
+    StoreFixture f;
+    f.folder.put("still here");
+    f.store.addToShelf(files({f.folder.file(), u"/a"_s}));
+
+    f.store.clearShelf();
+
+    QVERIFY(f.store.data().shelf.isEmpty());
+    QVERIFY(QFile::exists(f.folder.file()));
+    QCOMPARE(f.announced(), u"shelf shelf"_s);
+    QCOMPARE(f.hands.scheduled, 2);
+}
+
+void StoreShelfTest::clearShelf_nothingOnIt_saysNothing()
+{
+    StoreFixture f;
+
+    f.store.clearShelf();
 
     QCOMPARE(f.announced(), QString());
     QCOMPARE(f.hands.scheduled, 0);
