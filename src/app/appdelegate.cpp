@@ -46,6 +46,7 @@ ViewContext AppDelegate::viewContext()
             .shortcuts = Shortcuts::shared(),
             .actions = m_actions,
             .icons = *m_platform.icons,
+            .files = *m_platform.files,
             .commands = *this};
 }
 

@@ -50,7 +50,7 @@ public:
     void layout();
     /// One tick of the pointer poll.
     void checkHover();
-    void expand(bool toShelf);
+    void expand(bool toShelf) override;
     /// After 0.06 s, or at the next turn of the main loop. The tab stays.
     void collapse(bool immediately);
     /// Opens the panel and pins it, or it would collapse at once: the pointer is elsewhere.

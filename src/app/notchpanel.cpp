@@ -6,6 +6,7 @@
 #include "app/notch/panelhost.h"
 #include "integrations/actions.h"
 #include "integrations/calendarcontroller.h"
+#include "integrations/fileprobe.h"
 #include "integrations/iconsource.h"
 #include "integrations/mediacontroller.h"
 #include "model/store.h"
@@ -82,6 +83,7 @@ QVariantMap rootProperties(const ViewContext& context)
         {u"shortcuts"_s, QVariant::fromValue(&context.shortcuts)},
         {u"actions"_s, QVariant::fromValue(&context.actions)},
         {u"icons"_s, QVariant::fromValue(&context.icons)},
+        {u"files"_s, QVariant::fromValue(&context.files)},
         {u"commands"_s, QVariant::fromValue(&context.commands)},
     };
 }

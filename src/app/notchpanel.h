@@ -8,6 +8,7 @@ namespace quib {
 class Actions;
 class CalendarController;
 class Commands;
+class FileProbe;
 class IconSource;
 class MediaController;
 class NotchModel;
@@ -24,6 +25,7 @@ struct ViewContext {
     Shortcuts& shortcuts;
     Actions& actions;
     IconSource& icons;
+    FileProbe& files;
     Commands& commands;
 };
 

@@ -44,7 +44,8 @@ void runLoop(std::chrono::milliseconds time)
 /// Icons and events come when others have answered. Patience ends before the user's does.
 void awaitAnswers(const AppDelegate& delegate, const QDeadlineTimer& deadline)
 {
-    while ((delegate.platform().icons->isBusy() || delegate.calendar().isWaiting())
+    const auto& platform = delegate.platform();
+    while ((platform.files->isBusy() || platform.icons->isBusy() || delegate.calendar().isWaiting())
            && !deadline.hasExpired()) {
         runLoop(LookingTime);
     }

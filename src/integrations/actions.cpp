@@ -112,6 +112,13 @@ void Actions::open(const QString& target)
     }
 }
 
+void Actions::openFile(const QString& path)
+{
+    if (isPath(path) && path.startsWith(u'/')) {
+        m_opener.openPath(path);
+    }
+}
+
 void Actions::openInEditor(const QString& path)
 {
     if (isPath(path)) {

@@ -20,6 +20,8 @@ public:
 
     /// A path, with "~" for the home folder, or a web address, with or without its scheme.
     Q_INVOKABLE void open(const QString& target);
+    /// What lies at a full path, whatever its name looks like.
+    Q_INVOKABLE void openFile(const QString& path);
     /// The folder as a project in a code editor; in the file manager where none is installed.
     Q_INVOKABLE void openInEditor(const QString& path);
     /// Shows the thing selected in its folder.

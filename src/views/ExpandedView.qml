@@ -19,6 +19,7 @@ FocusScope {
     required property Shortcuts shortcuts
     required property Actions actions
     required property IconSource icons
+    required property FileProbe files
     required property Commands commands
     required property real arrival
 
@@ -124,7 +125,17 @@ FocusScope {
 
         Page {
             tab: Tab.Shelf
-            view: EmptyTab { tab: Tab.Shelf }
+
+            view: ShelfView {
+                objectName: "shelfView"
+                anchors.fill: parent
+                focus: true
+                store: root.store
+                actions: root.actions
+                icons: root.icons
+                files: root.files
+                isMotionReduced: root.model.isMotionReduced
+            }
         }
 
         Page {

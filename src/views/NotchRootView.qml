@@ -20,6 +20,7 @@ FocusScope {
     required property Shortcuts shortcuts
     required property Actions actions
     required property IconSource icons
+    required property FileProbe files
     required property Commands commands
 
     readonly property size shapeSize: root.model.isExpanded ? root.cardSize : root.collapsedSize
@@ -29,13 +30,19 @@ FocusScope {
 
     focus: true
 
+    /// What was dropped before anything opened is shown.
     function handleDrop(urls: list<url>) {
         urls.forEach(url => root.store.addToShelf([url]));
+        if (!root.model.isExpanded) {
+            root.commands.expand(true);
+        }
     }
 
-    /// Only files light the notch up.
+    /// Only files light the notch up, and not those of the shelf. What may only be moved stays where it is.
     function takeDrag(drag) {
-        drag.accepted = drag.urls.some(url => url.toString().startsWith("file:"));
+        drag.accepted = drag.urls.some(url => url.toString().startsWith("file:"))
+            && !drag.formats.includes(FileDrag.ownFormat)
+            && (drag.supportedActions & Qt.CopyAction);
         if (drag.accepted) {
             drag.accept(Qt.CopyAction);
         }
@@ -119,6 +126,7 @@ FocusScope {
                 shortcuts: root.shortcuts
                 actions: root.actions
                 icons: root.icons
+                files: root.files
                 commands: root.commands
                 arrival: spring.value
             }

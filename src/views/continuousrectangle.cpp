@@ -3,8 +3,8 @@
 #include "views/continuouspath.h"
 
 #include <QPainter>
-#include <QPen>
 
+#include <algorithm>
 #include <cmath>
 
 namespace quib {
@@ -54,6 +54,15 @@ void ContinuousRectangle::setStrokeWidth(double points)
     }
 }
 
+void ContinuousRectangle::setDashes(const QList<double>& points)
+{
+    if (m_dashes != points) {
+        m_dashes = points;
+        Q_EMIT dashesChanged();
+        redraw();
+    }
+}
+
 QBrush ContinuousRectangle::filling() const
 {
     if (!m_lowerColor.isValid()) {
@@ -63,6 +72,18 @@ QBrush ContinuousRectangle::filling() const
     gradient.setColorAt(0, m_color);
     gradient.setColorAt(1, m_lowerColor);
     return gradient;
+}
+
+QPen ContinuousRectangle::line() const
+{
+    QPen pen(m_strokeColor, m_strokeWidth);
+    if (!m_dashes.isEmpty()) {
+        auto inWidths = m_dashes;
+        std::ranges::for_each(inWidths, [this](double& length) { length /= m_strokeWidth; });
+        pen.setCapStyle(Qt::FlatCap);
+        pen.setDashPattern(inWidths);
+    }
+    return pen;
 }
 
 QImage ContinuousRectangle::picture(double pixelsPerPoint) const
@@ -85,8 +106,7 @@ QImage ContinuousRectangle::picture(double pixelsPerPoint) const
     if (isStroked) {
         const double inset = m_strokeWidth / 2;
         painter.strokePath(
-            continuousPath(shape.adjusted(inset, inset, -inset, -inset), m_radius - inset),
-            QPen(m_strokeColor, m_strokeWidth));
+            continuousPath(shape.adjusted(inset, inset, -inset, -inset), m_radius - inset), line());
     }
     return image;
 }

@@ -4,6 +4,8 @@
 
 #include <QBrush>
 #include <QColor>
+#include <QList>
+#include <QPen>
 
 #include <qqmlintegration.h>
 
@@ -20,6 +22,8 @@ class ContinuousRectangle : public quib::RasterItem { // Spelt out for the tools
     Q_PROPERTY(QColor lowerColor READ lowerColor WRITE setLowerColor NOTIFY lowerColorChanged)
     Q_PROPERTY(QColor strokeColor READ strokeColor WRITE setStrokeColor NOTIFY strokeColorChanged)
     Q_PROPERTY(double strokeWidth READ strokeWidth WRITE setStrokeWidth NOTIFY strokeWidthChanged)
+    /// Lengths that the line is drawn and left out for, in turn; without any it is whole.
+    Q_PROPERTY(QList<double> dashes READ dashes WRITE setDashes NOTIFY dashesChanged)
 
 public:
     using RasterItem::RasterItem;
@@ -29,12 +33,14 @@ public:
     QColor lowerColor() const { return m_lowerColor; } ///< Invalid where the colour stays.
     QColor strokeColor() const { return m_strokeColor; }
     double strokeWidth() const { return m_strokeWidth; }
+    QList<double> dashes() const { return m_dashes; } ///< In points, an even number of them.
 
     void setRadius(double points);
     void setColor(const QColor& color);
     void setLowerColor(const QColor& color);
     void setStrokeColor(const QColor& color);
     void setStrokeWidth(double points);
+    void setDashes(const QList<double>& points);
 
 Q_SIGNALS:
     void radiusChanged();
@@ -42,18 +48,21 @@ Q_SIGNALS:
     void lowerColorChanged();
     void strokeColorChanged();
     void strokeWidthChanged();
+    void dashesChanged();
 
 protected:
     QImage picture(double pixelsPerPoint) const override;
 
 private:
     QBrush filling() const;
+    QPen line() const;
 
     double m_radius = 0;
     QColor m_color = Qt::transparent;
     QColor m_lowerColor;
     QColor m_strokeColor = Qt::transparent;
     double m_strokeWidth = 1;
+    QList<double> m_dashes;
 };
 
 } // namespace quib

@@ -22,6 +22,7 @@ public:
 
     IconSource* source() const { return m_source; }
     QString path() const { return m_path; } ///< Full.
+    QImage image() const { return m_picture; } ///< Null while there is nothing to see.
 
     /// Borrowed: without one no new pictures come.
     void setSource(IconSource* source);

@@ -22,6 +22,9 @@ public:
     bool isShown() const { return m_isShown; }
 
     void setItem(QQuickItem* item);
+    /// To be told why the item has the focus where it had it before, as one that a list gives it
+    /// to.
+    Q_INVOKABLE void take(Qt::FocusReason reason);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -30,7 +33,6 @@ Q_SIGNALS:
     void isShownChanged();
 
 private:
-    void take(Qt::FocusReason reason);
     void show(bool isShown);
 
     QPointer<QQuickItem> m_item;

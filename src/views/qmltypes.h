@@ -2,6 +2,7 @@
 
 #include "integrations/actions.h"
 #include "integrations/calendarcontroller.h"
+#include "integrations/fileprobe.h"
 #include "integrations/iconsource.h"
 #include "integrations/mediacontroller.h"
 #include "model/store.h"
@@ -37,6 +38,13 @@ struct IconSourceType {
     Q_GADGET
     QML_FOREIGN(quib::IconSource)
     QML_NAMED_ELEMENT(IconSource)
+    QML_UNCREATABLE("Made with the platform")
+};
+
+struct FileProbeType {
+    Q_GADGET
+    QML_FOREIGN(quib::FileProbe)
+    QML_NAMED_ELEMENT(FileProbe)
     QML_UNCREATABLE("Made with the platform")
 };
 

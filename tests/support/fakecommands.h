@@ -26,6 +26,10 @@ public:
         return QStringLiteral("the application at ") + path;
     }
     void takeKeyboard() override { asked << QStringLiteral("take keyboard"); }
+    void expand(bool toShelf) override
+    {
+        asked << (toShelf ? QStringLiteral("expand to the shelf") : QStringLiteral("expand"));
+    }
     void editShortcuts() override { asked << QStringLiteral("edit shortcuts"); }
     void quit() override { asked << QStringLiteral("quit"); }
     quib::StatusMenu* menu() override { return &statusMenu; }

@@ -5,6 +5,7 @@
 #include "support/fakeplayerlink.h"
 
 #include <QHash>
+#include <QSet>
 #include <QStringList>
 
 #include <utility>
@@ -135,6 +136,37 @@ public:
     }
 };
 
+/// Everything is there, unless a test says otherwise. It may hold the answers back.
+class FakeFileProbe final : public quib::FileProbe {
+public:
+    QSet<QString> gone;
+    QSet<QString> unknown;
+    QStringList asked;
+    bool holdsBack = false;
+
+    void ask(const QString& path, Answer answer) override
+    {
+        asked << path;
+        m_due.append({path, std::move(answer)});
+        if (!holdsBack) {
+            QMetaObject::invokeMethod(this, &FakeFileProbe::answerAll, Qt::QueuedConnection);
+        }
+    }
+    bool isBusy() const override { return !m_due.isEmpty(); }
+
+    void answerAll()
+    {
+        for (const auto& [path, answer] : std::exchange(m_due, {})) {
+            answer(gone.contains(path)          ? quib::FilePresence::Gone
+                       : unknown.contains(path) ? quib::FilePresence::Unknown
+                                                : quib::FilePresence::There);
+        }
+    }
+
+private:
+    QList<std::pair<QString, Answer>> m_due;
+};
+
 class FakeStatusItem final : public quib::StatusItem {
 public:
     explicit FakeStatusItem(QStringList& asked)
@@ -206,6 +238,7 @@ struct FakeShell {
                             .player = std::make_unique<FakePlayerLink>(),
                             .calendar = std::make_unique<FakeCalendarStore>(),
                             .icons = std::make_unique<FakeIconSource>(),
+                            .files = std::make_unique<FakeFileProbe>(),
                             .statusItem = std::make_unique<FakeStatusItem>(asked),
                             .loginItem = std::make_unique<FakeLoginItem>(),
                             .filePicker = std::make_unique<FakeFilePicker>()};
@@ -219,6 +252,7 @@ struct FakeShell {
     FakePlayerLink& player = static_cast<FakePlayerLink&>(*platform.player);
     FakeCalendarStore& calendar = static_cast<FakeCalendarStore&>(*platform.calendar);
     FakeIconSource& icons = static_cast<FakeIconSource&>(*platform.icons);
+    FakeFileProbe& files = static_cast<FakeFileProbe&>(*platform.files);
     FakeStatusItem& statusItem = static_cast<FakeStatusItem&>(*platform.statusItem);
     FakeLoginItem& loginItem = static_cast<FakeLoginItem&>(*platform.loginItem);
     FakeFilePicker& filePicker = static_cast<FakeFilePicker&>(*platform.filePicker);

@@ -33,6 +33,7 @@ struct ShownPanel {
     quib::CalendarController calendar{&calendars, hands.clock(), QTimeZone::utc};
     quib::Shortcuts shortcuts;
     FakeIconSource icons;
+    FakeFileProbe files;
     FakeCommands commands;
     std::unique_ptr<quib::NotchPanel> window;
 
@@ -48,6 +49,7 @@ struct ShownPanel {
                                                                       .shortcuts = shortcuts,
                                                                       .actions = actions,
                                                                       .icons = icons,
+                                                                      .files = files,
                                                                       .commands = commands},
                                                     host);
         window->show();

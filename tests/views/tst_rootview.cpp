@@ -27,7 +27,6 @@ private Q_SLOTS:
     void topBar_isAsHighAsTheNotchButThirtyAtLeast();
     void contentsLeave_byFadingOut();
     void switchingTabs_keepsTheTabBar();
-    void droppedFiles_areAddedOneCallEach();
 };
 
 void RootViewTest::collapsed_overhangsTheNotchByFivePointsOnEachSide()
@@ -179,21 +178,6 @@ void RootViewTest::switchingTabs_keepsTheTabBar()
 
     QCOMPARE(panel.item(u"topBar"_s), bar);
     QVERIFY(panel.item(u"tasksView"_s)->isVisible());
-}
-
-void RootViewTest::droppedFiles_areAddedOneCallEach()
-{
-    ShownPanel panel;
-    const QSignalSpy changes(panel.workspace.store.get(), &quib::Store::shelfChanged);
-
-    const QList<QUrl> urls{QUrl(u"file:///tmp/first"_s), QUrl(u"https://ex.org"_s),
-                           QUrl(u"file:///tmp/second"_s)};
-    QMetaObject::invokeMethod(panel.root(), "handleDrop",
-                              Q_ARG(QVariant, QVariant::fromValue(urls)));
-
-    QCOMPARE(changes.count(), 2);
-    QCOMPARE(panel.workspace.store->data().shelf.front().path, u"/tmp/second"_s);
-    QCOMPARE(panel.workspace.store->data().shelf.size(), 2);
 }
 
 void RootViewTest::quitKey_quits()

@@ -32,6 +32,8 @@ public:
     virtual QString applicationName(const QString& path) const = 0;
     /// Gives the panel the keyboard, for an edit that a control starts.
     Q_INVOKABLE virtual void takeKeyboard() = 0;
+    /// Opens the card, on the shelf if wanted.
+    Q_INVOKABLE virtual void expand(bool toShelf) = 0;
     Q_INVOKABLE virtual void editShortcuts() = 0;
     Q_INVOKABLE virtual void quit() = 0;
 

@@ -28,6 +28,7 @@ ListView {
 
         width: root.width
         title: entry.title ?? ""
+        symbol: entry.symbol ?? ""
         checked: entry.checked ?? false
         isSeparator: entry.separator ?? false
         isHighlighted: root.currentIndex === index

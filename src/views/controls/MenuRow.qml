@@ -11,6 +11,7 @@ T.MenuItem {
     id: root
 
     required property string title
+    required property string symbol
     required property bool isSeparator
     required property bool isHighlighted
 
@@ -36,16 +37,16 @@ T.MenuItem {
     contentItem: Item {
         Symbol {
             anchors.verticalCenter: parent.verticalCenter
-            name: root.checked ? "checkmark" : ""
-            size: 9
-            weight: Font.Bold
+            name: root.checked ? "checkmark" : root.symbol
+            size: root.checked ? 9 : 11
+            weight: root.checked ? Font.Bold : Font.Normal
         }
 
         QuibText {
             objectName: "title"
             anchors.verticalCenter: parent.verticalCenter
-            x: 15
-            width: parent.width - 15
+            x: root.symbol === "" ? 15 : 19
+            width: parent.width - x
             visible: !root.isSeparator
             text: root.title
             size: 12

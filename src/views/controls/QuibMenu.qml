@@ -5,8 +5,8 @@ import Quib.Brand
 import Quib.Views
 
 /*!
-    A menu below what opens it, its parent, inside the window. The model has the roles title, checked
-    and separator, or is an array of objects with such members; what is left out is empty or false.
+    A menu below what opens it, its parent, inside the window. The model has the roles title, symbol,
+    checked and separator, or is an array of objects with such members; what is left out is empty or false.
 */
 T.Popup {
     id: root

@@ -7,7 +7,7 @@ import Quib.Views
     One thing to launch, by its picture and name. While the strip is edited it can be taken away, by
     its badge or by a key.
 */
-FocusScope {
+SidewaysItem {
     id: root
 
     required property uuid itemID
@@ -16,7 +16,6 @@ FocusScope {
     required property string path
     required property IconSource icons
     required property bool editing
-    required property bool isStop
 
     signal opened
     signal removed(byKey: bool)
@@ -33,7 +32,7 @@ FocusScope {
         }
     }
 
-    function focusButton(reason) {
+    function focusBy(reason) {
         capsule.forceActiveFocus(reason);
         capsule.focusReason = reason; // The list may have given it the focus without.
     }
