@@ -1,5 +1,6 @@
 // A small window at the lower left of the screen from which the files named as arguments can be
-// dragged. It prints the action that the drag ended with.
+// dragged, or the addresses in the text after "--addresses", as they stand there. It prints the
+// action that the drag ended with.
 #include <QDrag>
 #include <QGuiApplication>
 #include <QMimeData>
@@ -10,8 +11,8 @@
 
 class DragSource : public QRasterWindow {
 public:
-    explicit DragSource(const QStringList& paths)
-        : m_paths(paths)
+    explicit DragSource(const QStringList& arguments)
+        : m_arguments(arguments)
     {
         setTitle(QStringLiteral("Drag source"));
         setGeometry(100, 600, 200, 100);
@@ -24,20 +25,31 @@ protected:
             return;
         }
         m_dragged = true;
-        QList<QUrl> urls;
-        for (const auto& path : m_paths) {
-            urls << QUrl::fromLocalFile(path);
-        }
-        auto* files = new QMimeData;
-        files->setUrls(urls);
         auto* drag = new QDrag(this);
-        drag->setMimeData(files);
-        const auto action = drag->exec(Qt::CopyAction | Qt::MoveAction);
+        drag->setMimeData(contents());
+        const auto action = drag->exec(Qt::CopyAction | Qt::MoveAction | Qt::LinkAction);
         QTextStream(stdout) << "ended with action " << static_cast<int>(action) << Qt::endl;
     }
 
+    void mousePressEvent(QMouseEvent* /*event*/) override { m_dragged = false; }
+
 private:
-    QStringList m_paths;
+    QMimeData* contents() const
+    {
+        auto* contents = new QMimeData; // Which the drag takes.
+        if (m_arguments.value(0) == QLatin1String("--addresses")) {
+            contents->setData(QStringLiteral("text/uri-list"), m_arguments.value(1).toLatin1());
+            return contents;
+        }
+        QList<QUrl> urls;
+        for (const auto& path : m_arguments) {
+            urls << QUrl::fromLocalFile(path);
+        }
+        contents->setUrls(urls);
+        return contents;
+    }
+
+    QStringList m_arguments;
     bool m_dragged = false;
 };
 

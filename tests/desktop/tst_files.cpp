@@ -1,7 +1,5 @@
-#include "desk.h"
+#include "carrying.h"
 
-#include <QFile>
-#include <QJsonArray>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -13,22 +11,11 @@ class FilesTest : public QObject {
 private Q_SLOTS:
     void dragHeldOverTheNotch_opensTheShelf();
     void droppedFiles_lieOnTheShelfAsCopies();
+    void addresses_thatAreFilesAreTaken_data();
+    void addresses_thatAreFilesAreTaken();
+    void whatIsNoFile_isRefused();
+    void droppedOnTheOpenCard_leaveTheTab();
 };
-
-namespace {
-
-/// Carries what the drag source offers to the notch, in steps as a hand would.
-void carryToTheNotch(const Desk& desk)
-{
-    desk.moveTo({200, 650});
-    desk.button(u"down"_s);
-    desk.moveTo({230, 600});
-    desk.moveTo({500, 300});
-    desk.moveTo(Desk::Notch);
-    desk.waitForExpanded(true);
-}
-
-} // namespace
 
 void FilesTest::dragHeldOverTheNotch_opensTheShelf()
 {
@@ -50,25 +37,88 @@ void FilesTest::dragHeldOverTheNotch_opensTheShelf()
 void FilesTest::droppedFiles_lieOnTheShelfAsCopies()
 {
     Desk desk;
-    const QStringList paths{desk.folder(u"first.txt"_s), desk.folder(u"a b & ü.txt"_s)};
+    const QStringList paths{desk.folder(u"first.txt"_s), desk.folder(u"a b & ü%20'\"\n.txt"_s)};
     const auto quib = desk.startQuib();
-    const auto source = desk.start(Desk::dragSource(), paths);
-    QTRY_VERIFY(desk.pixel({200, 650}) != desk.pixel({20, 20}));
+    const auto source = startDragSource(desk, paths);
 
-    carryToTheNotch(desk);
-    desk.moveTo({800, 150});
-    desk.moveTo({802, 152});
-    QTRY_COMPARE(desk.pixel({800, 289}).blue() > 60, true); // The line lights up.
+    carry(desk, DragSourcePlace, Desk::Notch);
+    desk.waitForExpanded(true);
+    carryOn(desk, {800, 150});
+    QTRY_VERIFY(isLit(desk));
     desk.button(u"up"_s);
 
-    QTRY_COMPARE(desk.data().value("shelf"_L1).toArray().size(), 2);
-    QStringList shelf;
-    for (const auto& item : desk.data().value("shelf"_L1).toArray()) {
-        shelf << item["path"_L1].toString();
-    }
-    QCOMPARE(shelf, (QStringList{paths.at(1), paths.at(0)}));
+    QTRY_COMPARE(shelfOf(desk), (QStringList{paths.at(1), paths.at(0)}));
     Output said(*source);
     QTRY_COMPARE(said.count("ended with action 1"), 1);
+    QCOMPARE(desk.selectedTab(), 5);
+}
+
+void FilesTest::addresses_thatAreFilesAreTaken_data()
+{
+    QTest::addColumn<QString>("addresses");
+    QTest::addColumn<QStringList>("shelf");
+
+    QTest::addRow("files among others")
+        << u"https://example.org/a\r\nfile:///a%20b\r\nmailto:me@example.org\r\n"_s
+        << QStringList{u"/a b"_s};
+    QTest::addRow("a name that is no text")
+        << u"file:///caf%E9\r\nfile:///caf%C3%A9\r\n"_s << QStringList{u"/café"_s};
+    QTest::addRow("the same twice, and a comment")
+        << u"# two\r\nfile:///a\r\nfile:///a\r\n"_s << QStringList{u"/a"_s};
+    QTest::addRow("a folder, without line ends of the internet")
+        << u"file:///tmp/\nfile:///b\n"_s << QStringList{u"/b"_s, u"/tmp"_s};
+}
+
+void FilesTest::addresses_thatAreFilesAreTaken()
+{
+    QFETCH(QString, addresses);
+    QFETCH(QStringList, shelf);
+    Desk desk;
+    const auto quib = desk.startQuib();
+    const auto source = startDragSource(desk, {u"--addresses"_s, addresses});
+
+    carry(desk, DragSourcePlace, Desk::Notch);
+    desk.waitForExpanded(true);
+    carryOn(desk, {800, 150});
+    QTRY_VERIFY(isLit(desk));
+    desk.button(u"up"_s);
+
+    QTRY_COMPARE(shelfOf(desk), shelf);
+}
+
+void FilesTest::whatIsNoFile_isRefused()
+{
+    Desk desk;
+    const auto quib = desk.startQuib();
+    const auto source = startDragSource(desk, {u"--addresses"_s, u"https://example.org/a\r\n"_s});
+
+    carry(desk, DragSourcePlace, Desk::Notch);
+    desk.waitForExpanded(true);
+    carryOn(desk, {800, 150});
+    desk.button(u"up"_s);
+
+    Output said(*source);
+    QTRY_COMPARE(said.count("ended with action 0"), 1);
+    QVERIFY(!isLit(desk));
+    QVERIFY(desk.data().isEmpty()); // Nothing has been changed.
+}
+
+void FilesTest::droppedOnTheOpenCard_leaveTheTab()
+{
+    Desk desk;
+    const auto quib = desk.startQuib();
+    const auto source = startDragSource(desk, {u"/a.txt"_s});
+    desk.openWithPointer();
+    desk.showTab(3);
+    desk.click(Desk::Pin);
+
+    carry(desk, DragSourcePlace, {800, 200});
+    carryOn(desk, {700, 180});
+    QTRY_VERIFY(isLit(desk));
+    desk.button(u"up"_s);
+
+    QTRY_COMPARE(shelfOf(desk), QStringList{u"/a.txt"_s});
+    QCOMPARE(desk.selectedTab(), 3);
 }
 
 QTEST_GUILESS_MAIN(FilesTest)

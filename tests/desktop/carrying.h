@@ -1,0 +1,73 @@
+#pragma once
+
+#include "desk.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTest>
+#include <QUuid>
+
+// What a hand does that carries files from one window to another.
+
+inline constexpr QPoint DragSourcePlace{200, 650};
+inline constexpr QPoint DropTargetPlace{1400, 650};
+
+inline Program startDragSource(Desk& desk, const QStringList& arguments)
+{
+    auto source = desk.start(Desk::dragSource(), arguments);
+    [[maybe_unused]] const bool isSeen = QTest::qWaitFor(
+        [&] {
+            return desk.pixel(DragSourcePlace) != desk.pixel({20, 20});
+        },
+        10'000);
+    return source;
+}
+
+/// Picks up what lies at a place and carries it elsewhere, in steps.
+inline void carry(const Desk& desk, QPoint from, QPoint to)
+{
+    desk.moveTo(from);
+    desk.button(QStringLiteral("down"));
+    desk.moveTo(from + QPoint(30, 50));
+    desk.moveTo((from + to) / 2);
+    desk.moveTo(to);
+}
+
+/// Further on with what is carried. What lies beneath hears of it with the next move.
+inline void carryOn(const Desk& desk, QPoint to)
+{
+    desk.moveTo(to);
+    desk.moveTo(to + QPoint(2, 2));
+}
+
+/// The line around the card is lit while files are over it.
+inline bool isLit(const Desk& desk)
+{
+    return desk.pixel({800, 289}).blue() > 60;
+}
+
+/// A data file of nothing but files on the shelf.
+inline QByteArray workspaceWithShelf(const QStringList& paths)
+{
+    QJsonArray shelf;
+    for (const auto& path : paths) {
+        shelf << QJsonObject{
+            {QStringLiteral("id"), QUuid::createUuid().toString(QUuid::WithoutBraces)},
+            {QStringLiteral("path"), path}};
+    }
+    QJsonObject workspace{{QStringLiteral("shelf"), shelf}, {QStringLiteral("notes"), QString()}};
+    for (const auto* empty : {"clients", "tasks", "entries", "launch"}) {
+        workspace.insert(QLatin1String(empty), QJsonArray());
+    }
+    return QJsonDocument(workspace).toJson();
+}
+
+/// The paths in data.json, in order.
+inline QStringList shelfOf(const Desk& desk)
+{
+    QStringList paths;
+    for (const auto& item : desk.data().value(QLatin1String("shelf")).toArray()) {
+        paths << item[QLatin1String("path")].toString();
+    }
+    return paths;
+}
