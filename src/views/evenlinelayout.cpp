@@ -1,0 +1,142 @@
+#include "views/evenlinelayout.h"
+
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace quib {
+
+namespace {
+
+/// The next line of a text, as wide as it may be; invalid when there is none left.
+QTextLine nextLine(QTextLayout& text, double width)
+{
+    auto line = text.createLine();
+    if (line.isValid()) {
+        line.setLeadingIncluded(true);
+        line.setLineWidth(width);
+    }
+    return line;
+}
+
+} // namespace
+
+EvenLineLayout::EvenLineLayout(QTextDocument* document)
+    : QAbstractTextDocumentLayout(document)
+{
+}
+
+int EvenLineLayout::hitTest(const QPointF& point, Qt::HitTestAccuracy accuracy) const
+{
+    const QRectF page({}, documentSize());
+    if (accuracy == Qt::ExactHit && !page.contains(point)) {
+        return -1;
+    }
+    if (point.y() < page.top()) {
+        return 0;
+    }
+    if (point.y() >= page.bottom()) {
+        return document()->characterCount() - 1;
+    }
+    const auto row = static_cast<int>(point.y() / m_lineHeight);
+    const auto block = document()->findBlockByLineNumber(row);
+    const auto line = lineAt(block, point.y() - blockBoundingRect(block).top());
+    return block.position() + (line.isValid() ? line.xToCursor(point.x()) : 0);
+}
+
+QSizeF EvenLineLayout::documentSize() const
+{
+    return {width(), document()->lineCount() * m_lineHeight};
+}
+
+QRectF EvenLineLayout::frameBoundingRect(QTextFrame* /*frame*/) const
+{
+    return {QPointF(), documentSize()};
+}
+
+QRectF EvenLineLayout::blockBoundingRect(const QTextBlock& block) const
+{
+    if (!block.isValid()) {
+        return {};
+    }
+    if (block.layout()->lineCount() == 0) {
+        layOut(block);
+    }
+    return {0, block.firstLineNumber() * m_lineHeight, width(), block.lineCount() * m_lineHeight};
+}
+
+void EvenLineLayout::draw(QPainter* /*painter*/, const PaintContext& /*context*/) { }
+
+int EvenLineLayout::pageCount() const
+{
+    return 1;
+}
+
+void EvenLineLayout::documentChanged(int from, int /*charsRemoved*/, int charsAdded)
+{
+    if (width() <= 0) {
+        return; // Lines come with a width.
+    }
+    measureLine();
+    const auto last = document()->findBlock(from + charsAdded);
+    for (auto block = document()->findBlock(from); block.isValid(); block = block.next()) {
+        layOut(block);
+        if (block == last) {
+            break;
+        }
+    }
+    Q_EMIT documentSizeChanged(documentSize());
+}
+
+double EvenLineLayout::width() const
+{
+    return document()->textWidth();
+}
+
+void EvenLineLayout::measureLine()
+{
+    if (m_font == document()->defaultFont() && m_lineHeight > 1) {
+        return;
+    }
+    m_font = document()->defaultFont();
+    QTextLayout text(u"x"_s, m_font);
+    text.beginLayout();
+    const auto line = nextLine(text, width());
+    text.endLayout();
+    m_lineHeight = line.height();
+    m_ascent = line.ascent();
+}
+
+/// Letters of other fonts stand on the same even lines as those of the document's own.
+void EvenLineLayout::layOut(QTextBlock block) const
+{
+    auto& text = *block.layout();
+    auto option = document()->defaultTextOption();
+    option.setTextDirection(block.textDirection());
+    text.setTextOption(option);
+    int rows = 0;
+    text.beginLayout();
+    for (auto line = nextLine(text, width()); line.isValid(); line = nextLine(text, width())) {
+        line.setPosition({0, rows * m_lineHeight + m_ascent - line.ascent()});
+        rows += std::max(1, qRound(line.height() / m_lineHeight));
+    }
+    text.endLayout();
+    block.setLineCount(rows);
+}
+
+QTextLine EvenLineLayout::lineAt(const QTextBlock& block, double y) const
+{
+    const auto& text = *block.layout();
+    int number = text.lineCount() - 1;
+    const auto top = [&](const QTextLine& line) { return line.y() + line.ascent() - m_ascent; };
+    while (number > 0 && top(text.lineAt(number)) > y) {
+        --number;
+    }
+    return number < 0 ? QTextLine() : text.lineAt(number);
+}
+
+} // namespace quib
