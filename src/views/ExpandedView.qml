@@ -140,7 +140,13 @@ FocusScope {
 
         Page {
             tab: Tab.Notes
-            view: EmptyTab { tab: Tab.Notes }
+
+            view: NotesView {
+                objectName: "notesView"
+                anchors.fill: parent
+                focus: true
+                store: root.store
+            }
         }
     }
 

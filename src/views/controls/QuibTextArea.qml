@@ -17,6 +17,10 @@ FocusScope {
     property string text // As it stands: the value, or what somebody made of it.
     property string placeholder
     property real size: 12
+    property real horizontalPadding: 9
+    property real verticalPadding: 6
+    property real radius: 8
+    property color surfaceColor: Brand.white(0.07)
 
     property string drawn // To tell an edit from all else that a text changes by.
     property bool isSettling: true // Till the item below is complete: it takes its first text then.
@@ -47,6 +51,23 @@ FocusScope {
         input.select(Math.min(other, limit), Math.min(cursor, limit));
     }
 
+    // Adds to the end in one step, which can be undone. What is there stays as it is, to its line ends,
+    // and so does what is selected; a cursor at the end goes along.
+    function append(addition) {
+        const whole = root.text + addition;
+        const first = input.selectionStart;
+        const last = input.selectionEnd;
+        const cursor = input.cursorPosition;
+        root.isSettling = true;
+        input.insert(input.length, addition);
+        root.isSettling = false;
+        if (first < last) {
+            input.select(cursor === first ? last : first, cursor);
+        }
+        root.text = whole;
+        root.edited();
+    }
+
     function follow() {
         const before = root.drawn;
         root.drawn = TypedText.of(input.textDocument);
@@ -57,9 +78,40 @@ FocusScope {
     }
 
     function reveal() {
-        const top = input.cursorRectangle.y / 2 - 6;
-        const bottom = top + input.cursorRectangle.height / 2 + 12;
+        const top = input.cursorRectangle.y / 2 - root.verticalPadding;
+        const bottom = top + input.cursorRectangle.height / 2 + 2 * root.verticalPadding;
         flickable.contentY = Math.min(top, Math.max(flickable.contentY, bottom - flickable.height));
+    }
+
+    // By what is in sight, less a line to hold on to.
+    function turnPage(forward, selects) {
+        const rect = input.cursorRectangle;
+        const page = Math.max(1, flickable.height * 2 - rect.height);
+        const position = input.positionAt(rect.x, rect.y + rect.height / 2 + (forward ? page : -page));
+        if (selects) {
+            input.moveCursorSelection(position, TextEdit.SelectCharacters);
+        } else {
+            input.cursorPosition = position;
+        }
+    }
+
+    function turnPageByKey(event) {
+        if (event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown) {
+            event.accepted = true;
+            root.turnPage(event.key === Qt.Key_PageDown, event.modifiers & Qt.ShiftModifier);
+        } else {
+            event.accepted = false;
+        }
+    }
+
+    // What is selected grows while the pointer is held beyond an edge: there it does not move.
+    function selectOn() {
+        const place = pointer.point.scenePosition;
+        const y = flickable.mapFromItem(null, place.x, place.y).y;
+        if (y < 0 || y > flickable.height) {
+            const there = input.mapFromItem(null, place.x, place.y);
+            input.moveCursorSelection(input.positionAt(there.x, there.y), TextEdit.SelectCharacters);
+        }
     }
 
     function move(forward) {
@@ -69,15 +121,15 @@ FocusScope {
     ContinuousRectangle {
         objectName: "surface"
         anchors.fill: parent
-        radius: 8
-        color: Brand.white(0.07)
+        radius: root.radius
+        color: root.surfaceColor
     }
 
     QuibText {
         objectName: "placeholder"
-        x: 9
-        y: 6
-        width: root.width - 18
+        x: root.horizontalPadding
+        y: root.verticalPadding
+        width: root.width - 2 * root.horizontalPadding
         visible: input.length === 0 && input.preeditText === ""
         text: root.placeholder
         size: root.size
@@ -103,17 +155,18 @@ FocusScope {
             height: Math.max(flickable.height * 2, implicitHeight)
             scale: 0.5
             transformOrigin: Item.TopLeft
-            leftPadding: 18
-            rightPadding: 18
-            topPadding: 12
-            bottomPadding: 12
+            leftPadding: 2 * root.horizontalPadding
+            rightPadding: 2 * root.horizontalPadding
+            topPadding: 2 * root.verticalPadding
+            bottomPadding: 2 * root.verticalPadding
             focus: true
             activeFocusOnTab: true
             selectByMouse: true
+            persistentSelection: true
             textFormat: TextEdit.PlainText
             wrapMode: TextEdit.Wrap
             color: "white"
-            selectionColor: Brand.purple
+            selectionColor: input.activeFocus ? Brand.purple : Brand.white(0.2)
             selectedTextColor: "white"
             font.pixelSize: root.size * 2
             font.hintingPreference: Font.PreferNoHinting
@@ -131,11 +184,28 @@ FocusScope {
 
             Keys.onTabPressed: root.move(true)
             Keys.onBacktabPressed: root.move(false)
+            Keys.onPressed: event => root.turnPageByKey(event)
+
+            PointHandler {
+                id: pointer
+            }
         }
 
         ScrollThumb {
             flickable: flickable
         }
+    }
+
+    Timer {
+        interval: 40
+        repeat: true
+        running: pointer.active
+
+        onTriggered: root.selectOn()
+    }
+
+    EvenLines {
+        document: input.textDocument
     }
 
     KeyboardFocus {
@@ -147,7 +217,7 @@ FocusScope {
     FocusRing {
         objectName: "ring"
         visible: keyboard.isShown
-        radius: 10
+        radius: root.radius + 2
     }
 
     HoverHandler {

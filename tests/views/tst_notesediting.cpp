@@ -1,0 +1,265 @@
+#include "support/notestab.h"
+
+using namespace Qt::StringLiterals;
+
+/// Cursor, selection, scrolling and the way back in the notes.
+class NotesEditingTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void stamp_isOneStepBack();
+    void stamp_leavesTheCursorAndWhatIsSeen();
+    void stamp_takesACursorAtTheEndAlong();
+    void stamp_neverGrowsTheSelection();
+    void stampAfterTyping_isAStepOfItsOwn();
+    void undoAndRedo_reachTheStore();
+    void cursorSelectionAndUndo_surviveASaveAndOtherChanges();
+    void cursorSelectionAndUndo_surviveACollapse();
+    void notesChangedElsewhere_areShown();
+    void selectAll_isReplacedByTyping();
+    void pages_moveTheCursorByWhatIsSeen();
+    void pages_selectWithShift();
+    void endsOfTheText_areShown();
+    void typingOutOfSight_bringsTheCursorBack();
+    void dragBeyondTheEdge_selectsOn();
+    void wheel_scrollsWithoutMovingTheCursor();
+};
+
+void NotesEditingTest::stamp_isOneStepBack()
+{
+    const NotesTab tab(u"Call Ann"_s);
+
+    tab.stamp();
+    const auto stamped = tab.notes();
+    tab.undo();
+    QCOMPARE(tab.notes(), u"Call Ann"_s);
+    tab.redo();
+
+    QCOMPARE(tab.notes(), stamped);
+}
+
+void NotesEditingTest::stamp_leavesTheCursorAndWhatIsSeen()
+{
+    const NotesTab tab(NotesTab::lines(60));
+    tab.press(Qt::Key_Right);
+
+    tab.stamp();
+
+    QCOMPARE(tab.cursor(), 1);
+    QCOMPARE(tab.scrolled(), 0.0);
+    QVERIFY(tab.isEditing());
+}
+
+void NotesEditingTest::stamp_takesACursorAtTheEndAlong()
+{
+    const NotesTab tab(NotesTab::lines(60));
+    tab.press(Qt::Key_End, Qt::ControlModifier);
+
+    tab.stamp();
+    QVERIFY(tab.showsCursor());
+    tab.type(u"x"_s);
+
+    QVERIFY(tab.notes().endsWith(u"\nx"_s));
+}
+
+/// Or the next key would replace the stamp.
+void NotesEditingTest::stamp_neverGrowsTheSelection()
+{
+    const NotesTab tab(u"Call Ann"_s);
+    for (const auto key : {Qt::Key_Home, Qt::Key_End}) {
+        tab.press(Qt::Key_A, Qt::ControlModifier);
+        tab.press(key, Qt::ControlModifier);
+        tab.press(key == Qt::Key_Home ? Qt::Key_End : Qt::Key_Home,
+                  Qt::ControlModifier | Qt::ShiftModifier);
+        const auto selected = tab.selected();
+        const int cursor = tab.cursor();
+
+        tab.stamp();
+
+        QCOMPARE(tab.selected(), selected);
+        QCOMPARE(tab.cursor(), cursor);
+    }
+}
+
+void NotesEditingTest::stampAfterTyping_isAStepOfItsOwn()
+{
+    const NotesTab tab;
+    tab.type(u"Call"_s);
+    tab.press(Qt::Key_Return);
+
+    tab.stamp();
+    tab.type(u"x"_s);
+    const auto typed = tab.notes();
+    tab.undo();
+    QCOMPARE(tab.notes(), typed.chopped(1));
+    tab.undo();
+
+    QCOMPARE(tab.notes(), u"Call\n"_s);
+}
+
+void NotesEditingTest::undoAndRedo_reachTheStore()
+{
+    const NotesTab tab(u"Call"_s);
+    tab.press(Qt::Key_End);
+    tab.type(u" Ann"_s);
+
+    tab.undo();
+    QCOMPARE(tab.notes(), u"Call"_s);
+    tab.redo();
+
+    QCOMPARE(tab.notes(), u"Call Ann"_s);
+}
+
+void NotesEditingTest::cursorSelectionAndUndo_surviveASaveAndOtherChanges()
+{
+    NotesTab tab(u"Call"_s);
+    tab.press(Qt::Key_End);
+    tab.type(u" Ann"_s);
+    tab.press(Qt::Key_Left, Qt::ShiftModifier);
+
+    tab.hands.advance(std::chrono::seconds(1));
+    tab.store().saveNow();
+    tab.store().startTimer({}, {});
+    tab.workspace.task(u"Something"_s);
+    tab.workspace.client(u"Café"_s);
+
+    QCOMPARE(tab.cursor(), 7);
+    QCOMPARE(tab.selected(), u"n"_s);
+    QVERIFY(tab.isEditing());
+    tab.undo();
+    QCOMPARE(tab.notes(), u"Call"_s);
+}
+
+void NotesEditingTest::cursorSelectionAndUndo_surviveACollapse()
+{
+    NotesTab tab(u"Call"_s);
+    tab.press(Qt::Key_End);
+    tab.type(u" Ann"_s);
+    tab.press(Qt::Key_Left, Qt::ShiftModifier);
+    const auto* editor = tab.input();
+
+    tab.model.setExpanded(false);
+    tab.settle();
+    tab.model.setTab(quib::Tab::Tasks);
+    tab.model.setExpanded(true);
+    tab.settle();
+    tab.model.setTab(quib::Tab::Notes);
+    tab.settle();
+
+    QCOMPARE(tab.input(), editor);
+    QCOMPARE(tab.selected(), u"n"_s);
+    tab.undo();
+    QCOMPARE(tab.notes(), u"Call"_s);
+}
+
+void NotesEditingTest::notesChangedElsewhere_areShown()
+{
+    const NotesTab tab(u"Call"_s);
+    tab.press(Qt::Key_Right);
+
+    tab.store().setNotes(u"Write\nagain"_s);
+
+    QCOMPARE(textOf(tab.input()), u"Write\nagain"_s);
+    QCOMPARE(tab.cursor(), 1);
+}
+
+void NotesEditingTest::selectAll_isReplacedByTyping()
+{
+    const NotesTab tab(NotesTab::lines(60));
+
+    tab.press(Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(tab.selected(), NotesTab::lines(60));
+    tab.type(u"x"_s);
+
+    QCOMPARE(tab.notes(), u"x"_s);
+    QCOMPARE(tab.scrolled(), 0.0);
+}
+
+void NotesEditingTest::pages_moveTheCursorByWhatIsSeen()
+{
+    const NotesTab tab(NotesTab::lines(60));
+    const auto seen = inScene(tab.area()).height() / tab.place(0).height();
+
+    tab.press(Qt::Key_PageDown);
+    const auto moved = tab.place(tab.cursor()).top() - tab.place(0).top();
+    const auto rows = moved / tab.place(0).height();
+    QVERIFY2(rows > seen - 3 && rows < seen, qPrintable(QString::number(rows)));
+    QVERIFY(tab.showsCursor());
+    for (int page = 0; page < 10; ++page) {
+        tab.press(Qt::Key_PageDown);
+    }
+    QVERIFY(tab.cursor() > NotesTab::lines(59).size());
+    QVERIFY(tab.showsCursor());
+    for (int page = 0; page < 10; ++page) {
+        tab.press(Qt::Key_PageUp);
+    }
+
+    QCOMPARE(tab.cursor(), 0);
+    QCOMPARE(tab.scrolled(), 0.0);
+}
+
+void NotesEditingTest::pages_selectWithShift()
+{
+    const NotesTab tab(NotesTab::lines(60));
+
+    tab.press(Qt::Key_PageDown, Qt::ShiftModifier);
+
+    QVERIFY(tab.selected().startsWith(u"line 0\nline 1\n"_s));
+    QCOMPARE(tab.selected().size(), tab.cursor());
+}
+
+void NotesEditingTest::endsOfTheText_areShown()
+{
+    const NotesTab tab(NotesTab::lines(60));
+
+    tab.press(Qt::Key_End, Qt::ControlModifier);
+    QCOMPARE(tab.cursor(), NotesTab::lines(60).size());
+    QVERIFY(tab.showsCursor());
+    tab.press(Qt::Key_Home, Qt::ControlModifier);
+
+    QCOMPARE(tab.cursor(), 0);
+    QCOMPARE(tab.scrolled(), 0.0);
+}
+
+void NotesEditingTest::typingOutOfSight_bringsTheCursorBack()
+{
+    const NotesTab tab(NotesTab::lines(60));
+    ShownPanel::find(tab.area(), u"flickable"_s)->setProperty("contentY", 300);
+    QVERIFY(!tab.showsCursor());
+
+    tab.type(u"x"_s);
+
+    QVERIFY(tab.showsCursor());
+}
+
+void NotesEditingTest::dragBeyondTheEdge_selectsOn()
+{
+    const NotesTab tab(NotesTab::lines(60));
+    const auto from = tab.place(0).center().toPoint();
+    const auto below = QPoint(from.x(), qRound(inScene(tab.area()).bottom()) + 8);
+
+    QTest::mousePress(tab.window.get(), Qt::LeftButton, {}, from);
+    QTest::mouseMove(tab.window.get(), from + QPoint(0, 30));
+    QTest::mouseMove(tab.window.get(), below);
+    const auto atTheEdge = tab.selected().size();
+
+    QTRY_VERIFY(tab.selected().size() > atTheEdge + 30); // The pointer rests.
+    QVERIFY(tab.scrolled() > 0);
+    QTest::mouseRelease(tab.window.get(), Qt::LeftButton, {}, below);
+}
+
+void NotesEditingTest::wheel_scrollsWithoutMovingTheCursor()
+{
+    const NotesTab tab(NotesTab::lines(60));
+    const auto place = inScene(tab.area()).center();
+    QWheelEvent wheel(place, tab.window->mapToGlobal(place), {}, {0, -120}, Qt::NoButton, {},
+                      Qt::NoScrollPhase, false);
+
+    QCoreApplication::sendEvent(tab.window.get(), &wheel);
+
+    QTRY_VERIFY(tab.scrolled() > 0);
+    QCOMPARE(tab.cursor(), 0);
+}
+
+QTEST_MAIN(NotesEditingTest)
+#include "tst_notesediting.moc"
