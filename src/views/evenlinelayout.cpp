@@ -23,6 +23,24 @@ QTextLine nextLine(QTextLayout& text, double width)
     return line;
 }
 
+/// Whether it has a word of which breaking it at its end is all that is left. Qt looks for that end
+/// at each of its lines: 50 s in a word of a megabyte.
+bool hasEndlessWord(const QString& text)
+{
+    constexpr int Endless = 1000;
+    constexpr char16_t FirstIdeograph = 0x2E80; // Between those, lines break anyway.
+    int length = 0;
+    for (const auto letter : text) {
+        const bool endsTheWord
+            = letter.isSpace() || letter == u'-' || letter.unicode() >= FirstIdeograph;
+        length = endsTheWord ? 0 : length + 1;
+        if (length > Endless) {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 EvenLineLayout::EvenLineLayout(QTextDocument* document)
@@ -32,6 +50,7 @@ EvenLineLayout::EvenLineLayout(QTextDocument* document)
 
 int EvenLineLayout::hitTest(const QPointF& point, Qt::HitTestAccuracy accuracy) const
 {
+    layOutWhatIsStale();
     const QRectF page({}, documentSize());
     if (accuracy == Qt::ExactHit && !page.contains(point)) {
         return -1;
@@ -50,6 +69,7 @@ int EvenLineLayout::hitTest(const QPointF& point, Qt::HitTestAccuracy accuracy) 
 
 QSizeF EvenLineLayout::documentSize() const
 {
+    layOutWhatIsStale();
     return {width(), document()->lineCount() * m_lineHeight};
 }
 
@@ -63,9 +83,7 @@ QRectF EvenLineLayout::blockBoundingRect(const QTextBlock& block) const
     if (!block.isValid()) {
         return {};
     }
-    if (block.layout()->lineCount() == 0) {
-        layOut(block);
-    }
+    layOutWhatIsStale();
     return {0, block.firstLineNumber() * m_lineHeight, width(), block.lineCount() * m_lineHeight};
 }
 
@@ -78,10 +96,11 @@ int EvenLineLayout::pageCount() const
 
 void EvenLineLayout::documentChanged(int from, int /*charsRemoved*/, int charsAdded)
 {
-    if (width() <= 0) {
-        return; // Lines come with a width.
+    const bool isAll = from == 0 && charsAdded >= document()->characterCount() - 1;
+    if (m_isStale || isAll) {
+        m_isStale = true; // An item that is being made changes the width and the font next.
+        return;
     }
-    measureLine();
     const auto last = document()->findBlock(from + charsAdded);
     for (auto block = document()->findBlock(from); block.isValid(); block = block.next()) {
         layOut(block);
@@ -97,13 +116,21 @@ double EvenLineLayout::width() const
     return document()->textWidth();
 }
 
-void EvenLineLayout::measureLine()
+void EvenLineLayout::layOutWhatIsStale() const
 {
-    if (m_font == document()->defaultFont() && m_lineHeight > 1) {
-        return;
+    if (!m_isStale || width() <= 0) {
+        return; // Lines come with a width.
     }
-    m_font = document()->defaultFont();
-    QTextLayout text(u"x"_s, m_font);
+    m_isStale = false;
+    measureLine();
+    for (auto block = document()->begin(); block.isValid(); block = block.next()) {
+        layOut(block);
+    }
+}
+
+void EvenLineLayout::measureLine() const
+{
+    QTextLayout text(u"x"_s, document()->defaultFont());
     text.beginLayout();
     const auto line = nextLine(text, width());
     text.endLayout();
@@ -117,6 +144,9 @@ void EvenLineLayout::layOut(QTextBlock block) const
     auto& text = *block.layout();
     auto option = document()->defaultTextOption();
     option.setTextDirection(block.textDirection());
+    if (hasEndlessWord(block.text())) {
+        option.setWrapMode(QTextOption::WrapAnywhere);
+    }
     text.setTextOption(option);
     int rows = 0;
     text.beginLayout();

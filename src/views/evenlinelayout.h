@@ -27,13 +27,14 @@ protected:
 
 private:
     double width() const;
-    void measureLine();
+    void layOutWhatIsStale() const;
+    void measureLine() const;
     void layOut(QTextBlock block) const;
     QTextLine lineAt(const QTextBlock& block, double y) const;
 
-    QFont m_font; ///< Whose lines have been measured.
-    double m_lineHeight = 1;
-    double m_ascent = 0;
+    mutable bool m_isStale = true; ///< All of it: laid out once somebody asks.
+    mutable double m_lineHeight = 1;
+    mutable double m_ascent = 0;
 };
 
 } // namespace quib

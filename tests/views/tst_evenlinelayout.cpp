@@ -22,6 +22,7 @@ private Q_SLOTS:
     void otherFont_laysOutAnew();
     void composedText_countsAsQtCountsIt();
     void lettersOfOtherFonts_standOnEvenLines();
+    void wordOfAMegabyte_isLaidOutAtAll();
 };
 
 namespace {
@@ -196,11 +197,25 @@ void EvenLineLayoutTest::lettersOfOtherFonts_standOnEvenLines()
     const auto* layout = documents.ours.documentLayout();
     const auto baseline = [&](int number) {
         const auto block = documents.ours.findBlockByNumber(number);
+        const auto top = layout->blockBoundingRect(block).top(); // Lays it out.
         const auto line = block.layout()->lineAt(0);
-        return layout->blockBoundingRect(block).top() + line.y() + line.ascent();
+        return top + line.y() + line.ascent();
     };
 
     QCOMPARE(baseline(1) - baseline(0), baseline(2) - baseline(1));
+}
+
+/// Where Qt's own layout takes a minute.
+void EvenLineLayoutTest::wordOfAMegabyte_isLaidOutAtAll()
+{
+    Documents documents;
+
+    documents.ours.setPlainText(QString(1'000'000, u'w'));
+
+    const auto* words = documents.ours.firstBlock().layout();
+    QVERIFY(documents.ours.size().height() > 0);
+    QVERIFY(words->lineCount() > 10'000);
+    QVERIFY(words->boundingRect().width() <= Width);
 }
 
 QTEST_MAIN(EvenLineLayoutTest)

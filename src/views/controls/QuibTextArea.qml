@@ -13,8 +13,7 @@ import Quib.Views
 FocusScope {
     id: root
 
-    property string value
-    property string text // As it stands: the value, or what somebody made of it.
+    property alias value: typed.value
     property string placeholder
     property real size: 12
     property real horizontalPadding: 9
@@ -22,31 +21,22 @@ FocusScope {
     property real radius: 8
     property color surfaceColor: Brand.white(0.07)
 
-    property string drawn // To tell an edit from all else that a text changes by.
-    property bool isSettling: true // Till the item below is complete: it takes its first text then.
-
+    readonly property alias text: typed.text // As it stands: the value, or what somebody made of it.
     readonly property bool isEditing: input.activeFocus
 
     signal edited
 
-    implicitWidth: 160
     implicitHeight: 60
 
-    onValueChanged: root.settle()
-    Component.onCompleted: root.isSettling = false
+    Component.onCompleted: typed.isSettling = false
 
-    // Says the value again.
-    function settle() {
-        if (root.text === root.value) {
-            return;
-        }
+    function draw() {
         const cursor = input.cursorPosition;
         const other = cursor === input.selectionStart ? input.selectionEnd : input.selectionStart;
-        const isFirst = root.isSettling;
-        root.text = root.value;
-        root.isSettling = true;
-        input.text = root.value;
-        root.isSettling = isFirst;
+        const isFirst = typed.isSettling;
+        typed.isSettling = true;
+        input.text = typed.text;
+        typed.isSettling = isFirst;
         const limit = root.isEditing ? input.length : 0;
         input.select(Math.min(other, limit), Math.min(cursor, limit));
     }
@@ -54,27 +44,16 @@ FocusScope {
     // Adds to the end in one step, which can be undone. What is there stays as it is, to its line ends,
     // and so does what is selected; a cursor at the end goes along.
     function append(addition) {
-        const whole = root.text + addition;
         const first = input.selectionStart;
         const last = input.selectionEnd;
         const cursor = input.cursorPosition;
-        root.isSettling = true;
+        typed.isSettling = true;
         input.insert(input.length, addition);
-        root.isSettling = false;
+        typed.isSettling = false;
         if (first < last) {
             input.select(cursor === first ? last : first, cursor);
         }
-        root.text = whole;
-        root.edited();
-    }
-
-    function follow() {
-        const before = root.drawn;
-        root.drawn = TypedText.of(input.textDocument);
-        if (!root.isSettling && root.drawn !== before) {
-            root.text = root.drawn;
-            root.edited();
-        }
+        typed.append(addition);
     }
 
     function reveal() {
@@ -179,7 +158,7 @@ FocusScope {
                 position: input.cursorPosition
             }
 
-            onTextChanged: root.follow()
+            onTextChanged: typed.follow()
             onCursorRectangleChanged: root.reveal()
 
             Keys.onTabPressed: root.move(true)
@@ -204,8 +183,13 @@ FocusScope {
         onTriggered: root.selectOn()
     }
 
-    EvenLines {
+    TypedText {
+        id: typed
+
         document: input.textDocument
+
+        onSaid: root.draw()
+        onEdited: root.edited()
     }
 
     KeyboardFocus {
