@@ -57,6 +57,7 @@ public:
     void moveTo(QPoint point) const;
     void click(QPoint point) const;
     void rightClick(QPoint point) const;
+    void middleClick(QPoint point) const;
     void button(const QString& downOrUp) const;
     void type(const QString& text) const;
     void key(const QString& name) const;
@@ -73,6 +74,7 @@ public:
     /// Of the window that has the keyboard; empty while none has.
     QString titleInFront() const;
     bool waitForFront(const QString& title) const;
+    bool waitForOwner(const QByteArray& selection) const;
 
     /// Ends the X server, as a crash of it would.
     void killServer();

@@ -31,6 +31,12 @@ void Desk::rightClick(QPoint point) const
     xdotool({u"click"_s, u"3"_s});
 }
 
+void Desk::middleClick(QPoint point) const
+{
+    moveTo(point);
+    xdotool({u"click"_s, u"2"_s});
+}
+
 void Desk::button(const QString& downOrUp) const
 {
     xdotool({u"mouse"_s + downOrUp, u"1"_s});
@@ -110,6 +116,11 @@ bool Desk::waitForFront(const QString& title) const
         return titleInFront().startsWith(title)
             && xdotool({u"getactivewindow"_s}) == xdotool({u"getwindowfocus"_s, u"-f"_s});
     });
+}
+
+bool Desk::waitForOwner(const QByteArray& selection) const
+{
+    return waitFor("the owner of a selection", [&] { return m_connection->hasOwner(selection); });
 }
 
 bool Desk::isShown(const QString& title) const

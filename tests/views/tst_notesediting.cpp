@@ -23,6 +23,8 @@ private Q_SLOTS:
     void typingOutOfSight_bringsTheCursorBack();
     void dragBeyondTheEdge_selectsOn();
     void wheel_scrollsWithoutMovingTheCursor();
+    void composedText_isShownAndNotYetWritten();
+    void inputMethods_areToldWhereTheCursorIs();
 };
 
 void NotesEditingTest::stamp_isOneStepBack()
@@ -259,6 +261,42 @@ void NotesEditingTest::wheel_scrollsWithoutMovingTheCursor()
 
     QTRY_VERIFY(tab.scrolled() > 0);
     QCOMPARE(tab.cursor(), 0);
+}
+
+void NotesEditingTest::composedText_isShownAndNotYetWritten()
+{
+    const NotesTab tab;
+    const auto before = tab.place(0);
+    QInputMethodEvent composing(u"한"_s, {});
+
+    QCoreApplication::sendEvent(tab.input(), &composing);
+    QVERIFY(!tab.placeholder()->isVisible());
+    QCOMPARE(textOf(tab.input(), "preeditText"), u"한"_s);
+    QVERIFY(tab.place(0).left() > before.left()); // The cursor stands behind it.
+    QCOMPARE(tab.notes(), QString());
+    QInputMethodEvent done;
+    done.setCommitString(u"한"_s);
+    QCoreApplication::sendEvent(tab.input(), &done);
+
+    QCOMPARE(tab.notes(), u"한"_s);
+}
+
+/// In the window, where their lists of candidates open, also when the notes have scrolled.
+void NotesEditingTest::inputMethods_areToldWhereTheCursorIs()
+{
+    const NotesTab tab(NotesTab::lines(60));
+    for (const auto key : {Qt::Key_Down, Qt::Key_End}) {
+        tab.press(key, key == Qt::Key_End ? Qt::ControlModifier : Qt::NoModifier);
+        tab.settle();
+
+        const auto told = QGuiApplication::inputMethod()->cursorRectangle();
+
+        const auto place = tab.place(tab.cursor());
+        QVERIFY(qAbs(told.left() - place.left()) < 1);
+        QVERIFY(qAbs(told.top() - place.top()) < 1);
+        QVERIFY(qAbs(told.height() - place.height()) < 1);
+        QVERIFY(inScene(tab.area()).contains(told));
+    }
 }
 
 QTEST_MAIN(NotesEditingTest)
