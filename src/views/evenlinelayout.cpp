@@ -12,6 +12,8 @@ namespace quib {
 
 namespace {
 
+constexpr double Unbounded = 1e6;
+
 /// The next line of a text, as wide as it may be; invalid when there is none left.
 QTextLine nextLine(QTextLayout& text, double width)
 {
@@ -84,6 +86,10 @@ QRectF EvenLineLayout::blockBoundingRect(const QTextBlock& block) const
         return {};
     }
     layOutWhatIsStale();
+    if (!hasWidth()) {
+        measureLine();
+        layOut(block); // What asks draws it next, and counts on its lines.
+    }
     return {0, block.firstLineNumber() * m_lineHeight, width(), block.lineCount() * m_lineHeight};
 }
 
@@ -113,13 +119,19 @@ void EvenLineLayout::documentChanged(int from, int /*charsRemoved*/, int charsAd
 
 double EvenLineLayout::width() const
 {
-    return document()->textWidth();
+    return hasWidth() ? document()->textWidth() : Unbounded;
+}
+
+/// None while an item is being made.
+bool EvenLineLayout::hasWidth() const
+{
+    return document()->textWidth() > 0;
 }
 
 void EvenLineLayout::layOutWhatIsStale() const
 {
-    if (!m_isStale || width() <= 0) {
-        return; // Lines come with a width.
+    if (!m_isStale || !hasWidth()) {
+        return;
     }
     m_isStale = false;
     measureLine();

@@ -27,6 +27,7 @@ protected:
 
 private:
     double width() const;
+    bool hasWidth() const;
     void layOutWhatIsStale() const;
     void measureLine() const;
     void layOut(QTextBlock block) const;

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void composedText_countsAsQtCountsIt();
     void lettersOfOtherFonts_standOnEvenLines();
     void wordOfAMegabyte_isLaidOutAtAll();
+    void withoutAWidth_aBlockHasItsLine();
 };
 
 namespace {
@@ -216,6 +217,20 @@ void EvenLineLayoutTest::wordOfAMegabyte_isLaidOutAtAll()
     QVERIFY(documents.ours.size().height() > 0);
     QVERIFY(words->lineCount() > 10'000);
     QVERIFY(words->boundingRect().width() <= Width);
+}
+
+/// Qt crashes where it draws one without.
+void EvenLineLayoutTest::withoutAWidth_aBlockHasItsLine()
+{
+    Documents documents(u"Call\nAnn"_s);
+
+    documents.ours.setTextWidth(-20);
+    documents.ours.setPlainText(u"Call Ann\nor Bob"_s);
+
+    for (auto block = documents.ours.begin(); block.isValid(); block = block.next()) {
+        QVERIFY(documents.ours.documentLayout()->blockBoundingRect(block).height() > 0);
+        QCOMPARE(block.layout()->lineCount(), 1);
+    }
 }
 
 QTEST_MAIN(EvenLineLayoutTest)
