@@ -54,7 +54,12 @@ CalendarController::CalendarController(CalendarStore* store, Clock clock, TimeZo
     if (m_store == nullptr) {
         return;
     }
-    connect(m_store, &CalendarStore::changed, this, &CalendarController::reload);
+    connect(m_store, &CalendarStore::changed, this, &CalendarController::readAgain);
+    readAuthorization();
+}
+
+void CalendarController::readAuthorization()
+{
     m_isAsking = true;
     m_store->readAuthorization([self = QPointer(this)](CalendarAuthorization authorization) {
         if (self) {
@@ -64,6 +69,15 @@ CalendarController::CalendarController(CalendarStore* store, Clock clock, TimeZo
             self->takeAuthorization(authorization);
         }
     });
+}
+
+void CalendarController::readAgain()
+{
+    if (m_access == Access::Unknown && !m_wasAnswered) {
+        readAuthorization();
+    } else {
+        reload();
+    }
 }
 
 void CalendarController::requestAccess()

@@ -9,8 +9,9 @@
 
 namespace quib {
 
-/// Today's events, and whether the program may read them. The authorisation is read once, at the
-/// start; afterwards only requestAccess() changes it. There is no timer: an event that ends stays
+/// Today's events, and whether the program may read them. The authorisation is read at the start,
+/// and again with the calendars' changes until it is known; afterwards only requestAccess() changes
+/// it. There is no timer: an event that ends stays
 /// listed until the calendars change.
 class CalendarController : public QObject {
     Q_OBJECT
@@ -55,6 +56,8 @@ Q_SIGNALS:
     void accessChanged();
 
 private:
+    void readAuthorization();
+    void readAgain();
     void takeAuthorization(CalendarAuthorization authorization);
     void setAccess(Access access);
     void takeEntries(const QList<CalendarEntry>& entries);

@@ -33,7 +33,7 @@ public:
     virtual void readEntries(const QDateTime& from, const QDateTime& to, EntriesAnswer answer) = 0;
 
 Q_SIGNALS:
-    /// Something of what was read last may be different now.
+    /// Something of what was read last may be different now, the authorisation too.
     void changed();
 };
 

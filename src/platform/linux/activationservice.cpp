@@ -5,8 +5,6 @@
 #include <QDBusMessage>
 #include <QDBusReply>
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 
 namespace quib {
@@ -45,8 +43,8 @@ QDBusMessage requestName(const QString& name)
 
 } // namespace
 
-ActivationService::ActivationService(QDBusConnection bus)
-    : m_bus(std::move(bus))
+ActivationService::ActivationService(const SessionBus& bus)
+    : m_bus(bus)
 {
 }
 
@@ -56,13 +54,21 @@ ActivationService::Answer ActivationService::claim(const QString& busName)
         return Answer::NoBus;
     }
     // The object first: whoever finds the name may call at once.
-    m_bus.registerObject(objectPath(busName), this, QDBusConnection::ExportScriptableSlots);
-    const QDBusReply<uint> reply = m_bus.call(requestName(busName), QDBus::Block, PatienceMs);
+    auto bus = m_bus.connection();
+    bus.registerObject(objectPath(busName), this, QDBusConnection::ExportScriptableSlots);
+    const QDBusReply<uint> reply = bus.call(requestName(busName), QDBus::Block, PatienceMs);
     if (reply.isValid() && (reply == PrimaryOwner || reply == AlreadyOwner)) {
         return Answer::Ours;
     }
-    m_bus.unregisterObject(objectPath(busName));
+    bus.unregisterObject(objectPath(busName));
     return reply.isValid() ? Answer::Taken : Answer::NoBus;
+}
+
+void ActivationService::reclaim(const QString& busName)
+{
+    auto bus = m_bus.connection();
+    bus.registerObject(objectPath(busName), this, QDBusConnection::ExportScriptableSlots);
+    bus.send(requestName(busName));
 }
 
 void ActivationService::activateOther(const QString& busName) const
@@ -71,7 +77,7 @@ void ActivationService::activateOther(const QString& busName) const
                                                   ApplicationInterface, u"Activate"_s);
     message.setAutoStartService(false);
     message << platformData();
-    m_bus.call(message, QDBus::Block, PatienceMs);
+    m_bus.connection().call(message, QDBus::Block, PatienceMs);
 }
 
 void ActivationService::Activate(const QVariantMap& /*platformData*/)

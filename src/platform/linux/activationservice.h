@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QDBusConnection>
-#include <QObject>
+#include "platform/linux/sessionbus.h"
+
 #include <QStringList>
 #include <QVariantMap>
 
@@ -19,9 +19,12 @@ public:
         NoBus,
     };
 
-    explicit ActivationService(QDBusConnection bus);
+    explicit ActivationService(const SessionBus& bus);
 
+    /// Waits for the bus, but not for ever.
     Answer claim(const QString& busName);
+    /// The same name on a bus that came later, or came back; does not wait.
+    void reclaim(const QString& busName);
     /// To the process that has the name. Waits for its answer, but not for ever.
     void activateOther(const QString& busName) const;
 
@@ -37,7 +40,7 @@ Q_SIGNALS:
     void activated();
 
 private:
-    QDBusConnection m_bus;
+    const SessionBus& m_bus;
 };
 
 } // namespace quib

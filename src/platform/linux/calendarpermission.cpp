@@ -114,7 +114,7 @@ std::optional<bool> consentOf(const QStringList& permissions)
 
 } // namespace
 
-CalendarPermission::CalendarPermission(QDBusConnection bus)
+CalendarPermission::CalendarPermission(std::shared_ptr<SessionBus> bus)
     : m_bus(std::move(bus))
 {
 }
@@ -132,7 +132,7 @@ void CalendarPermission::ask(CalendarStore::AccessAnswer answer)
 {
     m_asking.push_back(std::move(answer));
     if (m_asking.size() == 1) {
-        askNextOf(m_bus.isConnected() ? backends() : QStringList());
+        askNextOf(m_bus->isConnected() ? backends() : QStringList());
     }
 }
 
@@ -181,13 +181,13 @@ void CalendarPermission::answerAll(bool isGranted)
 
 bool CalendarPermission::isMissing(const QDBusPendingCall& call) const
 {
-    return call.isError() && (!m_bus.isConnected() || meansNobody(call.error()));
+    return call.isError() && (!m_bus->isConnected() || meansNobody(call.error()));
 }
 
 void CalendarPermission::send(const QDBusMessage& message, int patience, Then then)
 {
-    const auto call = m_bus.isConnected()
-        ? m_bus.asyncCall(message, patience)
+    const auto call = m_bus->isConnected()
+        ? m_bus->connection().asyncCall(message, patience)
         : QDBusPendingCall::fromError(QDBusError(QDBusError::Disconnected, {}));
     auto* watcher = new QDBusPendingCallWatcher(call, this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, then = std::move(then)] {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "integrations/calendarstore.h"
+#include "platform/linux/sessionbus.h"
 
-#include <QDBusConnection>
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
@@ -17,7 +17,7 @@ class CalendarPermission : public QObject {
     Q_OBJECT
 
 public:
-    explicit CalendarPermission(QDBusConnection bus);
+    explicit CalendarPermission(std::shared_ptr<SessionBus> bus);
 
     /// Not determined while nothing is decided. A store that hangs answers late with that.
     void read(CalendarStore::AuthorizationAnswer answer);
@@ -36,7 +36,7 @@ private:
     bool isMissing(const QDBusPendingCall& call) const;
     void send(const QDBusMessage& message, int patience, Then then);
 
-    QDBusConnection m_bus;
+    std::shared_ptr<SessionBus> m_bus;
     std::vector<CalendarStore::AccessAnswer> m_asking;
 };
 

@@ -1,7 +1,5 @@
 #include "platform/linux/edscalendarstore.h"
 
-#include "platform/linux/sessionbus.h"
-
 #include <QCoreApplication>
 #include <QPluginLoader>
 #include <QThread>
@@ -21,16 +19,17 @@ QString pluginBesideTheProgram()
 
 } // namespace
 
-EdsCalendarStore::EdsCalendarStore()
-    : EdsCalendarStore(sessionBus(), pluginBesideTheProgram())
+EdsCalendarStore::EdsCalendarStore(const std::shared_ptr<SessionBus>& bus)
+    : EdsCalendarStore(bus, pluginBesideTheProgram())
 {
 }
 
-EdsCalendarStore::EdsCalendarStore(const QDBusConnection& bus, QString plugin)
-    : m_permission(bus)
+EdsCalendarStore::EdsCalendarStore(const std::shared_ptr<SessionBus>& bus, QString plugin)
+    : m_bus(bus)
+    , m_permission(bus)
     , m_plugin(std::move(plugin))
-    , m_hasBus(bus.isConnected())
 {
+    connect(m_bus.get(), &SessionBus::connected, this, &CalendarStore::changed);
 }
 
 EdsCalendarStore::~EdsCalendarStore() = default;
@@ -59,7 +58,8 @@ void EdsCalendarStore::requestFullAccess(AccessAnswer answer)
 
 void EdsCalendarStore::readEntries(const QDateTime& from, const QDateTime& to, EntriesAnswer answer)
 {
-    if (m_state == State::Closed && m_isGranted) {
+    // Without a bus the service's library would start a stray one.
+    if (m_state == State::Closed && m_isGranted && m_bus->isConnected()) {
         open();
     }
     const Question question{.from = from, .to = to, .answer = std::move(answer)};
@@ -72,10 +72,6 @@ void EdsCalendarStore::readEntries(const QDateTime& from, const QDateTime& to, E
 
 void EdsCalendarStore::open()
 {
-    if (!m_hasBus) {
-        m_state = State::Missing; // The service's library would start a stray bus.
-        return;
-    }
     m_state = State::Opening;
     // Its libraries may come from a slow disk. Nobody waits for the thread at the end.
     auto* thread = QThread::create([plugin = m_plugin] { QPluginLoader(plugin).load(); });

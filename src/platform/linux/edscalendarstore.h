@@ -17,8 +17,8 @@ class EdsCalendarStore final : public CalendarStore {
 
 public:
     /// With the plugin beside the program.
-    EdsCalendarStore();
-    EdsCalendarStore(const QDBusConnection& bus, QString plugin);
+    explicit EdsCalendarStore(const std::shared_ptr<SessionBus>& bus);
+    EdsCalendarStore(const std::shared_ptr<SessionBus>& bus, QString plugin);
     ~EdsCalendarStore() override;
     EdsCalendarStore(const EdsCalendarStore&) = delete;
     EdsCalendarStore& operator=(const EdsCalendarStore&) = delete;
@@ -41,9 +41,9 @@ private:
     void close();
     void ask(const Question& question);
 
+    std::shared_ptr<SessionBus> m_bus;
     CalendarPermission m_permission;
     QString m_plugin;
-    bool m_hasBus;
     bool m_isGranted = false;
     bool m_wasAnswered = false; ///< By the user, which counts more than what was read.
     State m_state = State::Closed;

@@ -19,6 +19,10 @@ namespace quib {
 namespace {
 
 constexpr auto PlainText = "text/plain";
+
+std::atomic<GDBusConnection*> keptBus = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables):
+                                                 // GIO's own is of the process too
+
 constexpr QByteArrayView ElfMagic("\x7f"
                                   "ELF");
 
@@ -57,13 +61,15 @@ bool isProgram(const QByteArray& path)
 /// over one that is closed is forgotten. No thread waits here for another.
 bool keepBus()
 {
-    static std::atomic<GDBusConnection*> kept = nullptr;
-    auto* const bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
-    if (bus == nullptr) {
+    GOwned<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
+    if (!bus) {
         return false;
     }
-    g_dbus_connection_set_exit_on_close(bus, FALSE);
-    const GOwned<GDBusConnection> before(kept.exchange(bus));
+    g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
+    if (g_dbus_connection_is_closed(bus.get()) != FALSE) {
+        return false; // Somebody else has kept it too long.
+    }
+    const GOwned<GDBusConnection> before(keptBus.exchange(bus.release()));
     return true;
 }
 
@@ -193,6 +199,11 @@ bool launchWith(const QByteArray& path, const QByteArray& candidate)
 }
 
 } // namespace
+
+void forgetBus()
+{
+    const GOwned<GDBusConnection> forgotten(keptBus.exchange(nullptr));
+}
 
 void launchPath(const QByteArray& path)
 {

@@ -14,4 +14,7 @@ void launchAddress(const QByteArray& address);
 void launchWithFirst(const QByteArray& path, const QByteArrayList& candidates);
 void launchInTextEditor(const QByteArray& path);
 
+/// Once the bus is lost, or GIO would not connect to the next one. Does not wait.
+void forgetBus();
+
 } // namespace quib

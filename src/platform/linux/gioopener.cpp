@@ -1,7 +1,6 @@
 #include "platform/linux/gioopener.h"
 
 #include "platform/linux/giolaunch.h"
-#include "platform/linux/sessionbus.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -35,13 +34,11 @@ QDBusMessage showItems(const QString& path)
 
 } // namespace
 
-GioOpener::GioOpener(const Patience& patience)
-    : m_patience(patience)
+GioOpener::GioOpener(std::shared_ptr<SessionBus> bus, const Patience& patience)
+    : m_bus(std::move(bus))
+    , m_patience(patience)
 {
-    if (!hasSessionBus()) {
-        // Where it finds none GIO would start a stray bus, that no other program is on.
-        qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-    }
+    connect(m_bus.get(), &SessionBus::lost, this, forgetBus);
 }
 
 GioOpener::~GioOpener()
@@ -77,14 +74,14 @@ void GioOpener::openInTextEditor(const QString& path)
 
 void GioOpener::reveal(const QString& path)
 {
-    const auto bus = sessionBus();
-    if (!bus.isConnected()) {
+    if (!m_bus->isConnected()) {
         openFolderOf(path);
         return;
     }
     QElapsedTimer asked;
     asked.start();
-    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(showItems(path)), this);
+    auto* watcher
+        = new QDBusPendingCallWatcher(m_bus->connection().asyncCall(showItems(path)), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, asked, path] {
         watcher->deleteLater();
         if (watcher->isError() && asked.elapsed() < m_patience.withFileManager.count()) {

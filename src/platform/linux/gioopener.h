@@ -1,12 +1,12 @@
 #pragma once
 
 #include "integrations/opener.h"
-
-#include <QObject>
+#include "platform/linux/sessionbus.h"
 
 #include <chrono>
 #include <functional>
 #include <future>
+#include <utility>
 #include <vector>
 
 namespace quib {
@@ -22,9 +22,9 @@ public:
         std::chrono::milliseconds atTheEnd = std::chrono::milliseconds(200);
     };
 
-    explicit GioOpener(const Patience& patience);
-    GioOpener()
-        : GioOpener(Patience())
+    GioOpener(std::shared_ptr<SessionBus> bus, const Patience& patience);
+    explicit GioOpener(std::shared_ptr<SessionBus> bus)
+        : GioOpener(std::move(bus), Patience())
     {
     }
     ~GioOpener() override;
@@ -42,6 +42,7 @@ private:
     /// On a thread of its own: what hangs on a dead disk does not hold up the next opening.
     void inBackground(std::function<void()> work);
 
+    std::shared_ptr<SessionBus> m_bus;
     Patience m_patience;
     std::vector<std::future<void>> m_underWay;
 };

@@ -1,19 +1,14 @@
 #include "platform/linux/linuxinstance.h"
 
 #include "platform/linux/instancename.h"
-#include "platform/linux/sessionbus.h"
 
 #include <utility>
 
 namespace quib {
 
-LinuxInstance::LinuxInstance()
-    : LinuxInstance(sessionBus())
-{
-}
-
-LinuxInstance::LinuxInstance(QDBusConnection bus)
-    : m_service(std::move(bus))
+LinuxInstance::LinuxInstance(std::shared_ptr<SessionBus> bus)
+    : m_bus(std::move(bus))
+    , m_service(*m_bus)
 {
     connect(&m_service, &ActivationService::activated, this, &LinuxInstance::activated);
 }
@@ -31,6 +26,7 @@ bool LinuxInstance::claim(const QString& dataFolder)
         return false;
     }
     connect(m_lock.get(), &InstanceLock::knocked, this, &LinuxInstance::activated);
+    connect(m_bus.get(), &SessionBus::connected, this, [this, name] { m_service.reclaim(name); });
     return true;
 }
 

@@ -2,7 +2,6 @@
 
 #include "platform/linux/launchinstalled.h"
 #include "platform/linux/mprisreply.h"
-#include "platform/linux/sessionbus.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -55,19 +54,17 @@ QString methodOf(const QString& verb)
 
 } // namespace
 
-MprisPlayerLink::MprisPlayerLink()
-    : MprisPlayerLink(sessionBus())
-{
-}
-
-MprisPlayerLink::MprisPlayerLink(QDBusConnection bus)
+MprisPlayerLink::MprisPlayerLink(std::shared_ptr<SessionBus> bus)
     : m_bus(std::move(bus))
 {
-    if (m_bus.isConnected()) {
-        followNames();
-        listNames();
+    connect(m_bus.get(), &SessionBus::connected, this, &MprisPlayerLink::followPlayers);
+    connect(m_bus.get(), &SessionBus::lost, this, &MprisPlayerLink::forgetPlayers);
+    if (m_bus->isConnected()) {
+        followPlayers();
     }
 }
+
+MprisPlayerLink::~MprisPlayerLink() = default;
 
 bool MprisPlayerLink::isRunning(Player player) const
 {
@@ -92,7 +89,7 @@ QDBusPendingCall MprisPlayerLink::ask(const QString& name) const
     }
     auto message = callOf(name, PropertiesInterface, u"GetAll"_s);
     message << QString(PlayerInterface);
-    return m_bus.asyncCall(message, PatienceMs);
+    return m_bus->connection().asyncCall(message, PatienceMs);
 }
 
 void MprisPlayerLink::send(Player player, const QString& verb)
@@ -100,7 +97,7 @@ void MprisPlayerLink::send(Player player, const QString& verb)
     const auto name = m_players.nameOf(player);
     const auto method = methodOf(verb);
     if (!name.isEmpty() && !method.isEmpty()) {
-        m_bus.asyncCall(callOf(name, PlayerInterface, method), PatienceMs);
+        m_bus->connection().asyncCall(callOf(name, PlayerInterface, method), PatienceMs);
     }
 }
 
@@ -109,21 +106,33 @@ void MprisPlayerLink::launchSpotify()
     launchFirstInstalled(spotifyEntries());
 }
 
+void MprisPlayerLink::followPlayers()
+{
+    followNames();
+    listNames();
+}
+
+void MprisPlayerLink::forgetPlayers()
+{
+    m_names.reset();
+    m_players = {};
+}
+
 /// Before they are listed, so that no coming or going is missed.
 void MprisPlayerLink::followNames()
 {
-    auto* watcher
-        = new QDBusServiceWatcher(AnyPlayer, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this,
+    m_names = std::make_unique<QDBusServiceWatcher>(AnyPlayer, m_bus->connection(),
+                                                    QDBusServiceWatcher::WatchForOwnerChange);
+    connect(m_names.get(), &QDBusServiceWatcher::serviceRegistered, this,
             [this](const QString& name) { m_players.add({name}); });
-    connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this,
+    connect(m_names.get(), &QDBusServiceWatcher::serviceUnregistered, this,
             [this](const QString& name) { m_players.remove(name); });
 }
 
 void MprisPlayerLink::listNames()
 {
     const auto message = QDBusMessage::createMethodCall(BusName, BusPath, BusName, u"ListNames"_s);
-    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
+    auto* watcher = new QDBusPendingCallWatcher(m_bus->connection().asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         watcher->deleteLater();
         const QDBusPendingReply<QStringList> names = *watcher;

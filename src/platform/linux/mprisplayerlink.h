@@ -2,19 +2,24 @@
 
 #include "integrations/playerlink.h"
 #include "platform/linux/musicplayers.h"
+#include "platform/linux/sessionbus.h"
 
-#include <QDBusConnection>
 #include <QDBusPendingCall>
+
+class QDBusServiceWatcher;
 
 namespace quib {
 
-/// Players on the session bus that speak MPRIS. Without a bus none runs.
+/// Players on the session bus that speak MPRIS. Without a bus none runs;
+/// once it is back, those that are on it do.
 class MprisPlayerLink final : public PlayerLink {
     Q_OBJECT
 
 public:
-    explicit MprisPlayerLink(QDBusConnection bus);
-    MprisPlayerLink();
+    explicit MprisPlayerLink(std::shared_ptr<SessionBus> bus = std::make_shared<SessionBus>());
+    ~MprisPlayerLink() override;
+    MprisPlayerLink(const MprisPlayerLink&) = delete;
+    MprisPlayerLink& operator=(const MprisPlayerLink&) = delete;
 
     bool isRunning(Player player) const override;
     void query(Player player, Reply reply) override;
@@ -23,10 +28,13 @@ public:
 
 private:
     QDBusPendingCall ask(const QString& name) const;
+    void followPlayers();
+    void forgetPlayers();
     void followNames();
     void listNames();
 
-    QDBusConnection m_bus;
+    std::shared_ptr<SessionBus> m_bus;
+    std::unique_ptr<QDBusServiceWatcher> m_names; ///< Null while there is no bus.
     MusicPlayers m_players;
 };
 

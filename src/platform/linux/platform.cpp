@@ -21,6 +21,25 @@
 
 namespace quib {
 
+namespace {
+
+Platform makeSeamsWithoutDisplay(const std::shared_ptr<SessionBus>& bus)
+{
+    auto desktop = std::make_unique<PortalDesktop>(bus);
+    auto icons = std::make_unique<ThemeIconSource>();
+    QObject::connect(desktop.get(), &PortalDesktop::iconThemeNamed, icons.get(),
+                     &ThemeIconSource::setTheme);
+    return {.desktop = std::move(desktop),
+            .applications = std::make_unique<GioAppCatalog>(),
+            .opener = std::make_unique<GioOpener>(bus),
+            .player = std::make_unique<MprisPlayerLink>(bus),
+            .calendar = std::make_unique<EdsCalendarStore>(bus),
+            .icons = std::move(icons),
+            .files = std::make_unique<DiskProbe>()};
+}
+
+} // namespace
+
 bool hasDisplay()
 {
     return isServerReachable();
@@ -28,14 +47,15 @@ bool hasDisplay()
 
 Platform makePlatform()
 {
-    auto platform = makePlatformWithoutDisplay();
+    const auto bus = std::make_shared<SessionBus>();
+    auto platform = makeSeamsWithoutDisplay(bus);
     platform.screens = std::make_unique<XcbScreenSource>();
     platform.pointer = std::make_unique<XcbPointerSource>();
     auto panelHost = std::make_unique<XcbPanelHost>();
     platform.filePicker = std::make_unique<PickerProgram>(*panelHost);
     platform.panelHost = std::move(panelHost);
-    platform.instance = std::make_unique<LinuxInstance>();
-    platform.statusItem = std::make_unique<StatusNotifier>();
+    platform.instance = std::make_unique<LinuxInstance>(bus);
+    platform.statusItem = std::make_unique<StatusNotifier>(bus);
     platform.loginItem = std::make_unique<AutostartEntry>();
     platform.quitSignals = std::make_unique<QuitSignals>();
     return platform;
@@ -43,17 +63,7 @@ Platform makePlatform()
 
 Platform makePlatformWithoutDisplay()
 {
-    auto desktop = std::make_unique<PortalDesktop>();
-    auto icons = std::make_unique<ThemeIconSource>();
-    QObject::connect(desktop.get(), &PortalDesktop::iconThemeNamed, icons.get(),
-                     &ThemeIconSource::setTheme);
-    return {.desktop = std::move(desktop),
-            .applications = std::make_unique<GioAppCatalog>(),
-            .opener = std::make_unique<GioOpener>(),
-            .player = std::make_unique<MprisPlayerLink>(),
-            .calendar = std::make_unique<EdsCalendarStore>(),
-            .icons = std::move(icons),
-            .files = std::make_unique<DiskProbe>()};
+    return makeSeamsWithoutDisplay(std::make_shared<SessionBus>());
 }
 
 } // namespace quib

@@ -1,6 +1,5 @@
 #include "platform/linux/portaldesktop.h"
 
-#include "platform/linux/sessionbus.h"
 #include "platform/linux/x11/xserver.h"
 
 #include <QDBusMessage>
@@ -34,26 +33,18 @@ constexpr auto IconThemeKey = "icon-theme"_L1;
 
 } // namespace
 
-PortalDesktop::PortalDesktop()
-    : PortalDesktop(sessionBus())
-{
-}
-
-PortalDesktop::PortalDesktop(QDBusConnection bus)
+PortalDesktop::PortalDesktop(std::shared_ptr<SessionBus> bus)
     : m_bus(std::move(bus))
 {
-    if (!m_bus.isConnected()) {
-        return;
-    }
     qDBusRegisterMetaType<Settings>();
-    auto* watcher = new QDBusServiceWatcher(PortalName, m_bus,
-                                            QDBusServiceWatcher::WatchForRegistration, this);
-    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &PortalDesktop::readSettings);
-    // Without the name of the sender, which Qt would ask the bus for and wait.
-    m_bus.connect({}, PortalPath, SettingsInterface, u"SettingChanged"_s, this,
-                  SLOT(takeSetting(QString, QString, QDBusVariant)));
-    readSettings();
+    connect(m_bus.get(), &SessionBus::connected, this, &PortalDesktop::followPortal);
+    connect(m_bus.get(), &SessionBus::lost, this, [this] { m_portal.reset(); });
+    if (m_bus->isConnected()) {
+        followPortal();
+    }
 }
+
+PortalDesktop::~PortalDesktop() = default;
 
 QString PortalDesktop::fontFamily() const
 {
@@ -69,13 +60,26 @@ void PortalDesktop::beep()
     ringBell();
 }
 
+void PortalDesktop::followPortal()
+{
+    auto bus = m_bus->connection();
+    m_portal = std::make_unique<QDBusServiceWatcher>(PortalName, bus,
+                                                     QDBusServiceWatcher::WatchForRegistration);
+    connect(m_portal.get(), &QDBusServiceWatcher::serviceRegistered, this,
+            &PortalDesktop::readSettings);
+    // Without the name of the sender, which Qt would ask the bus for and wait.
+    bus.connect({}, PortalPath, SettingsInterface, u"SettingChanged"_s, this,
+                SLOT(takeSetting(QString, QString, QDBusVariant)));
+    readSettings();
+}
+
 void PortalDesktop::readSettings()
 {
     auto message
         = QDBusMessage::createMethodCall(PortalName, PortalPath, SettingsInterface, u"ReadAll"_s);
     message.setAutoStartService(false);
     message << QStringList{AppearanceSpace, InterfaceSpace};
-    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
+    auto* watcher = new QDBusPendingCallWatcher(m_bus->connection().asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         watcher->deleteLater();
         const QDBusPendingReply<Settings> reply = *watcher;

@@ -1,36 +1,144 @@
 #include "platform/linux/sessionbus.h"
 
-#include <QFileInfo>
+#include <QFile>
+#include <QUuid>
+
+#include <string_view>
+#include <utility>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace quib {
 
 namespace {
 
-const auto NoBus = u"none"_s;
+constexpr auto Variable = "DBUS_SESSION_BUS_ADDRESS";
+constexpr auto NoAddress = "disabled:"_L1;
+constexpr auto NoConnection = "none"_L1;
+constexpr auto LocalPath = "/org/freedesktop/DBus/Local"_L1; // The connection itself speaks there.
+constexpr auto LocalInterface = "org.freedesktop.DBus.Local"_L1;
+
+constexpr std::string_view Greeting("\0AUTH\r\n", 7); ///< Answered with the ways to log in.
+constexpr auto PatienceAtTheStart = 1s;
+
+QString addressOfTheSession()
+{
+    const auto given = qEnvironmentVariable(Variable);
+    const auto runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (!given.isEmpty() || runtimeFolder.isEmpty()) {
+        return given;
+    }
+    const GText path(
+        g_dbus_address_escape_value((QFile::encodeName(runtimeFolder) + "/bus").constData()));
+    return u"unix:path="_s + QString::fromLatin1(path.get());
+}
+
+/// Other ways would start a bus.
+bool leadsToABus(const QByteArray& address)
+{
+    return !address.contains("autolaunch:")
+        && g_dbus_is_supported_address(address.constData(), nullptr) != FALSE;
+}
+
+/// Whether somebody there speaks as a bus does. Waits for one that hangs to go on.
+bool answers(const QByteArray& address, GCancellable* end)
+{
+    const GOwned<GIOStream> stream(
+        g_dbus_address_get_stream_sync(address.constData(), nullptr, end, nullptr));
+    if (!stream) {
+        return false;
+    }
+    auto* const out = g_io_stream_get_output_stream(stream.get());
+    auto* const in = g_io_stream_get_input_stream(stream.get());
+    char answer = 0;
+    return g_output_stream_write_all(out, Greeting.data(), Greeting.size(), nullptr, end, nullptr)
+        && g_input_stream_read(in, &answer, 1, end, nullptr) > 0;
+}
 
 } // namespace
 
-bool hasSessionBus()
+SessionBus::SessionBus()
+    : SessionBus(addressOfTheSession())
 {
-    if (!qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")) {
-        return true;
+    connect(this, &SessionBus::connected, this, &SessionBus::tellOthers);
+    connect(this, &SessionBus::lost, this, &SessionBus::tellOthers);
+    tellOthers();
+}
+
+SessionBus::SessionBus(QString address)
+    : m_address(std::move(address))
+    , m_connection(NoConnection)
+{
+    if (!leadsToABus(m_address.toLatin1())) {
+        return;
     }
-    const auto runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    return !runtimeFolder.isEmpty() && QFileInfo::exists(runtimeFolder + u"/bus"_s);
+    m_wait = std::make_unique<BusWait>(m_address);
+    connect(m_wait.get(), &BusWait::isWorthATry, this, &SessionBus::reach);
+    reach();
+    if (m_attempt->wait(QDeadlineTimer(PatienceAtTheStart))) {
+        takeConnection();
+    }
 }
 
-QDBusConnection sessionBus()
+SessionBus::~SessionBus()
 {
-    return hasSessionBus() ? QDBusConnection::sessionBus() : QDBusConnection(NoBus);
+    g_cancellable_cancel(m_end.get());
+    if (m_attempt) {
+        m_attempt->wait();
+    }
+    QDBusConnection::disconnectFromBus(m_name);
 }
 
-QDBusConnection ownSessionBus(const QString& connectionName)
+/// Qt's own thread would wait for a bus that hangs, and with it whoever uses any bus.
+void SessionBus::reach()
 {
-    return hasSessionBus()
-        ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName)
-        : QDBusConnection(NoBus);
+    if (m_attempt || isConnected()) {
+        return;
+    }
+    m_name = u"quib "_s + QUuid::createUuid().toString(QUuid::Id128);
+    m_attempt.reset(QThread::create([address = m_address, name = m_name, end = m_end.get()] {
+        if (answers(address.toLatin1(), end)) {
+            QDBusConnection::connectToBus(address, name);
+        }
+    }));
+    connect(m_attempt.get(), &QThread::finished, this, &SessionBus::takeConnection);
+    m_attempt->start();
+}
+
+void SessionBus::takeConnection()
+{
+    if (!m_attempt || !m_attempt->isFinished()) {
+        return;
+    }
+    m_attempt->wait();
+    m_attempt.reset();
+    QDBusConnection connection(m_name);
+    connection.connect({}, LocalPath, LocalInterface, u"Disconnected"_s, this, SLOT(lose()));
+    if (!connection.isConnected()) {
+        QDBusConnection::disconnectFromBus(m_name);
+        m_wait->again();
+        return;
+    }
+    m_wait->stop();
+    m_connection = connection;
+    Q_EMIT connected();
+}
+
+void SessionBus::lose()
+{
+    Q_EMIT lost();
+    m_connection = QDBusConnection(NoConnection);
+    QDBusConnection::disconnectFromBus(m_name);
+    m_wait->again();
+}
+
+void SessionBus::tellOthers() const
+{
+    const auto address = isConnected() ? m_address : QString(NoAddress);
+    if (qEnvironmentVariable(Variable) != address) {
+        qputenv(Variable, address.toLatin1());
+    }
 }
 
 } // namespace quib

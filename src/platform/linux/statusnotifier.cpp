@@ -1,7 +1,5 @@
 #include "platform/linux/statusnotifier.h"
 
-#include "platform/linux/sessionbus.h"
-
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -21,8 +19,6 @@ constexpr auto WatcherPath = "/StatusNotifierWatcher"_L1;
 constexpr auto WatcherInterface = "org.kde.StatusNotifierWatcher"_L1;
 constexpr auto ItemPath = "/StatusNotifierItem"_L1; // Where watchers look when told only a name.
 constexpr auto MenuPath = "/MenuBar"_L1;
-constexpr auto LocalPath = "/org/freedesktop/DBus/Local"_L1; // The connection itself speaks there.
-constexpr auto LocalInterface = "org.freedesktop.DBus.Local"_L1;
 
 /// A hung watcher answers once it goes on, and the bus answers for one that dies.
 constexpr int ForEver = std::numeric_limits<int>::max();
@@ -51,57 +47,59 @@ std::unique_ptr<QDBusPendingCallWatcher> ask(const QDBusConnection& bus, QDBusMe
 
 } // namespace
 
-StatusNotifier::StatusNotifier(QDBusConnection bus)
+StatusNotifier::StatusNotifier(std::shared_ptr<SessionBus> bus)
     : m_bus(std::move(bus))
     , m_item(MenuPath)
 {
     connect(&m_menu, &MenuService::willOpen, this, &StatusItem::menuWillOpen);
     connect(&m_menu, &MenuService::chosen, this, &StatusItem::chosen);
     connect(&m_item, &ItemService::pressed, this, &StatusItem::pressed);
+    connect(m_bus.get(), &SessionBus::connected, this, &StatusNotifier::enterBus);
+    connect(m_bus.get(), &SessionBus::lost, this, &StatusNotifier::leaveBus);
 }
 
-StatusNotifier::StatusNotifier()
-    : StatusNotifier(ownSessionBus(u"status item"_s))
-{
-}
-
-StatusNotifier::~StatusNotifier()
-{
-    QDBusConnection::disconnectFromBus(m_bus.name());
-}
+StatusNotifier::~StatusNotifier() = default;
 
 void StatusNotifier::install(const StatusIcon& icon)
 {
     m_item.setIcon(icon);
-    if (!m_bus.isConnected()) {
+    m_isInstalled = true;
+    enterBus();
+}
+
+void StatusNotifier::enterBus()
+{
+    if (!m_isInstalled || !m_bus->isConnected()) {
         return;
     }
     // The objects first: whoever hears of the item may ask at once.
     const auto contents = QDBusConnection::ExportScriptableContents;
-    m_bus.registerObject(MenuPath, &m_menu, contents);
-    m_bus.registerObject(ItemPath, &m_item, contents);
+    auto bus = m_bus->connection();
+    bus.registerObject(MenuPath, &m_menu, contents);
+    bus.registerObject(ItemPath, &m_item, contents);
     followWatcher();
     tellWatcher();
 }
 
+/// No bus, no status bar that shows anything.
+void StatusNotifier::leaveBus()
+{
+    m_watcher.reset();
+    changeWatcher({}, {}, {});
+}
+
 void StatusNotifier::followWatcher()
 {
-    auto* watcher = new QDBusServiceWatcher(WatcherName, m_bus,
-                                            QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+    auto bus = m_bus->connection();
+    m_watcher = std::make_unique<QDBusServiceWatcher>(WatcherName, bus,
+                                                      QDBusServiceWatcher::WatchForOwnerChange);
+    connect(m_watcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
             &StatusNotifier::changeWatcher);
     for (const auto& signal :
          {u"StatusNotifierHostRegistered"_s, u"StatusNotifierHostUnregistered"_s}) {
         // Without the name of the sender, which Qt would ask the bus for and wait.
-        m_bus.connect({}, WatcherPath, WatcherInterface, signal, this, SLOT(askForHost()));
+        bus.connect({}, WatcherPath, WatcherInterface, signal, this, SLOT(askForHost()));
     }
-    m_bus.connect({}, LocalPath, LocalInterface, u"Disconnected"_s, this, SLOT(loseBus()));
-}
-
-/// No bus, no status bar that shows anything.
-void StatusNotifier::loseBus()
-{
-    changeWatcher({}, {}, {});
 }
 
 void StatusNotifier::changeWatcher(const QString& /*name*/, const QString& /*before*/,
@@ -117,7 +115,7 @@ void StatusNotifier::changeWatcher(const QString& /*name*/, const QString& /*bef
 
 void StatusNotifier::tellWatcher()
 {
-    m_registration = ask(m_bus, registration(m_bus.baseService()));
+    m_registration = ask(m_bus->connection(), registration(m_bus->connection().baseService()));
     connect(m_registration.get(), &QDBusPendingCallWatcher::finished, this,
             &StatusNotifier::askForHost);
 }
@@ -127,7 +125,7 @@ void StatusNotifier::askForHost()
     if (!m_registration || !m_registration->isFinished() || m_registration->isError()) {
         return;
     }
-    m_hostAnswer = ask(m_bus, hostQuestion());
+    m_hostAnswer = ask(m_bus->connection(), hostQuestion());
     connect(m_hostAnswer.get(), &QDBusPendingCallWatcher::finished, this,
             &StatusNotifier::takeAnswer);
 }

@@ -3,24 +3,23 @@
 #include "app/notch/statusitem.h"
 #include "platform/linux/itemservice.h"
 #include "platform/linux/menuservice.h"
-
-#include <QDBusConnection>
+#include "platform/linux/sessionbus.h"
 
 #include <memory>
 
 class QDBusPendingCallWatcher;
+class QDBusServiceWatcher;
 
 namespace quib {
 
 /// An item as the StatusNotifierItem protocol has it, with its menu on the bus. Told to the
-/// desktop's watcher whenever one appears; none is ever started or waited for.
+/// desktop's watcher whenever one appears, also on a bus that came back; none is ever started or
+/// waited for.
 class StatusNotifier final : public StatusItem {
     Q_OBJECT
 
 public:
-    /// On a connection that nobody else uses, closed at the end.
-    explicit StatusNotifier(QDBusConnection bus);
-    StatusNotifier();
+    explicit StatusNotifier(std::shared_ptr<SessionBus> bus = std::make_shared<SessionBus>());
     ~StatusNotifier() override;
     StatusNotifier(const StatusNotifier&) = delete;
     StatusNotifier& operator=(const StatusNotifier&) = delete;
@@ -31,22 +30,25 @@ public:
 
 private Q_SLOTS:
     void askForHost();
-    void loseBus();
 
 private: // NOLINT(readability-redundant-access-specifiers): ends the slots
     using Answer = std::unique_ptr<QDBusPendingCallWatcher>;
 
+    void enterBus();
+    void leaveBus();
     void followWatcher();
     void changeWatcher(const QString& name, const QString& before, const QString& now);
     void tellWatcher();
     void takeAnswer();
     void setShown(bool isShown);
 
-    QDBusConnection m_bus;
+    std::shared_ptr<SessionBus> m_bus;
     MenuService m_menu;
     ItemService m_item;
+    std::unique_ptr<QDBusServiceWatcher> m_watcher; ///< Null while there is no bus.
     Answer m_registration; ///< Of the watcher there is now.
     Answer m_hostAnswer;
+    bool m_isInstalled = false;
     bool m_isShown = false;
 };
 

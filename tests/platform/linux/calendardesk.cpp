@@ -25,16 +25,17 @@ constexpr int LongEnoughMs = 20'000;
 
 const auto Connection = u"calendardesk"_s;
 
-QByteArray busConfiguration(const QString& services, int patience)
+QByteArray busConfiguration(const QString& socket, const QString& services, int patience)
 {
     return u"<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\" "
            "\"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">"
-           "<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen>"
+           "<busconfig><type>session</type><listen>unix:path=%3</listen>"
            "<servicedir>%1</servicedir><policy context=\"default\">"
            "<allow send_destination=\"*\" eavesdrop=\"true\"/><allow eavesdrop=\"true\"/>"
            "<allow own=\"*\"/></policy><limit name=\"service_start_timeout\">%2</limit>"
            "</busconfig>"_s.arg(services)
                .arg(patience)
+               .arg(socket)
                .toUtf8();
 }
 
@@ -105,7 +106,8 @@ void CalendarDesk::startBus(const QStringList& services, int startingMs)
         QFile::link(u"/usr/share/dbus-1/services/%1.service"_s.arg(service),
                     path(u"services/%1.service"_s.arg(service)));
     }
-    writeFile(path(u"bus.conf"_s), busConfiguration(path(u"services"_s), startingMs));
+    writeFile(path(u"bus.conf"_s),
+              busConfiguration(path(u"socket"_s), path(u"services"_s), startingMs));
     m_bus.setProcessEnvironment(environment);
     m_bus.setStandardErrorFile(QProcess::nullDevice());
     m_bus.start(u"dbus-daemon"_s,

@@ -35,7 +35,7 @@ QJsonObject describe(const CalendarEntry& entry)
 class Commands : public QObject {
 public:
     explicit Commands(const QString& plugin)
-        : m_store(sessionBus(), plugin)
+        : m_store(std::make_shared<SessionBus>(), plugin)
     {
         connect(&m_store, &CalendarStore::changed, this, [] { say(u"changed"_s); });
         connect(&m_input, &QSocketNotifier::activated, this, &Commands::readInput);

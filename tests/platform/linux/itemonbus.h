@@ -14,11 +14,8 @@ namespace quib {
 class ItemOnBus {
 public:
     ItemOnBus()
-        : m_name(itemBus().baseService())
-        , m_item(itemBus())
+        : ItemOnBus(std::make_shared<SessionBus>())
     {
-        m_item.install(squareIcon());
-        m_item.setMenu(quibMenu());
     }
 
     ~ItemOnBus() { QDBusConnection::disconnectFromBus(m_host.name()); }
@@ -63,9 +60,12 @@ public:
     }
 
 private:
-    static QDBusConnection itemBus()
+    explicit ItemOnBus(const std::shared_ptr<SessionBus>& bus)
+        : m_name(bus->connection().baseService())
+        , m_item(bus)
     {
-        return QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("item"));
+        m_item.install(squareIcon());
+        m_item.setMenu(quibMenu());
     }
 
     QDBusConnection m_host

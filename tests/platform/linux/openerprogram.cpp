@@ -83,7 +83,7 @@ int main(int argc, char* argv[])
     qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
     signal(SIGPIPE, SIG_IGN); // As the library of the bus does.
     blockASignal();
-    GioOpener opener(patience());
+    GioOpener opener(std::make_shared<SessionBus>(), patience());
     QTextStream out(stdout);
     QFile in;
     if (!in.open(STDIN_FILENO, QIODevice::ReadOnly | QIODevice::Unbuffered)) {

@@ -27,7 +27,11 @@ struct PermissionDesk {
         startAgain();
     }
 
-    void startAgain() { permission = std::make_unique<quib::CalendarPermission>(desk.bus()); }
+    void startAgain()
+    {
+        permission = std::make_unique<quib::CalendarPermission>(
+            std::make_shared<quib::SessionBus>(address()));
+    }
 
     QString address() const
     {

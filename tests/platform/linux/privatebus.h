@@ -1,11 +1,15 @@
 #pragma once
 
+#include "support/sendsignal.h"
+
 #include <QDBusConnection>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
-/// A bus that can start the programs a test names, and that can die.
+#include <csignal>
+
+/// A bus that can start the programs a test names, and that can hang, die and come back.
 class PrivateBus {
 public:
     explicit PrivateBus(const QString& connectionName)
@@ -13,11 +17,7 @@ public:
     {
     }
 
-    ~PrivateBus()
-    {
-        QDBusConnection::disconnectFromBus(m_connectionName);
-        die();
-    }
+    ~PrivateBus() { die(); }
     Q_DISABLE_COPY_MOVE(PrivateBus)
 
     /// Whoever calls the name while nobody owns it has the program started.
@@ -37,19 +37,25 @@ public:
                        {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
                         QStringLiteral("--config-file=") + settings});
         m_daemon.waitForReadyRead();
-        m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
+        m_daemon.readAll();
         return connection().isConnected();
     }
 
-    QString address() const { return m_address; }
+    /// The same each time that it starts.
+    QString address() const { return QStringLiteral("unix:path=") + socket(); }
+    QString socket() const { return m_folder.filePath(QStringLiteral("bus")); }
     QDBusConnection connection() const { return connect(m_connectionName); }
     QDBusConnection connect(const QString& name) const
     {
-        return QDBusConnection::connectToBus(m_address, name);
+        return QDBusConnection::connectToBus(address(), name);
     }
+
+    void hang() const { sendSignal(m_daemon.processId(), SIGSTOP); }
+    void goOn() const { sendSignal(m_daemon.processId(), SIGCONT); }
 
     void die()
     {
+        QDBusConnection::disconnectFromBus(m_connectionName);
         m_daemon.kill();
         m_daemon.waitForFinished();
     }
@@ -57,7 +63,7 @@ public:
 private:
     static QString rules()
     {
-        return QStringLiteral("<busconfig><type>session</type><listen>unix:dir=%1</listen>"
+        return QStringLiteral("<busconfig><type>session</type><listen>unix:path=%1/bus</listen>"
                               "<servicedir>%1</servicedir><policy context=\"default\">"
                               "<allow send_destination=\"*\"/><allow receive_sender=\"*\"/><allow "
                               "own=\"*\"/></policy>"
@@ -73,5 +79,4 @@ private:
     QString m_connectionName;
     QTemporaryDir m_folder;
     QProcess m_daemon;
-    QString m_address;
 };

@@ -8,12 +8,11 @@
 int main(int argc, char* argv[])
 {
     const QGuiApplication application(argc, argv);
-    const auto bus
-        = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("item"));
+    const auto bus = std::make_shared<quib::SessionBus>();
     quib::StatusNotifier item(bus);
     QObject::connect(&item, &quib::StatusItem::chosen, &application, &QCoreApplication::quit);
     item.install(quib::squareIcon());
     item.setMenu(quib::quibMenu());
-    QTextStream(stdout) << bus.baseService() << Qt::endl;
+    QTextStream(stdout) << bus->connection().baseService() << Qt::endl;
     return QCoreApplication::exec();
 }

@@ -164,7 +164,8 @@ void CalendarPermissionTest::ask_storeThatCannotStart_isKeptInAFile()
 void CalendarPermissionTest::ask_noBus_isKeptInAFile()
 {
     PermissionDesk session;
-    session.permission = std::make_unique<CalendarPermission>(QDBusConnection(u"none"_s));
+    session.permission
+        = std::make_unique<CalendarPermission>(std::make_shared<SessionBus>(QString()));
     QCOMPARE(session.read(), CalendarAuthorization::NotDetermined);
 
     QCOMPARE(session.ask(), true);

@@ -39,6 +39,8 @@ private Q_SLOTS:
     void noBus_isEmpty();
     void noPlugin_isEmpty();
     void deadBus_isSurvived();
+    void busBack_isReadFromAgain_data();
+    void busBack_isReadFromAgain();
 };
 
 void EdsCalendarServiceTest::killedService_isStartedAgain()
@@ -181,6 +183,37 @@ void EdsCalendarServiceTest::deadBus_isSurvived()
     desk.killBus();
 
     QVERIFY(!desk.answerTo({u"read"_s, u"2026-03-02"_s}).isEmpty());
+    QVERIFY(desk.quit());
+}
+
+void EdsCalendarServiceTest::busBack_isReadFromAgain_data()
+{
+    QTest::addColumn<bool>("isReadMeanwhile");
+
+    QTest::addRow("nobody asked meanwhile") << false;
+    QTest::addRow("read while there was none") << true;
+}
+
+/// And what changes is told.
+void EdsCalendarServiceTest::busBack_isReadFromAgain()
+{
+    QFETCH(const bool, isReadMeanwhile);
+    ReadDesk desk;
+    QCOMPARE(desk.shown, ShownCall);
+    for (int round = 0; round < 2; ++round) {
+        desk.killBus();
+        QVERIFY(!isReadMeanwhile || desk.read(Monday) == ShownCall);
+        const auto before = desk.changes();
+
+        desk.startBus();
+
+        QTRY_VERIFY_WITH_TIMEOUT(desk.changes() > before, 10'000);
+        QCOMPARE(desk.read(Monday), ShownCall);
+        const auto then = desk.changes();
+        QVERIFY(desk.write({u"work"_s, u"paint"_s, round == 0 ? u"#ff0000"_s : u"#0000ff"_s}));
+        QTRY_VERIFY(desk.changes() > then);
+    }
+    QVERIFY(desk.answerTo({u"read"_s, u"2026-03-02"_s}).contains(u"#0000ff"_s));
     QVERIFY(desk.quit());
 }
 

@@ -59,7 +59,7 @@ void MprisBusTest::startPlayer()
 void MprisBusTest::playerJustGone_isNotStartedAgain()
 {
     startPlayer();
-    MprisPlayerLink link(m_bus->connection());
+    MprisPlayerLink link(std::make_shared<SessionBus>(m_bus->address()));
     QTRY_VERIFY(link.isRunning(Player::Spotify));
 
     m_player->kill();
@@ -73,7 +73,7 @@ void MprisBusTest::playerJustGone_isNotStartedAgain()
 
 void MprisBusTest::asking_startsNoPlayer()
 {
-    MprisPlayerLink link(m_bus->connection());
+    MprisPlayerLink link(std::make_shared<SessionBus>(m_bus->address()));
 
     QCOMPARE(replyOf(link, Player::Spotify), QString());
     link.send(Player::Spotify, u"playpause"_s);
@@ -85,7 +85,7 @@ void MprisBusTest::asking_startsNoPlayer()
 void MprisBusTest::busDies_weLiveOn()
 {
     startPlayer();
-    MprisPlayerLink link(m_bus->connection());
+    MprisPlayerLink link(std::make_shared<SessionBus>(m_bus->address()));
     QTRY_VERIFY(link.isRunning(Player::Spotify));
 
     m_bus->die();

@@ -222,7 +222,7 @@ void MprisPlayerLinkTest::browsersAndDoubles_areNeverCalled()
 
 void MprisPlayerLinkTest::noBus_nothingPlays()
 {
-    MprisPlayerLink link{QDBusConnection(u"none"_s)};
+    MprisPlayerLink link{std::make_shared<SessionBus>(QString())};
     const QSignalSpy named(&link, &PlayerLink::playersNamed);
 
     link.send(Player::Music, u"playpause"_s);

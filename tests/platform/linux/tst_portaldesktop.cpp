@@ -235,7 +235,7 @@ void PortalDesktopTest::isMotionReducedChanged_onlyWhenItChanges()
 
 void PortalDesktopTest::isMotionReduced_noBus_isFalse()
 {
-    const PortalDesktop desktop{QDBusConnection(u"none"_s)};
+    const PortalDesktop desktop{std::make_shared<SessionBus>(QString())};
 
     QVERIFY(!desktop.isMotionReduced());
 }

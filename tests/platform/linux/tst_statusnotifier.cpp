@@ -192,7 +192,7 @@ void StatusNotifierTest::isShown_busDies_isFalse()
     QVERIFY(bus.start());
     const WatcherProcess watcher(bus.address());
     const Host host(bus.connection());
-    StatusNotifier item(bus.connect(u"item of a bus that dies"_s));
+    StatusNotifier item(std::make_shared<SessionBus>(bus.address()));
     item.install(squareIcon());
     QTRY_VERIFY(item.isShown());
     const QSignalSpy changes(&item, &StatusItem::isShownChanged);
@@ -205,7 +205,7 @@ void StatusNotifierTest::isShown_busDies_isFalse()
 
 void StatusNotifierTest::noBus_nothingHappens()
 {
-    StatusNotifier item{QDBusConnection(u"none"_s)};
+    StatusNotifier item{std::make_shared<SessionBus>(QString())};
 
     item.install(squareIcon());
     item.setMenu(quibMenu());

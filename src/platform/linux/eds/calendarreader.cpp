@@ -16,14 +16,15 @@ constexpr int MostDoublings = 10; ///< Of the pause before a service that crashe
 constexpr std::array RegistrySignals{"source-added", "source-removed", "source-changed",
                                      "source-enabled", "source-disabled"};
 
-/// Keeps the connection that the service is reached by: it would end us together with the bus.
-bool hasBus()
+/// The connection that the service is reached by, which else would end us together with the bus.
+/// Null while there is none.
+GOwned<GDBusConnection> connectToBus(GCancellable* cancellable)
 {
-    static auto* const bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
-    if (bus != nullptr) {
-        g_dbus_connection_set_exit_on_close(bus, FALSE);
+    GOwned<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SESSION, cancellable, nullptr));
+    if (bus) {
+        g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
     }
-    return bus != nullptr;
+    return bus && g_dbus_connection_is_closed(bus.get()) == FALSE ? std::move(bus) : nullptr;
 }
 
 } // namespace
@@ -36,17 +37,15 @@ CalendarReader::CalendarReader(GCancellable* cancellable, std::function<void()> 
 
 CalendarReader::~CalendarReader()
 {
-    if (m_registry) {
-        g_signal_handlers_disconnect_by_data(m_registry.get(), this);
-    }
+    close();
 }
 
 QList<CalendarEntry> CalendarReader::read(const Span& span)
 {
-    if (!open()) {
-        return {};
-    }
     watch(span);
+    if (!open()) {
+        return entriesReadLast();
+    }
     QList<CalendarEntry> entries;
     Calendars kept;
     auto* const sources
@@ -66,10 +65,12 @@ QList<CalendarEntry> CalendarReader::read(const Span& span)
 
 bool CalendarReader::open()
 {
-    if (m_registry) {
+    if (m_registry && g_dbus_connection_is_closed(m_bus.get()) == FALSE) {
         return true;
     }
-    if (!hasBus()) {
+    close();
+    m_bus = connectToBus(m_cancellable);
+    if (!m_bus) {
         return false;
     }
     m_registry.reset(e_source_registry_new_sync(m_cancellable, nullptr));
@@ -84,6 +85,28 @@ bool CalendarReader::open()
         g_signal_connect(m_registry.get(), signal, G_CALLBACK(+changed), this);
     }
     return true;
+}
+
+/// Whoever holds on to a bus that is lost gets no other one.
+void CalendarReader::close()
+{
+    for (auto& [id, calendar] : m_calendars) {
+        calendar.client.reset();
+    }
+    if (m_registry) {
+        g_signal_handlers_disconnect_by_data(m_registry.get(), this);
+    }
+    m_registry.reset();
+    m_bus.reset();
+}
+
+QList<CalendarEntry> CalendarReader::entriesReadLast() const
+{
+    QList<CalendarEntry> entries;
+    for (const auto& [id, calendar] : m_calendars) {
+        entries += calendar.entries;
+    }
+    return entries;
 }
 
 void CalendarReader::watch(const Span& span)

@@ -41,6 +41,8 @@ private:
     using Calendars = std::map<QByteArray, Calendar>;
 
     bool open();
+    void close();
+    QList<CalendarEntry> entriesReadLast() const;
     void watch(const Span& span);
     void refresh(Calendar& calendar, ESource* source);
     /// Unless that happens sooner anyway.
@@ -49,6 +51,7 @@ private:
 
     GCancellable* m_cancellable;
     std::function<void()> m_changed;
+    GOwned<GDBusConnection> m_bus; ///< Null unless open.
     GOwned<ESourceRegistry> m_registry;
     Span m_span;
     Calendars m_calendars; ///< By id.
