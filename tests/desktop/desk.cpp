@@ -9,19 +9,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-void end(QProcess& program)
-{
-    program.terminate();
-    if (!program.waitForFinished(5000)) {
-        program.kill();
-        program.waitForFinished();
-    }
-}
-
-} // namespace
-
 Desk::Desk()
     : Desk(Options{})
 {
@@ -52,54 +39,6 @@ Desk::Desk(Options options)
         startCompositor();
     }
     moveTo(FarAway);
-}
-
-Desk::~Desk()
-{
-    while (!m_programs.empty()) {
-        end(*m_programs.back());
-        m_programs.pop_back();
-    }
-    m_connection.reset();
-    if (m_server) {
-        end(*m_server);
-    }
-}
-
-void Desk::startServer()
-{
-    m_server = start(u"Xvfb"_s,
-                     {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1600x900x24"_s,
-                      u"-nolisten"_s, u"tcp"_s});
-    m_server->waitForReadyRead(10'000);
-    const auto display = u':' + QString::fromLatin1(m_server->readAllStandardOutput().trimmed());
-    setVariable(u"DISPLAY"_s, display);
-    m_connection = std::make_unique<Connection>(display);
-    start(u"xsetroot"_s, {u"-solid"_s, u"#406080"_s})
-        ->waitForFinished(); // Not black like the panel.
-}
-
-void Desk::startBus()
-{
-    auto bus = start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
-    bus->waitForReadyRead(10'000);
-    setVariable(u"DBUS_SESSION_BUS_ADDRESS"_s,
-                QString::fromLatin1(bus->readAllStandardOutput().trimmed()));
-    m_programs.push_back(std::move(bus));
-}
-
-void Desk::startWindowManager()
-{
-    // It announces itself before it is ready, and then overlooks windows.
-    const auto ready = folder(u"window manager is ready"_s);
-    m_programs.push_back(start(u"openbox"_s, {u"--startup"_s, u"touch '%1'"_s.arg(ready)}));
-    waitFor("the window manager", [&] { return QFile::exists(ready); });
-}
-
-void Desk::startCompositor()
-{
-    m_programs.push_back(start(u"xcompmgr"_s));
-    waitFor("the compositor", [this] { return m_connection->hasOwner("_NET_WM_CM_S0"); });
 }
 
 void Desk::writeData(const QByteArray& json) const
@@ -182,14 +121,6 @@ QString Desk::quib()
 QString Desk::dragSource()
 {
     return QStringLiteral(DRAG_SOURCE);
-}
-
-void Desk::killServer()
-{
-    m_connection.reset();
-    m_server->kill();
-    m_server->waitForFinished();
-    m_server.reset();
 }
 
 qsizetype Output::count(const QByteArray& word)

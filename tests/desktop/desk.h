@@ -8,7 +8,6 @@
 #include <QTemporaryDir>
 
 #include <memory>
-#include <vector>
 
 using Program = std::unique_ptr<QProcess>;
 
@@ -21,6 +20,7 @@ public:
         bool compositor = false;
         bool sessionBus = true;
         int scale = 1;
+        bool outputs = false; ///< DUMMY0 to DUMMY3, which can have other sizes and be off.
     };
 
     // Where things are on this screen of 1600 by 900 points at scale 1.
@@ -76,24 +76,38 @@ public:
     bool waitForFront(const QString& title) const;
     bool waitForOwner(const QByteArray& selection) const;
 
-    /// Ends the X server, as a crash of it would.
+    // Parts of the desktop that end as crashes of them would, and come again.
+    void startBus(); ///< At the same address each time.
+    void hangBus() const;
+    void resumeBus() const;
+    void killBus();
+    /// Somebody whose name starts so.
+    bool isOnBus(const QString& start) const;
+    void startWindowManager(const QString& program = QStringLiteral("openbox"));
+    void killWindowManager();
+    void startCompositor();
+    void killCompositor();
+    void hangServer() const;
+    void resumeServer() const;
     void killServer();
+    /// Tells the server to have other screens.
+    void setScreens(const QStringList& arguments);
 
 private:
     struct Connection;
 
     void startServer();
-    void startBus();
-    void startWindowManager();
-    void startCompositor();
+    QStringList serverCommand() const;
     bool isShown(const QString& title) const;
     QString xdotool(const QStringList& arguments) const;
 
     Options m_options;
     QTemporaryDir m_home;
     QProcessEnvironment m_environment;
-    std::vector<Program> m_programs;
     Program m_server;
+    Program m_bus;
+    Program m_windowManager;
+    Program m_compositor;
     std::unique_ptr<Connection> m_connection;
 };
 
