@@ -25,6 +25,8 @@ private Q_SLOTS:
     void outOfSight_runsNothing_data();
     void outOfSight_runsNothing();
     void lateByALittle_doesNotDrift();
+    void clockTurned_isSeenWithinAnInterval_data();
+    void clockTurned_isSeenWithinAnInterval();
     void inQml_standsInItsItem();
 };
 
@@ -165,6 +167,30 @@ void BeatTest::lateByALittle_doesNotDrift()
 
     QCOMPARE(shown.beat.elapsed(), 0.017);
     QCOMPARE(shown.beat.untilNext(), 3ms);
+}
+
+void BeatTest::clockTurned_isSeenWithinAnInterval_data()
+{
+    QTest::addColumn<int>("seconds");
+
+    QTest::addRow("forward") << 7200;
+    QTest::addRow("back") << -7200;
+    QTest::addRow("back to before the moment, by a day") << -86'400;
+    QTest::addRow("forward by ten years") << 315'360'000;
+}
+
+void BeatTest::clockTurned_isSeenWithinAnInterval()
+{
+    QFETCH(const int, seconds);
+    Shown shown;
+    QVERIFY(shown.beat.untilNext() <= 1s);
+    shown.hands.now = shown.hands.now.addSecs(seconds).addMSecs(300);
+
+    QVERIFY(shown.beats.wait());
+
+    QCOMPARE(shown.beat.now(), shown.hands.now);
+    QCOMPARE(shown.beat.elapsed(), seconds + 0.3);
+    QVERIFY(shown.beat.untilNext() <= 1s);
 }
 
 void BeatTest::inQml_standsInItsItem()
