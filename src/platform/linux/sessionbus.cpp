@@ -1,6 +1,7 @@
 #include "platform/linux/sessionbus.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QUuid>
 
 #include <string_view>
@@ -32,6 +33,13 @@ QString addressOfTheSession()
     const GText path(
         g_dbus_address_escape_value((QFile::encodeName(runtimeFolder) + "/bus").constData()));
     return u"unix:path="_s + QString::fromLatin1(path.get());
+}
+
+/// The id is of the bus that was there when the session began: no later one is let in with it.
+QString withoutId(QString address)
+{
+    static const QRegularExpression id(u",guid=[^,;]*"_s);
+    return address.remove(id);
 }
 
 /// Other ways would start a bus.
@@ -67,7 +75,7 @@ SessionBus::SessionBus()
 }
 
 SessionBus::SessionBus(QString address)
-    : m_address(std::move(address))
+    : m_address(withoutId(std::move(address)))
     , m_connection(NoConnection)
 {
     if (!leadsToABus(m_address.toLatin1())) {

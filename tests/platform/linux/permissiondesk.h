@@ -13,6 +13,7 @@
 struct PermissionDesk {
     CalendarDesk desk;
     std::unique_ptr<FakeDialog> dialog = std::make_unique<FakeDialog>();
+    std::shared_ptr<quib::SessionBus> bus; ///< None before that one.
     std::unique_ptr<quib::CalendarPermission> permission; ///< None before the bus.
 
     PermissionDesk()
@@ -24,14 +25,11 @@ struct PermissionDesk {
     void startBus(const QStringList& services = {CalendarDesk::PermissionStore})
     {
         desk.startBus(services);
+        bus = std::make_shared<quib::SessionBus>(address());
         startAgain();
     }
 
-    void startAgain()
-    {
-        permission = std::make_unique<quib::CalendarPermission>(
-            std::make_shared<quib::SessionBus>(address()));
-    }
+    void startAgain() { permission = std::make_unique<quib::CalendarPermission>(bus); }
 
     QString address() const
     {

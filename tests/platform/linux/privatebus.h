@@ -37,12 +37,14 @@ public:
                        {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
                         QStringLiteral("--config-file=") + settings});
         m_daemon.waitForReadyRead();
-        m_daemon.readAll();
+        m_printed = QString::fromUtf8(m_daemon.readAll()).trimmed();
         return connection().isConnected();
     }
 
     /// The same each time that it starts.
     QString address() const { return QStringLiteral("unix:path=") + socket(); }
+    /// The same with the id of the bus that was started last.
+    QString addressWithId() const { return m_printed; }
     QString socket() const { return m_folder.filePath(QStringLiteral("bus")); }
     QDBusConnection connection() const { return connect(m_connectionName); }
     QDBusConnection connect(const QString& name) const
@@ -79,4 +81,5 @@ private:
     QString m_connectionName;
     QTemporaryDir m_folder;
     QProcess m_daemon;
+    QString m_printed;
 };

@@ -75,16 +75,19 @@ void SessionBusTest::killed_isTold()
 void SessionBusTest::killedAndBack_isConnectedAgain_data()
 {
     QTest::addColumn<bool>("socketStays");
+    QTest::addColumn<bool>("hasId");
 
-    QTest::addRow("its socket is left behind") << true;
-    QTest::addRow("its socket is gone too") << false;
+    QTest::addRow("its socket is left behind") << true << false;
+    QTest::addRow("its socket is gone too") << false << false;
+    QTest::addRow("the address has the id of the first") << true << true;
 }
 
 void SessionBusTest::killedAndBack_isConnectedAgain()
 {
     QFETCH(const bool, socketStays);
+    QFETCH(const bool, hasId);
     QVERIFY(m_bus->start());
-    const SessionBus bus(m_bus->address());
+    const SessionBus bus(hasId ? m_bus->addressWithId() : m_bus->address());
     QTRY_VERIFY(bus.isConnected());
     QSignalSpy connected(&bus, &SessionBus::connected);
     for (int round = 1; round <= 3; ++round) {

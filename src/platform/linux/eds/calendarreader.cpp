@@ -24,7 +24,7 @@ GOwned<GDBusConnection> connectToBus(GCancellable* cancellable)
     if (bus) {
         g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
     }
-    return bus && g_dbus_connection_is_closed(bus.get()) == FALSE ? std::move(bus) : nullptr;
+    return bus;
 }
 
 } // namespace
@@ -71,6 +71,11 @@ bool CalendarReader::open()
     close();
     m_bus = connectToBus(m_cancellable);
     if (!m_bus) {
+        return false;
+    }
+    if (g_dbus_connection_is_closed(m_bus.get()) != FALSE) {
+        m_bus.reset(); // The library's threads take a moment to let go of the one that is lost.
+        announceDeath();
         return false;
     }
     m_registry.reset(e_source_registry_new_sync(m_cancellable, nullptr));
