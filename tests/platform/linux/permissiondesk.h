@@ -25,11 +25,16 @@ struct PermissionDesk {
     void startBus(const QStringList& services = {CalendarDesk::PermissionStore})
     {
         desk.startBus(services);
-        bus = std::make_shared<quib::SessionBus>(address());
         startAgain();
     }
 
-    void startAgain() { permission = std::make_unique<quib::CalendarPermission>(bus); }
+    void startAgain()
+    {
+        if (!bus) {
+            bus = std::make_shared<quib::SessionBus>(address());
+        }
+        permission = std::make_unique<quib::CalendarPermission>(bus);
+    }
 
     QString address() const
     {
