@@ -25,7 +25,7 @@ constexpr auto PatienceAtTheStart = 1s;
 
 QString addressOfTheSession()
 {
-    const auto given = qEnvironmentVariable(Variable);
+    auto given = qEnvironmentVariable(Variable);
     const auto runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
     if (!given.isEmpty() || runtimeFolder.isEmpty()) {
         return given;
