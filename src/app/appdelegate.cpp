@@ -180,6 +180,11 @@ void AppDelegate::activate()
     m_platform.panelHost->takeKeyboard();
 }
 
+bool AppDelegate::isKeptOpen() const
+{
+    return m_model.isPinned() || m_model.holdOpen > 0;
+}
+
 HoverTick AppDelegate::tickAt(const PointerState& pointer) const
 {
     const bool expanded = m_model.isExpanded();
@@ -187,7 +192,7 @@ HoverTick AppDelegate::tickAt(const PointerState& pointer) const
     return {.pointerInside = rect.contains(pointer.position),
             .buttonHeld = pointer.leftHeld,
             .expanded = expanded,
-            .keptOpen = m_model.isPinned() || m_model.holdOpen > 0,
+            .keptOpen = isKeptOpen(),
             .collapsePending = m_collapseWork != nullptr};
 }
 

@@ -67,6 +67,7 @@ public:
     void pick(bool directories, const std::optional<QUrl>& startIn, Completion completion) override;
     QString applicationName(const QString& path) const override;
     void takeKeyboard() override;
+    void dismiss() override;
     StatusMenu* menu() override { return &m_menu; }
     bool isMenuInStatusBar() const override;
 
@@ -79,6 +80,7 @@ private:
     void followDesktop();
     void globalClick(quint32 time);
     void activate();
+    bool isKeptOpen() const;
     HoverTick tickAt(const PointerState& pointer) const;
 
     Platform m_platform;

@@ -150,6 +150,14 @@ void AppDelegate::takeKeyboard()
     m_platform.panelHost->takeKeyboard();
 }
 
+void AppDelegate::dismiss()
+{
+    if (!isKeptOpen()) {
+        cancelCollapse();
+        m_model.setExpanded(false);
+    }
+}
+
 bool AppDelegate::isMenuInStatusBar() const
 {
     return m_platform.statusItem && m_platform.statusItem->isShown();

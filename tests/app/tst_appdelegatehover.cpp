@@ -39,6 +39,10 @@ private Q_SLOTS:
     void clickElsewhere_collapsesAtTheNextTurn();
     void clickInTheCard_leavesItOpen();
     void pointerBackBeforeTheCollapse_forgetsTheClick();
+    void dismiss_collapsesAndGivesTheKeyboardBack();
+    void dismiss_whatIsKeptOpen_doesNothing_data();
+    void dismiss_whatIsKeptOpen_doesNothing();
+    void dismiss_underTheRestingPointer_opensAgain();
     void expand_toShelf_selectsTheShelf();
     void expand_cancelsAPendingCollapse();
     void collapse_keepsTheTab();
@@ -181,6 +185,53 @@ void AppDelegateHoverTest::pointerBackBeforeTheCollapse_forgetsTheClick()
     move(u"ooooo"_s);
 
     QCOMPARE(m_quib->shell.asked.last(), u"give back keyboard 0"_s);
+}
+
+void AppDelegateHoverTest::dismiss_collapsesAndGivesTheKeyboardBack()
+{
+    auto& delegate = m_quib->launched();
+    move(u"nc"_s);
+    m_quib->shell.asked.clear();
+
+    delegate.dismiss();
+    move(u"cccccc"_s);
+
+    QVERIFY(!delegate.model().isExpanded());
+    QCOMPARE(m_quib->shell.asked,
+             (QStringList{u"let clicks through"_s, u"give back keyboard 0"_s}));
+}
+
+void AppDelegateHoverTest::dismiss_whatIsKeptOpen_doesNothing_data()
+{
+    QTest::addColumn<bool>("pinned");
+
+    QTest::addRow("pinned") << true;
+    QTest::addRow("held by a dialog") << false;
+}
+
+void AppDelegateHoverTest::dismiss_whatIsKeptOpen_doesNothing()
+{
+    QFETCH(bool, pinned);
+    auto& model = m_quib->launched().model();
+    move(u"nc"_s);
+    model.setPinned(pinned);
+    model.holdOpen = pinned ? 0 : 1;
+
+    m_quib->delegate.dismiss();
+
+    QVERIFY(model.isExpanded());
+}
+
+void AppDelegateHoverTest::dismiss_underTheRestingPointer_opensAgain()
+{
+    m_quib->launched();
+    move(u"n"_s);
+
+    m_quib->delegate.dismiss();
+    QVERIFY(!m_quib->delegate.model().isExpanded());
+    move(u"n"_s);
+
+    QVERIFY(m_quib->delegate.model().isExpanded());
 }
 
 void AppDelegateHoverTest::expand_toShelf_selectsTheShelf()

@@ -30,6 +30,7 @@ public:
     {
         asked << (toShelf ? QStringLiteral("expand to the shelf") : QStringLiteral("expand"));
     }
+    void dismiss() override { asked << QStringLiteral("dismiss"); }
     void editShortcuts() override { asked << QStringLiteral("edit shortcuts"); }
     void quit() override { asked << QStringLiteral("quit"); }
     quib::StatusMenu* menu() override { return &statusMenu; }

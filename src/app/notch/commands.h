@@ -34,6 +34,8 @@ public:
     Q_INVOKABLE virtual void takeKeyboard() = 0;
     /// Opens the card, on the shelf if wanted.
     Q_INVOKABLE virtual void expand(bool toShelf) = 0;
+    /// Closes the card, unless it is pinned or a dialog holds it open.
+    Q_INVOKABLE virtual void dismiss() = 0;
     Q_INVOKABLE virtual void editShortcuts() = 0;
     Q_INVOKABLE virtual void quit() = 0;
 
