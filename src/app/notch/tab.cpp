@@ -28,6 +28,13 @@ QString title(Tab tab)
     return text;
 }
 
+Tab tabBeside(Tab tab, int by)
+{
+    const auto count = static_cast<int>(AllTabs.size());
+    const int place = (static_cast<int>(tab) + by) % count;
+    return AllTabs.at(static_cast<std::size_t>((place + count) % count));
+}
+
 QString symbol(Tab tab)
 {
     switch (tab) {

@@ -31,6 +31,9 @@ QString rawText(Tab tab);
 /// The heading: the raw text with a capital, but "Shortcuts" for links.
 QString title(Tab tab);
 
+/// The tab that many places further on, round the end.
+Tab tabBeside(Tab tab, int by);
+
 /// The name of the symbol on the tab's button.
 QString symbol(Tab tab);
 

@@ -23,6 +23,10 @@ public:
     static QList<int> all();
 
     Q_INVOKABLE static QString title(quib::tabs::Tab tab) { return quib::title(tab); }
+    Q_INVOKABLE static quib::tabs::Tab beside(quib::tabs::Tab tab, int by)
+    {
+        return tabBeside(tab, by);
+    }
     Q_INVOKABLE static QString symbol(quib::tabs::Tab tab) { return quib::symbol(tab); }
 };
 

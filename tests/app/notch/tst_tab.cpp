@@ -12,6 +12,8 @@ private Q_SLOTS:
     void texts_data();
     void texts();
     void allTabs_areSevenFromHomeToNotes();
+    void tabBeside_goesRound_data();
+    void tabBeside_goesRound();
 };
 
 void TabTest::texts_data()
@@ -44,6 +46,26 @@ void TabTest::allTabs_areSevenFromHomeToNotes()
     QCOMPARE(quib::AllTabs.size(), std::size_t(7));
     QCOMPARE(quib::AllTabs.front(), Tab::Home);
     QCOMPARE(quib::AllTabs.back(), Tab::Notes);
+}
+
+void TabTest::tabBeside_goesRound_data()
+{
+    QTest::addColumn<Tab>("tab");
+    QTest::addColumn<int>("by");
+    QTest::addColumn<Tab>("beside");
+
+    QTest::addRow("on") << Tab::Home << 1 << Tab::Links;
+    QTest::addRow("back") << Tab::Time << -1 << Tab::Tasks;
+    QTest::addRow("past the last") << Tab::Notes << 1 << Tab::Home;
+    QTest::addRow("before the first") << Tab::Home << -1 << Tab::Notes;
+}
+
+void TabTest::tabBeside_goesRound()
+{
+    QFETCH(Tab, tab);
+    QFETCH(int, by);
+
+    QTEST(quib::tabBeside(tab, by), "beside");
 }
 
 QTEST_APPLESS_MAIN(TabTest)
