@@ -4,7 +4,7 @@ import Quib.Brand
 import Quib.Views
 
 /*!
-    Shows around a control that the keyboard has come to.
+    Shows around a control that the keyboard has come to, until the pointer is used.
 */
 ContinuousRectangle {
     anchors.fill: parent
@@ -12,4 +12,5 @@ ContinuousRectangle {
     radius: height / 2
     strokeColor: Brand.glow
     strokeWidth: 1.5
+    opacity: LastInput.isPointer ? 0 : 1
 }
