@@ -21,7 +21,13 @@ private Q_SLOTS:
     void button_canBePressed();
     void chip_saysWhetherItIsSelected();
     void segments_sayWhichIsSelected();
+    void readerThatComesLate_isToldTheSame();
+    void place_isWhereItIsDrawn();
+    void whatIsScrolledAway_isOffscreen();
     void field_givesItsText();
+    void field_isEditedByItsReader();
+    void fieldsCharacters_haveTheirPlaces_data();
+    void fieldsCharacters_haveTheirPlaces();
     void help_describesWhatIsNotNamedByIt();
     void menu_saysWhatItsEntriesAre();
 
@@ -54,6 +60,7 @@ void AccessibilityTest::initTestCase()
     m_engine.addImportPath(u"qrc:/qt/qml"_s);
     m_window.resize(400, 300);
     m_window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&m_window));
 }
 
 QQuickItem* AccessibilityTest::make(const QByteArray& control)
@@ -86,8 +93,11 @@ void AccessibilityTest::control_saysWhatItIs_data()
                           << u"Start"_s;
     QTest::addRow("icon") << "IconButton { symbol: 'xmark'; help: 'Remove' }"_ba
                           << int(QAccessible::Button) << u"Remove"_s;
-    QTest::addRow("chip") << "FilterChip { title: 'All' }"_ba << int(QAccessible::Button)
+    QTest::addRow("chip") << "FilterChip { title: 'All' }"_ba << int(QAccessible::RadioButton)
                           << u"All"_s;
+    QTest::addRow("other role")
+        << "PlainButton { role: Accessible.PageTab; Accessible.name: 'Home' }"_ba
+        << int(QAccessible::PageTab) << u"Home"_s;
     QTest::addRow("segments")
         << "SegmentedPicker { name: 'Period'; titles: ['Week', 'Month']; selected: 1 }"_ba
         << int(QAccessible::Grouping) << u"Period: Month"_s;
@@ -130,7 +140,7 @@ void AccessibilityTest::button_canBePressed()
     auto* interface = QAccessible::queryAccessibleInterface(item);
     QVERIFY(interface && interface->actionInterface());
 
-    interface->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    interface->actionInterface()->doAction(interface->actionInterface()->actionNames().front());
 
     QCOMPARE(clicks.count(), 1);
 }
@@ -169,6 +179,83 @@ void AccessibilityTest::field_givesItsText()
     QCOMPARE(interface->text(QAccessible::Name), u"Add a task"_s);
     QVERIFY(interface->textInterface());
     QCOMPARE(interface->textInterface()->text(0, 8), u"Buy milk"_s);
+}
+
+void AccessibilityTest::readerThatComesLate_isToldTheSame()
+{
+    QAccessible::setActive(false);
+    auto* pin = make("PlainButton { role: Accessible.CheckBox; Accessible.name: 'Keep open'\n"
+                     "Accessible.checkable: true; Accessible.checked: true }");
+    QAccessible::setActive(true); // Qt's templates now say again what they are.
+
+    const auto* told = QAccessible::queryAccessibleInterface(pin);
+
+    QCOMPARE(told->role(), QAccessible::CheckBox);
+    QCOMPARE(told->text(QAccessible::Name), u"Keep open"_s);
+    QVERIFY(told->state().checkable && told->state().checked);
+}
+
+void AccessibilityTest::place_isWhereItIsDrawn()
+{
+    const auto origin = m_window.mapToGlobal(QPoint(0, 0));
+    auto* field = make("QuibField { x: 20; y: 30; width: 100; text: 'Buy milk' }");
+    const auto* told
+        = QAccessible::queryAccessibleInterface(field->findChild<QQuickItem*>(u"input"_s));
+
+    // Without its padding, and with room for the cursor at the end.
+    QCOMPARE(told->rect(), QRectF(origin.x() + 29, origin.y() + 30, 81, field->height()).toRect());
+}
+
+void AccessibilityTest::whatIsScrolledAway_isOffscreen()
+{
+    auto* list = make("ListView { width: 100; height: 40; clip: true; model: 4; Accessible.role: "
+                      "Accessible.List\n"
+                      "delegate: PillButton { title: 'Row ' + index; height: 20 } }");
+    QTRY_VERIFY(told(list).size() >= 3);
+
+    QVERIFY(!told(list)[1]->state().offscreen);
+    QVERIFY(told(list)[2]->state().offscreen);
+}
+
+void AccessibilityTest::field_isEditedByItsReader()
+{
+    auto* field = make("QuibField { text: 'Buy milk' }");
+    const auto* type = field->metaObject();
+    const QSignalSpy edits(field, type->method(type->indexOfSignal("edited()")));
+    auto* told = QAccessible::queryAccessibleInterface(field->findChild<QQuickItem*>(u"input"_s));
+
+    told->editableTextInterface()->replaceText(4, 8, u"bread"_s);
+
+    QCOMPARE(field->property("text").toString(), u"Buy bread"_s);
+    QCOMPARE(told->text(QAccessible::Value), u"Buy bread"_s);
+    QVERIFY(edits.count() > 0);
+}
+
+void AccessibilityTest::fieldsCharacters_haveTheirPlaces_data()
+{
+    QTest::addColumn<QByteArray>("control");
+
+    QTest::addRow("one line") << "QuibField { x: 20; y: 30; text: 'Buy milk' }"_ba;
+    QTest::addRow("many lines")
+        << "QuibTextArea { x: 20; y: 30; width: 160; height: 60; value: 'Buy milk\nand bread' }"_ba;
+}
+
+void AccessibilityTest::fieldsCharacters_haveTheirPlaces()
+{
+    QFETCH(QByteArray, control);
+    auto* field = make(control);
+    auto* told = QAccessible::queryAccessibleInterface(field->findChild<QQuickItem*>(u"input"_s));
+    auto* text = told->textInterface();
+    QVERIFY(text);
+
+    const auto first = text->characterRect(0);
+    const auto fifth = text->characterRect(4);
+
+    QVERIFY(told->rect().contains(first));
+    QVERIFY(first.width() > 3 && first.width() < 12); // As drawn: at half the size it is laid out.
+    QVERIFY(first.height() > 8 && first.height() < 24);
+    QVERIFY(fifth.left() > first.right());
+    QCOMPARE(text->offsetAtPoint(fifth.center()), 4);
 }
 
 void AccessibilityTest::help_describesWhatIsNotNamedByIt()

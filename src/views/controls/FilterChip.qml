@@ -15,6 +15,7 @@ PlainButton {
     implicitWidth: Math.min(160, implicitContentWidth + leftPadding + rightPadding)
     horizontalPadding: 9
     verticalPadding: 3
+    role: Accessible.RadioButton
     Accessible.name: root.title
     Accessible.checkable: true
     Accessible.checked: root.selected

@@ -15,6 +15,8 @@ T.MenuItem {
     required property bool isSeparator
     required property bool isHighlighted
 
+    readonly property int role: Accessible.MenuItem
+
     implicitHeight: root.isSeparator ? 9 : 24
     leftPadding: 8
     rightPadding: 8

@@ -8,13 +8,14 @@ import Quib.Views
 /*!
     A button that draws nothing of its own but a ring when the keyboard has come to it, and its help
     as a tooltip. A click leaves the focus where it is, so that a half-typed field goes on.
-    Readers are told of a button whatever role is attached: Qt 6.4 asks the template for it.
+    Readers are told of `role`: the one that is attached is the template's.
 */
 T.AbstractButton {
     id: root
 
     property string help
     property real ringRadius: height / 2
+    property int role: Accessible.Button
 
     property QuibToolTip toolTip: null
 
@@ -51,6 +52,7 @@ T.AbstractButton {
     }
 
     FocusRing {
+        objectName: "focusRing"
         visible: root.visualFocus
         radius: root.ringRadius
     }
@@ -60,7 +62,7 @@ T.AbstractButton {
 
         QuibToolTip {
             text: root.help
-            visible: text !== "" && root.visible && !root.down && (root.hovered || root.visualFocus)
+            visible: text !== "" && root.visible && !root.down && (root.hovered || root.visualFocus && !LastInput.isPointer)
         }
     }
 }

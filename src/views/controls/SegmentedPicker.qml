@@ -79,6 +79,7 @@ Item {
         horizontalPadding: 8
         verticalPadding: 3
         focusPolicy: Qt.NoFocus
+        role: Accessible.RadioButton
         Accessible.name: segment.title
         Accessible.checkable: true
         Accessible.checked: segment.selected

@@ -22,7 +22,7 @@ PlainButton {
     horizontalPadding: 9
     verticalPadding: 6
     ringRadius: 8
-    Accessible.role: Accessible.ComboBox
+    role: Accessible.ComboBox
     Accessible.name: "Client: %1".arg(root.shownName)
 
     onClicked: menu.open()

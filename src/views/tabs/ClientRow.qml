@@ -23,10 +23,11 @@ PlainButton {
     horizontalPadding: 8
     verticalPadding: 6
     ringRadius: 8
+    role: Accessible.ListItem
     Accessible.name: root.name
     Accessible.description: root.details
-    Accessible.checkable: true
-    Accessible.checked: root.selected
+    Accessible.selectable: true
+    Accessible.selected: root.selected
 
     background: ContinuousRectangle {
         objectName: "surface"

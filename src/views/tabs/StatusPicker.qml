@@ -18,7 +18,7 @@ PlainButton {
 
     horizontalPadding: 8
     verticalPadding: 3
-    Accessible.role: Accessible.ComboBox
+    role: Accessible.ComboBox
     Accessible.name: "Status: %1".arg(root.title)
 
     onClicked: menu.open()

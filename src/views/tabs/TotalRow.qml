@@ -18,6 +18,7 @@ Column {
     spacing: 4
     Accessible.role: Accessible.ListItem
     Accessible.name: root.name
+    Accessible.description: "%1, %2".arg(duration.text).arg(amount.text)
 
     Item {
         width: parent.width

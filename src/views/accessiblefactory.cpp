@@ -1,0 +1,28 @@
+#include "views/accessiblefactory.h"
+
+#include "views/accessiblefield.h"
+#include "views/accessibleitem.h"
+
+namespace quib {
+
+namespace {
+
+QAccessibleInterface* tell(const QString& /*className*/, QObject* object)
+{
+    auto* item = qobject_cast<QQuickItem*>(object);
+    auto* attached = item ? AccessibleItem::attachedTo(*item) : nullptr;
+    if (!attached) {
+        return nullptr;
+    }
+    const bool isField = item->inherits("QQuickTextInput") || item->inherits("QQuickTextEdit");
+    return isField ? new AccessibleField(*item, *attached) : new AccessibleItem(*item, *attached);
+}
+
+} // namespace
+
+void installAccessibleFactory()
+{
+    QAccessible::installFactory(tell);
+}
+
+} // namespace quib

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace quib {
+
+/// From now on readers are told of items in our way, also of those they know of already.
+void installAccessibleFactory();
+
+} // namespace quib

@@ -1,0 +1,208 @@
+#include "views/accessibleitem.h"
+
+#include <QQuickWindow>
+
+using namespace Qt::StringLiterals;
+
+namespace quib {
+
+namespace {
+
+/// Null for what is not told of, also where Qt keeps an interface of it from before it was ignored.
+QAccessibleInterface* interfaceOf(QQuickItem& item)
+{
+    return AccessibleItem::attachedTo(item) ? QAccessible::queryAccessibleInterface(&item)
+                                            : nullptr;
+}
+
+void collectChildren(const QQuickItem& item, QList<QAccessibleInterface*>& found)
+{
+    for (auto* child : item.childItems()) {
+        if (auto* interface = interfaceOf(*child)) {
+            found << interface;
+        } else {
+            collectChildren(*child, found);
+        }
+    }
+}
+
+QList<QAccessibleInterface*> childrenOf(const QQuickItem& item)
+{
+    QList<QAccessibleInterface*> found;
+    collectChildren(item, found);
+    return found;
+}
+
+QRectF sceneRect(const QQuickItem& item)
+{
+    return item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
+}
+
+/// Whether an item that clips, or the window, leaves nothing of it to be seen.
+bool isCutOff(const QQuickItem& item)
+{
+    auto rect = sceneRect(item);
+    for (const auto* above = item.parentItem(); above; above = above->parentItem()) {
+        if (above->clip() || !above->parentItem()) {
+            rect &= sceneRect(*above);
+        }
+    }
+    return rect.isEmpty();
+}
+
+bool isControl(const QQuickItem& item)
+{
+    return item.inherits("QQuickAbstractButton");
+}
+
+} // namespace
+
+QObject* AccessibleItem::attachedTo(const QQuickItem& item)
+{
+    for (auto* child : item.children()) {
+        if (child->inherits("QQuickAccessibleAttached")) {
+            return child->property("ignored").toBool() ? nullptr : child;
+        }
+    }
+    return nullptr;
+}
+
+AccessibleItem::AccessibleItem(QQuickItem& item, QObject& attached)
+    : QAccessibleObject(&item)
+    , m_attached(&attached)
+{
+}
+
+QAccessibleInterface* AccessibleItem::parent() const
+{
+    for (auto* above = item().parentItem(); above; above = above->parentItem()) {
+        if (auto* interface = interfaceOf(*above)) {
+            return interface;
+        }
+    }
+    return QAccessible::queryAccessibleInterface(item().window());
+}
+
+int AccessibleItem::childCount() const
+{
+    return isControl(item()) ? 0 : static_cast<int>(childrenOf(item()).size());
+}
+
+QAccessibleInterface* AccessibleItem::child(int index) const
+{
+    return isControl(item()) ? nullptr : childrenOf(item()).value(index);
+}
+
+int AccessibleItem::indexOfChild(const QAccessibleInterface* child) const
+{
+    const auto children = childrenOf(item());
+    return static_cast<int>(children.indexOf(const_cast<QAccessibleInterface*>(child)));
+}
+
+QAccessibleInterface* AccessibleItem::childAt(int x, int y) const
+{
+    for (int i = childCount() - 1; i >= 0; --i) { // What is drawn last lies on top.
+        auto* found = child(i);
+        if (found->rect().contains(x, y) && !found->state().invisible) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+QAccessibleInterface* AccessibleItem::focusChild() const
+{
+    auto* focus = item().window() ? item().window()->activeFocusItem() : nullptr;
+    return focus && item().isAncestorOf(focus) ? interfaceOf(*focus) : nullptr;
+}
+
+QWindow* AccessibleItem::window() const
+{
+    return item().window();
+}
+
+QAccessible::Role AccessibleItem::role() const
+{
+    const auto own = item().property("role");
+    const auto role = isControl(item()) && own.isValid() ? own : m_attached->property("role");
+    return static_cast<QAccessible::Role>(role.toInt());
+}
+
+QAccessible::State AccessibleItem::state() const
+{
+    QAccessible::State state;
+    state.checkable = is("checkable");
+    state.checked = is("checked");
+    state.selectable = is("selectable");
+    state.selected = is("selected");
+    state.editable = is("editable");
+    state.readOnly = is("readOnly");
+    state.multiLine = is("multiLine");
+    state.pressed = is("pressed");
+    state.disabled = !item().isEnabled();
+    state.focused = item().window() && item().window()->activeFocusItem() == &item();
+    state.focusable = is("focusable") || item().activeFocusOnTab() || state.focused;
+    state.invisible = !item().isVisible() || !item().window() || !item().window()->isVisible();
+    state.offscreen = isCutOff(item());
+    return state;
+}
+
+QString AccessibleItem::text(QAccessible::Text type) const
+{
+    switch (type) {
+    case QAccessible::Name: return m_attached->property("name").toString();
+    case QAccessible::Description: return m_attached->property("description").toString();
+    default: return {};
+    }
+}
+
+void AccessibleItem::setText(QAccessible::Text /*type*/, const QString& /*text*/) { }
+
+QRect AccessibleItem::rect() const
+{
+    return globalRect({0, 0, item().width(), item().height()});
+}
+
+void* AccessibleItem::interface_cast(QAccessible::InterfaceType type)
+{
+    return type == QAccessible::ActionInterface && isPressable()
+        ? static_cast<QAccessibleActionInterface*>(this)
+        : nullptr;
+}
+
+QStringList AccessibleItem::actionNames() const
+{
+    return {is("checkable") ? toggleAction() : pressAction()};
+}
+
+void AccessibleItem::doAction(const QString& name)
+{
+    if (item().isEnabled() && actionNames().contains(name)) {
+        QMetaObject::invokeMethod(object(), "clicked");
+    }
+}
+
+QStringList AccessibleItem::keyBindingsForAction(const QString& /*name*/) const
+{
+    return {};
+}
+
+QRect AccessibleItem::globalRect(const QRectF& part) const
+{
+    const auto inScene = item().mapRectToScene(part);
+    const auto topLeft
+        = item().window() ? item().window()->mapToGlobal(inScene.topLeft()) : QPointF();
+    return QRectF(topLeft, inScene.size()).toRect();
+}
+
+bool AccessibleItem::is(const char* state) const
+{
+    return m_attached->property(state).toBool();
+}
+
+bool AccessibleItem::isPressable() const
+{
+    return isControl(item());
+}
+
+} // namespace quib

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QAccessibleObject>
+#include <QPointer>
+#include <QQuickItem>
+
+namespace quib {
+
+/// What readers are told of an item by what QML attaches to it, but of controls by their own
+/// property `role`: Qt 6.4 makes every template a button. Places are those where it is drawn, also
+/// at another scale, and what is scrolled away is not showing.
+class AccessibleItem : public QAccessibleObject, public QAccessibleActionInterface {
+public:
+    /// Null for what nothing is attached to, and for what is ignored.
+    static QObject* attachedTo(const QQuickItem& item);
+
+    AccessibleItem(QQuickItem& item, QObject& attached);
+
+    QAccessibleInterface* parent() const override;
+    int childCount() const override;
+    QAccessibleInterface* child(int index) const override;
+    int indexOfChild(const QAccessibleInterface* child) const override;
+    QAccessibleInterface* childAt(int x, int y) const override;
+    QAccessibleInterface* focusChild() const override;
+    QWindow* window() const override;
+
+    QAccessible::Role role() const override;
+    QAccessible::State state() const override;
+    QString text(QAccessible::Text type) const override;
+    void setText(QAccessible::Text type, const QString& text) override;
+    QRect rect() const override;
+
+    void* interface_cast(QAccessible::InterfaceType type) override;
+    QStringList actionNames() const override;
+    void doAction(const QString& name) override;
+    QStringList keyBindingsForAction(const QString& name) const override;
+
+protected:
+    QQuickItem& item() const { return static_cast<QQuickItem&>(*object()); }
+    /// Of a part of the item, in global points.
+    QRect globalRect(const QRectF& part) const;
+
+private:
+    bool is(const char* state) const;
+    bool isPressable() const;
+
+    QPointer<QObject> m_attached;
+};
+
+} // namespace quib
