@@ -7,7 +7,7 @@ import Quib.Views
 
 /*!
     The open card: the tab bar and the view of the selected tab. It arrives growing a little and
-    fading in, and leaves by fading out.
+    fading in, and leaves by fading out. The Escape key leaves a field, else closes the card.
 */
 FocusScope {
     id: root
@@ -25,6 +25,42 @@ FocusScope {
 
     visible: root.opacity > 0
     transformOrigin: Item.Top
+
+    Keys.onEscapePressed: event => root.leaveByKey(event)
+
+    // A key takes the focus along, and shows where it is.
+    function showTab(tab) {
+        area.focus = false; // Or the new tab would have it before, without the reason.
+        root.model.tab = tab;
+        area.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    function leaveByKey(event) {
+        const line = root.Window.activeFocusItem as TextInput;
+        const text = root.Window.activeFocusItem as TextEdit;
+        if (event.isAutoRepeat || line?.inputMethodComposing || text?.inputMethodComposing) {
+            return;
+        }
+        if (line || text) {
+            bar.focusTab();
+        } else {
+            root.commands.dismiss();
+        }
+    }
+
+    Connections {
+        target: root.model
+
+        function onIsExpandedChanged() {
+            area.focus = true; // The next time begins in the tab again.
+        }
+    }
+
+    CardKeys {
+        model: root.model
+
+        onChosen: tab => root.showTab(tab)
+    }
 
     TopBar {
         id: bar

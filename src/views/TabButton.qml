@@ -17,8 +17,9 @@ PlainButton {
 
     implicitWidth: 30
     implicitHeight: 24
+    focusPolicy: root.selected || activeFocus ? Qt.TabFocus : Qt.NoFocus
     help: Tabs.title(root.tab)
-    Accessible.role: Accessible.PageTab
+    role: Accessible.PageTab
     Accessible.name: root.help
     Accessible.description: ""
     Accessible.selectable: true

@@ -7,13 +7,34 @@ import Quib.Notch
 import Quib.Views
 
 /*!
-    The tabs left of the notch, the date and the pin right of it.
+    The tabs left of the notch, the date and the pin right of it. The tabs are one stop of the keyboard,
+    and arrows and ends choose.
 */
 Item {
     id: root
 
     required property NotchModel model
     required property Commands commands
+
+    function focusTab() {
+        buttons.itemAt(root.model.tab).forceActiveFocus(Qt.TabFocusReason); // Tabs count in their order.
+    }
+
+    function chooseTab(tab) {
+        root.model.tab = tab;
+        root.focusTab();
+    }
+
+    function chooseByKey(event) {
+        event.accepted = true;
+        switch (event.key) {
+        case Qt.Key_Left: return root.chooseTab(Tabs.beside(root.model.tab, -1));
+        case Qt.Key_Right: return root.chooseTab(Tabs.beside(root.model.tab, 1));
+        case Qt.Key_Home: return root.chooseTab(Tabs.all[0]);
+        case Qt.Key_End: return root.chooseTab(Tabs.beside(Tabs.all[0], -1));
+        }
+        event.accepted = false;
+    }
 
     function openMenu(x) {
         root.commands.menu.open(); // Brings its check marks up to date.
@@ -66,7 +87,11 @@ Item {
         Accessible.role: Accessible.PageTabList
         Accessible.name: "Tabs"
 
+        Keys.onPressed: event => root.chooseByKey(event)
+
         Repeater {
+            id: buttons
+
             model: Tabs.all
 
             TabButton {
@@ -106,7 +131,7 @@ Item {
             objectName: "pin"
             anchors.verticalCenter: parent.verticalCenter
             help: "Keep open"
-            Accessible.role: Accessible.CheckBox
+            role: Accessible.CheckBox
             Accessible.name: help
             Accessible.description: ""
             Accessible.checkable: true

@@ -11,6 +11,7 @@ FocusScope {
 
     required property uuid taskID
     required property string title
+    required property bool isStop
 
     signal toggled
 
@@ -24,7 +25,8 @@ FocusScope {
         objectName: "tick"
         anchors.verticalCenter: parent.verticalCenter
         focus: true
-        Accessible.role: Accessible.CheckBox
+        focusPolicy: root.isStop || root.activeFocus ? Qt.TabFocus : Qt.NoFocus
+        role: Accessible.CheckBox
         Accessible.name: "Mark done: %1".arg(TextLine.beginning(root.title))
         Accessible.checkable: true
 

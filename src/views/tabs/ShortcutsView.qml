@@ -104,9 +104,12 @@ FocusScope {
                 model: groups
 
                 delegate: ShortcutGroupCard {
+                    required property int index
+
                     objectName: "group"
                     width: root.boxWidth
                     height: row.height
+                    focus: index === 0
                     icons: root.icons
 
                     onActiveFocusChanged: if (activeFocus) boxes.reveal(this)

@@ -7,7 +7,7 @@ import Quib.Views
 
 /*!
     The row of chips above the tasks: all of them, those of one client, and a button that clears the
-    done ones.
+    done ones. The chosen chip is the stop of the keyboard, and arrows and ends choose.
 */
 Item {
     id: root
@@ -16,9 +16,39 @@ Item {
     required property uuid filter
     required property string clearDoneTitle
 
+    readonly property int row: clients.count > 0 ? clients.rowOf(root.filter) : -1 // Of the chosen chip.
+
     signal chosen(client: uuid)
 
     implicitHeight: allChip.implicitHeight
+
+    Keys.onPressed: event => root.stepByKey(event)
+
+    // All of them stand before the first row.
+    function choose(row) {
+        root.chosen(clients.clientAt(row));
+        root.focusChip(row);
+    }
+
+    function focusChip(row) {
+        chips.positionViewAtIndex(row, ListView.Contain);
+        chips.forceLayout(); // It may have been too far away to be there.
+        const chip = (chips.itemAtIndex(row) ?? allChip) as FilterChip;
+        chip.forceActiveFocus(Qt.TabFocusReason);
+        chip.focusReason = Qt.TabFocusReason; // The list may have given it the focus without.
+    }
+
+    function stepByKey(event) {
+        const before = root.row > 0 ? clients.rowBeside(root.row, -1) : -1;
+        event.accepted = true;
+        switch (event.key) {
+        case Qt.Key_Left: return root.choose(before === root.row ? -1 : before);
+        case Qt.Key_Right: return root.choose(clients.rowBeside(root.row, 1));
+        case Qt.Key_Home: return root.choose(-1);
+        case Qt.Key_End: return root.choose(clients.rowBeside(root.row, clients.count));
+        }
+        event.accepted = false;
+    }
 
     FilterChip {
         id: allChip
@@ -26,6 +56,7 @@ Item {
         objectName: "allChip"
         title: "All"
         selected: root.filter === NoClient.id
+        focusPolicy: root.row < 0 || activeFocus ? Qt.TabFocus : Qt.NoFocus
 
         onClicked: root.chosen(NoClient.id)
     }
@@ -43,8 +74,13 @@ Item {
         spacing: 4
         clip: true
         boundsBehavior: Flickable.StopAtBounds
+        currentIndex: root.row
+        highlightFollowsCurrentItem: false
+        keyNavigationEnabled: false
 
         model: ClientListModel {
+            id: clients
+
             store: root.store
             selection: ClientListModel.WithTasks
         }
@@ -56,6 +92,7 @@ Item {
 
             title: name
             selected: root.filter === clientID
+            focusPolicy: selected || activeFocus ? Qt.TabFocus : Qt.NoFocus
 
             onClicked: root.chosen(clientID)
             onActiveFocusChanged: if (activeFocus) chips.positionViewAtIndex(index, ListView.Contain)
@@ -76,6 +113,7 @@ Item {
         Accessible.name: root.clearDoneTitle
 
         onClicked: root.store.clearDoneTasks()
+        onVisibleChanged: if (!visible && activeFocus) root.focusChip(root.row)
 
         contentItem: QuibText {
             text: root.clearDoneTitle

@@ -4,7 +4,7 @@ import Quib.Brand
 import Quib.Views
 
 /*!
-    One task: ticked off by its circle, deleted by the button that the pointer brings.
+    One task: ticked off by its circle, deleted by the button that the pointer brings, or by a key.
 */
 FocusScope {
     id: root
@@ -14,6 +14,7 @@ FocusScope {
     required property bool done
     required property string clientName
     required property string clientStatus
+    required property bool isStop
 
     readonly property bool hasTag: root.clientStatus !== ""
     readonly property bool isActive: hover.hovered || root.activeFocus
@@ -25,6 +26,25 @@ FocusScope {
     Accessible.role: Accessible.ListItem
     Accessible.name: root.title
 
+    onActiveFocusChanged: if (!root.activeFocus) tick.focus = true // Where the keys come back to.
+
+    Keys.onLeftPressed: tick.forceActiveFocus(Qt.TabFocusReason)
+    Keys.onRightPressed: remove.forceActiveFocus(Qt.TabFocusReason)
+    Keys.onDeletePressed: event => root.deleteByKey(event)
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_Backspace) {
+            root.deleteByKey(event);
+        }
+    }
+
+    // A key that is held down deletes one.
+    function deleteByKey(event) {
+        event.accepted = true;
+        if (!event.isAutoRepeat) {
+            root.deleted();
+        }
+    }
+
     HoverHandler {
         id: hover
     }
@@ -33,9 +53,10 @@ FocusScope {
         id: tick
 
         objectName: "tick"
-        focus: true
         anchors.verticalCenter: parent.verticalCenter
-        Accessible.role: Accessible.CheckBox
+        focus: true
+        focusPolicy: root.isStop || root.activeFocus ? Qt.TabFocus : Qt.NoFocus
+        role: Accessible.CheckBox
         Accessible.name: (root.done ? "Mark open: %1" : "Mark done: %1").arg(root.title)
         Accessible.checkable: true
         Accessible.checked: root.done
@@ -110,6 +131,7 @@ FocusScope {
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         visible: root.isActive
+        focusPolicy: Qt.NoFocus
         symbol: "xmark"
         size: 9
         tint: Brand.muted

@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-import Quib.Brand
 import Quib.Views
 
 /*!
@@ -84,50 +83,16 @@ FocusScope {
         onChosen: client => root.filter = client
     }
 
-    ListView {
-        id: list
-
+    TaskList {
         objectName: "list"
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: filters.bottom
         anchors.topMargin: 8
         anchors.bottom: parent.bottom
-        clip: true
-        spacing: 2
-        boundsBehavior: Flickable.StopAtBounds
-        model: tasks
-        Accessible.role: Accessible.List
-        Accessible.name: "Tasks"
+        store: root.store
+        tasks: tasks
 
-        delegate: TaskRow {
-            required property int index
-
-            width: list.width
-
-            onActiveFocusChanged: if (activeFocus) list.positionViewAtIndex(index, ListView.Contain)
-
-            onToggled: root.store.toggleTask(taskID)
-            onDeleted: {
-                if (activeFocus) {
-                    field.forceActiveFocus(); // Or keys would go nowhere.
-                }
-                root.store.deleteTask(taskID);
-            }
-        }
-
-        ScrollThumb {
-            flickable: list
-        }
-
-        QuibText {
-            objectName: "nothing"
-            anchors.horizontalCenter: parent.horizontalCenter
-            y: 30
-            visible: tasks.count === 0
-            text: "Nothing to do. Nice."
-            size: 12
-            color: Brand.muted2
-        }
+        onEmptied: reason => field.forceActiveFocus(reason) // Or keys would go nowhere.
     }
 }

@@ -1,0 +1,80 @@
+import QtQuick
+
+import Quib.Views
+
+/*!
+    A list that is one stop of the keyboard: its current row, a FocusScope with buttons that are stops
+    while `ListView.isCurrentItem`. Arrows, pages and ends lead to the other rows.
+*/
+ListView {
+    id: root
+
+    signal emptied(reason: int) // The row with the focus is gone, and no other is there.
+
+    clip: true
+    boundsBehavior: Flickable.StopAtBounds
+    highlightFollowsCurrentItem: false
+    keyNavigationEnabled: false
+    Accessible.role: Accessible.List
+
+    Keys.onPressed: event => root.stepByKey(event)
+
+    function reveal(row) {
+        root.positionViewAtIndex(row, ListView.Contain);
+        root.forceLayout(); // It may have been too far away to be there.
+    }
+
+    // For rows to which the focus comes.
+    function come(row) {
+        root.currentIndex = row;
+        root.reveal(row);
+    }
+
+    function focusRow(row, reason) {
+        root.forceLayout(); // A row that is gone may still be current.
+        if (root.count === 0) {
+            return root.emptied(reason);
+        }
+        root.come(Math.max(0, Math.min(row, root.count - 1)));
+        root.currentItem.forceActiveFocus(reason);
+        const button = root.Window.activeFocusItem as PlainButton;
+        if (button) {
+            button.focusReason = reason; // The list may have given it the focus without.
+        }
+    }
+
+    // What a change puts in the place of the row with the focus takes the focus over.
+    function replace(row, change) {
+        const button = root.activeFocus && root.currentIndex === row ? root.Window.activeFocusItem as PlainButton : null;
+        const reason = button?.visualFocus ? Qt.TabFocusReason : Qt.OtherFocusReason;
+        change();
+        if (button) {
+            root.focusRow(row, reason);
+        }
+    }
+
+    function step(by) {
+        root.focusRow(root.currentIndex + by, Qt.TabFocusReason);
+    }
+
+    function stepByKey(event) {
+        const isRow = root.orientation === ListView.Horizontal;
+        event.accepted = true;
+        switch (event.key) {
+        case isRow ? Qt.Key_Left : Qt.Key_Up: return root.step(-1);
+        case isRow ? Qt.Key_Right : Qt.Key_Down: return root.step(1);
+        case Qt.Key_PageUp: return root.step(-root.rowsInSight());
+        case Qt.Key_PageDown: return root.step(root.rowsInSight());
+        case Qt.Key_Home: return root.step(-root.count);
+        case Qt.Key_End: return root.step(root.count);
+        }
+        event.accepted = false;
+    }
+
+    function rowsInSight() {
+        const isRow = root.orientation === ListView.Horizontal;
+        const room = isRow ? root.width : root.height;
+        const row = isRow ? root.currentItem?.width : root.currentItem?.height;
+        return Math.max(1, Math.floor(room / ((row ?? room) + root.spacing)));
+    }
+}
