@@ -1,4 +1,5 @@
 #include "desk.h"
+#include "recorder.h"
 #include "support/writefile.h"
 
 #include <QDir>
@@ -43,9 +44,6 @@ private Q_SLOTS:
 private:
     static void chooseInMenu(const Desk& desk, int line);
     static void addTask(const Desk& desk, const QString& title);
-    /// An application that writes down what it is asked to open.
-    static QString recorder(Desk& desk, const QString& types);
-    static QString recorded(const QString& record);
 };
 
 void CommandsTest::chooseInMenu(const Desk& desk, int line)
@@ -62,28 +60,6 @@ void CommandsTest::addTask(const Desk& desk, const QString& title)
     desk.click(Desk::TaskField);
     desk.type(title);
     desk.key(u"Return"_s);
-}
-
-QString CommandsTest::recorder(Desk& desk, const QString& types)
-{
-    const auto record = desk.folder(u"record"_s);
-    const auto target = QFile::encodeName(record);
-    const auto program = writeFile(desk.folder(u"recorder"_s),
-                                   "#!/bin/sh\nprintf '%s\\n' \"$@\" > '" + target + ".new'\nmv '"
-                                       + target + ".new' '" + target + "'\n");
-    QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    writeFile(desk.folder(u".local/share/applications/recorder.desktop"_s),
-              "[Desktop Entry]\nType=Application\nName=Recorder\nExec=" + QFile::encodeName(program)
-                  + " %f\nMimeType=" + types.toUtf8() + "\n");
-    writeFile(desk.folder(u".config/mimeapps.list"_s),
-              "[Default Applications]\n" + types.chopped(1).toUtf8() + "=recorder.desktop\n");
-    return record;
-}
-
-QString CommandsTest::recorded(const QString& record)
-{
-    QFile file(record);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).trimmed() : QString();
 }
 
 void CommandsTest::quitFromTheMenu_savesEverything()
