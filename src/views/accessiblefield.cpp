@@ -1,7 +1,5 @@
 #include "views/accessiblefield.h"
 
-#include <QQuickWindow>
-
 namespace quib {
 
 QAccessible::State AccessibleField::state() const
@@ -97,9 +95,7 @@ QRect AccessibleField::characterRect(int offset) const
 
 int AccessibleField::offsetAtPoint(const QPoint& point) const
 {
-    const auto inScene = item().window()->mapFromGlobal(QPointF(point));
-    const auto place = item().mapFromScene(inScene);
-    if (!item().contains(place)) {
+    if (!rect().contains(point)) {
         return -1;
     }
     int offset = 0;

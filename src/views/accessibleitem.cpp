@@ -1,6 +1,7 @@
 #include "views/accessibleitem.h"
 
 #include <QQuickWindow>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -189,10 +190,15 @@ QStringList AccessibleItem::keyBindingsForAction(const QString& /*name*/) const
 
 QRect AccessibleItem::globalRect(const QRectF& part) const
 {
+    const auto* window = item().window();
+    if (!window) {
+        return {};
+    }
     const auto inScene = item().mapRectToScene(part);
-    const auto topLeft
-        = item().window() ? item().window()->mapToGlobal(inScene.topLeft()) : QPointF();
-    return QRectF(topLeft, inScene.size()).toRect();
+    const QPointF origin = window->screen()->geometry().topLeft();
+    const auto scale = window->devicePixelRatio();
+    const auto topLeft = (window->mapToGlobal(inScene.topLeft()) - origin) * scale + origin;
+    return QRectF(topLeft, inScene.size() * scale).toRect();
 }
 
 bool AccessibleItem::is(const char* state) const

@@ -37,7 +37,7 @@ public:
 
 protected:
     QQuickItem& item() const { return static_cast<QQuickItem&>(*object()); }
-    /// Of a part of the item, in global points.
+    /// Of a part of the item, in dots of the screen: Qt 6.4 hands on to readers what it is given.
     QRect globalRect(const QRectF& part) const;
 
 private:

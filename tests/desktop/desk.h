@@ -42,6 +42,7 @@ public:
     QJsonObject data() const;
     /// The titles of the tasks in data.json.
     QStringList savedTasks() const;
+    QString variable(const QString& name) const { return m_environment.value(name); }
     void setVariable(const QString& name, const QString& value);
 
     /// Starts Quib and waits for its panel.

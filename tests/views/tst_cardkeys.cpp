@@ -28,6 +28,8 @@ private Q_SLOTS:
     void escape_inAMenu_leavesTheMenu();
     void nextOpening_beginsInTheTab();
     void press_takesTheRingAwayAndAKeyBringsItBack();
+    void tabKey_comesRoundThroughEachTabInSight_data();
+    void tabKey_comesRoundThroughEachTabInSight();
 
 private:
     void open(Tab tab);
@@ -233,6 +235,42 @@ void CardKeysTest::press_takesTheRingAwayAndAKeyBringsItBack()
 
     ring = ShownPanel::find(m_panel->window->activeFocusItem(), u"focusRing"_s);
     QCOMPARE(ring->opacity(), 1.0);
+}
+
+void CardKeysTest::tabKey_comesRoundThroughEachTabInSight_data()
+{
+    QTest::addColumn<Tab>("tab");
+    QTest::addColumn<bool>("back");
+
+    for (const auto tab : quib::AllTabs) {
+        QTest::addRow("%s", qPrintable(quib::rawText(tab))) << tab << false;
+        QTest::addRow("%s, back", qPrintable(quib::rawText(tab))) << tab << true;
+    }
+}
+
+void CardKeysTest::tabKey_comesRoundThroughEachTabInSight()
+{
+    QFETCH(const Tab, tab);
+    QFETCH(const bool, back);
+    const auto client = m_panel->workspace.client(u"Cafe"_s);
+    for (int number = 0; number < 30; ++number) {
+        m_panel->workspace.task(QString::number(number), client, number % 3 == 0);
+        m_panel->workspace.client(QString::number(number));
+    }
+    open(tab);
+    m_panel->press(Qt::Key_Escape); // Out of a field.
+    m_panel->item(u"pin"_s)->forceActiveFocus(Qt::TabFocusReason);
+
+    int steps = 0;
+    do {
+        m_panel->press(back ? Qt::Key_Backtab : Qt::Key_Tab);
+        const auto* item = m_panel->window->activeFocusItem();
+        QVERIFY2(item->isVisible(), qPrintable(m_panel->focused()));
+        QVERIFY2(m_panel->rect(u"shape"_s).contains(inScene(item).center()),
+                 qPrintable(m_panel->focused()));
+    } while (m_panel->focused() != "pin"_L1 && ++steps < 40);
+
+    QCOMPARE(m_panel->focused(), u"pin"_s);
 }
 
 QTEST_MAIN(CardKeysTest)
