@@ -178,8 +178,13 @@ QStringList AccessibleItem::actionNames() const
 
 void AccessibleItem::doAction(const QString& name)
 {
-    if (item().isEnabled() && actionNames().contains(name)) {
+    if (!item().isEnabled() || !actionNames().contains(name)) {
+        return;
+    }
+    if (isControl(item())) {
         QMetaObject::invokeMethod(object(), "clicked");
+    } else {
+        QMetaObject::invokeMethod(m_attached, "pressAction");
     }
 }
 
@@ -208,7 +213,7 @@ bool AccessibleItem::is(const char* state) const
 
 bool AccessibleItem::isPressable() const
 {
-    return isControl(item());
+    return isControl(item()) || is("focusable"); // As the tiles of a list.
 }
 
 } // namespace quib

@@ -13,6 +13,7 @@ ListView {
 
     clip: true
     boundsBehavior: Flickable.StopAtBounds
+    cacheBuffer: 0 // Rows made beforehand are stops of the keyboard before they are whole.
     highlightFollowsCurrentItem: false
     keyNavigationEnabled: false
     Accessible.role: Accessible.List
@@ -58,11 +59,10 @@ ListView {
     }
 
     function stepByKey(event) {
-        const isRow = root.orientation === ListView.Horizontal;
         event.accepted = true;
         switch (event.key) {
-        case isRow ? Qt.Key_Left : Qt.Key_Up: return root.step(-1);
-        case isRow ? Qt.Key_Right : Qt.Key_Down: return root.step(1);
+        case Qt.Key_Up: return root.step(-1);
+        case Qt.Key_Down: return root.step(1);
         case Qt.Key_PageUp: return root.step(-root.rowsInSight());
         case Qt.Key_PageDown: return root.step(root.rowsInSight());
         case Qt.Key_Home: return root.step(-root.count);
@@ -72,9 +72,7 @@ ListView {
     }
 
     function rowsInSight() {
-        const isRow = root.orientation === ListView.Horizontal;
-        const room = isRow ? root.width : root.height;
-        const row = isRow ? root.currentItem?.width : root.currentItem?.height;
-        return Math.max(1, Math.floor(room / ((row ?? room) + root.spacing)));
+        const row = root.currentItem ? root.currentItem.height + root.spacing : root.height;
+        return Math.max(1, Math.floor(root.height / row));
     }
 }

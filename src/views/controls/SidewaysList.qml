@@ -92,6 +92,7 @@ FocusScope {
         rightMargin: root.room
         orientation: ListView.Horizontal
         boundsBehavior: Flickable.StopAtBounds
+        cacheBuffer: 0 // Or what is made beforehand is a stop of the keyboard before it is whole.
         clip: true
         focus: true
         highlightFollowsCurrentItem: false

@@ -96,6 +96,7 @@ Card {
             anchors.topMargin: add.height + 4
             focus: true
             boundsBehavior: Flickable.StopAtBounds
+            cacheBuffer: 0 // Or what is made beforehand is a stop of the keyboard before it is whole.
             clip: true
             highlightFollowsCurrentItem: false
             keyNavigationEnabled: false

@@ -84,6 +84,7 @@ FocusScope {
         clip: true
         focus: true
         boundsBehavior: Flickable.StopAtBounds
+        cacheBuffer: 0 // Or what is made beforehand is a stop of the keyboard before it is whole.
         highlightFollowsCurrentItem: false
         interactive: contentHeight > height
         keyNavigationEnabled: false

@@ -74,6 +74,7 @@ Item {
         spacing: 4
         clip: true
         boundsBehavior: Flickable.StopAtBounds
+        cacheBuffer: 0 // Or what is made beforehand is a stop of the keyboard before it is whole.
         currentIndex: root.row
         highlightFollowsCurrentItem: false
         keyNavigationEnabled: false
