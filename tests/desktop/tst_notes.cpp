@@ -207,7 +207,7 @@ void NotesTest::middleClick_pastesWhatIsSelectedElsewhere()
 void NotesTest::showing_leavesTheFileAsItIs()
 {
     Desk desk;
-    const auto file = workspaceWith("a\\rb\\r\\nc\\u0000d\\u2028e\\u2029f\\uFFFCg\\u00a0\\uFDD0h");
+    const auto file = workspaceWith(R"(a\rb\r\nc\u0000d\u2028e\u2029f\uFFFCg\u00a0\uFDD0h)");
     desk.writeData(file);
     const auto quib = desk.startQuib();
     goToTheNotes(desk);

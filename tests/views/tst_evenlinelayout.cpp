@@ -90,9 +90,11 @@ bool hasSameHits(const Documents& documents)
         }
     }
     for (const double y : heights) {
-        for (double x = -5; x < Width + 20; x += 23) {
-            const auto expected = documents.qt.documentLayout()->hitTest({x, y}, Qt::FuzzyHit);
-            const auto found = documents.ours.documentLayout()->hitTest({x, y}, Qt::FuzzyHit);
+        for (int x = -5; x < Width + 20; x += 23) {
+            const auto expected
+                = documents.qt.documentLayout()->hitTest(QPointF(x, y), Qt::FuzzyHit);
+            const auto found
+                = documents.ours.documentLayout()->hitTest(QPointF(x, y), Qt::FuzzyHit);
             if (expected != found) {
                 qWarning() << "at" << x << y << expected << found;
                 return false;
@@ -138,7 +140,7 @@ void EvenLineLayoutTest::lines_areWhereQtHasThemAfterAnyEdit()
         const int from = static_cast<int>(random.bounded(length));
         const int to = qMin(length - 1, from + static_cast<int>(random.bounded(20)));
         const int kind = static_cast<int>(random.bounded(4));
-        const auto piece = pieces.at(random.bounded(pieces.size()));
+        const auto& piece = pieces.at(random.bounded(pieces.size()));
         documents.each([&](QTextDocument& document) {
             QTextCursor cursor(&document);
             cursor.setPosition(from);
