@@ -1,23 +1,13 @@
 #include "app/snapshot.h"
 
 #include "app/appdelegate.h"
-#include "app/notch/geometry.h"
 #include "app/notchpanel.h"
+#include "app/offscreenpanel.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QEventLoop>
-#include <QGuiApplication>
-#include <QImage>
-#include <QQmlComponent>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickRenderControl>
-#include <QQuickRenderTarget>
-#include <QQuickWindow>
 #include <QTimer>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -50,54 +40,6 @@ void awaitAnswers(const AppDelegate& delegate, const QDeadlineTimer& deadline)
         runLoop(LookingTime);
     }
 }
-
-/// A panel that no window system knows of. Its render control is never initialised: the software
-/// scene graph needs no graphics device.
-class OffscreenPanel {
-public:
-    explicit OffscreenPanel(const ViewContext& context)
-    {
-        m_window.setColor(Qt::transparent);
-        m_window.setGeometry(QRect({}, PanelSize.toSize()));
-        m_window.contentItem()->setSize(PanelSize);
-        m_engine.addImportPath(u"qrc:/qt/qml"_s);
-        QQmlComponent component(&m_engine, rootSource());
-        m_root.reset(qobject_cast<QQuickItem*>(
-            component.createWithInitialProperties(rootProperties(context))));
-        if (m_root) {
-            m_root->setParentItem(m_window.contentItem());
-            m_root->setSize(PanelSize);
-            m_control.polishItems(); // Lists make their rows, and these ask for icons.
-        }
-    }
-
-    /// Null where there is no view to draw.
-    QImage picture()
-    {
-        if (!m_root) {
-            return {};
-        }
-        const auto scale = qGuiApp->devicePixelRatio();
-        QImage image((PanelSize * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        image.setDevicePixelRatio(scale);
-        auto target = QQuickRenderTarget::fromPaintDevice(&image);
-        target.setDevicePixelRatio(scale);
-        m_window.setRenderTarget(target);
-        m_control.polishItems();
-        m_control.beginFrame();
-        m_control.sync();
-        m_control.render();
-        m_control.endFrame();
-        return image;
-    }
-
-private:
-    QQmlEngine m_engine;
-    QQuickRenderControl m_control;
-    QQuickWindow m_window{&m_control};
-    std::unique_ptr<QQuickItem> m_root;
-};
 
 } // namespace
 
