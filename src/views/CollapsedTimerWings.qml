@@ -30,7 +30,7 @@ Item {
             width: parent.width - 2 * anchors.leftMargin
             spacing: 6
 
-            Rectangle {
+            ContinuousRectangle {
                 id: dot
 
                 objectName: "dot"

@@ -73,7 +73,7 @@ PlainButton {
         implicitWidth: dot.width + name.implicitWidth + arrows.width + 12
         implicitHeight: name.implicitHeight
 
-        Rectangle {
+        ContinuousRectangle {
             id: dot
 
             objectName: "dot"

@@ -53,7 +53,7 @@ PlainButton {
 
         implicitHeight: nameText.implicitHeight
 
-        Rectangle {
+        ContinuousRectangle {
             id: dot
 
             objectName: "dot"

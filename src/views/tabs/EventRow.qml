@@ -21,7 +21,7 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: "%2, %1".arg(root.time).arg(root.title) // The title last: it may hold anything.
 
-    Rectangle {
+    ContinuousRectangle {
         id: bar
 
         objectName: "bar"

@@ -46,7 +46,7 @@ FocusScope {
         anchors.fill: parent
         visible: timer.isRunning
 
-        Rectangle {
+        ContinuousRectangle {
             id: dot
 
             objectName: "dot"

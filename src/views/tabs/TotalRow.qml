@@ -59,14 +59,14 @@ Column {
         }
     }
 
-    Rectangle {
+    ContinuousRectangle {
         objectName: "track"
         width: parent.width
         height: 4
         radius: 2
         color: Brand.white(0.06)
 
-        Rectangle {
+        ContinuousRectangle {
             objectName: "bar"
             width: root.fraction * parent.width
             height: parent.height
