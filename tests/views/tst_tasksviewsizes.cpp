@@ -54,7 +54,7 @@ void TasksViewSizesTest::clientPicker_hasItsSizes()
     QCOMPARE(dot.left(), frame.left() + 9);
     QCOMPARE(numberOf(name, "size"), 11.5);
     QCOMPARE(textOf(name), u"No client"_s);
-    QCOMPARE(frame.height(), name->height() + 12);
+    QCOMPARE(frame.height(), m_tab->rect(u"newTitle"_s).height());
     QCOMPARE(textOf(arrows, "name"), u"chevron.up.chevron.down"_s);
     QCOMPARE(numberOf(arrows, "size"), 8.0);
     QCOMPARE(inScene(arrows).right(), frame.right() - 9);

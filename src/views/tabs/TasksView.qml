@@ -37,7 +37,7 @@ FocusScope {
         anchors.right: parent.right
         anchors.top: parent.top
         anchors.topMargin: 10
-        height: Math.max(field.height, picker.height)
+        height: field.height
 
         QuibField {
             id: field
@@ -60,6 +60,7 @@ FocusScope {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             width: 140
+            height: field.height // Half a point would show between the two.
             store: root.store
             placeholder: "No client"
             selection: root.newClient
