@@ -21,6 +21,7 @@ private Q_SLOTS:
     void deleting_takesOneClick();
     void clearDone_clearsTheDoneOnes();
     void deletedClient_takesItsTagAway();
+    void longTitleAndName_leaveRoomForEachOther();
 
 private:
     std::unique_ptr<TasksTab> m_tab;
@@ -128,6 +129,21 @@ void TaskRowsTest::deletedClient_takesItsTagAway()
     m_tab->store().deleteClient(cafe);
 
     QVERIFY(!m_tab->part(0, u"tag"_s)->isVisible());
+}
+
+void TaskRowsTest::longTitleAndName_leaveRoomForEachOther()
+{
+    const QString title(300, u'w');
+    m_tab->workspace.task(title, m_tab->workspace.client(QString(200, u'm')));
+    m_tab->move(m_tab->row(0));
+
+    const auto remove = inScene(m_tab->part(0, u"remove"_s));
+    const auto tag = inScene(m_tab->part(0, u"tag"_s));
+    const auto text = inScene(m_tab->part(0, u"title"_s));
+
+    QVERIFY(text.right() < tag.left());
+    QVERIFY(tag.right() <= remove.left());
+    QVERIFY(text.width() > 300);
 }
 
 QTEST_MAIN(TaskRowsTest)
