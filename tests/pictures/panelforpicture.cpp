@@ -2,6 +2,7 @@
 
 #include "app/notchpanel.h"
 #include "model/datafile.h"
+#include "platform/linux/diskprobe.h"
 #include "platform/linux/themeiconsource.h"
 #include "shortcuts/shortcuts.h"
 #include "support/writefile.h"
@@ -54,6 +55,7 @@ PanelForPicture::PanelForPicture(const Day& day, const QString& folder,
     putFiles(day, folder);
     m_hands.now = Now;
     m_shell.platform.icons = iconsOfTheTheme();
+    m_shell.platform.files = std::make_unique<quib::DiskProbe>(Patience);
     m_delegate = std::make_unique<quib::AppDelegate>(std::move(m_shell.platform), m_hands.clock(),
                                                      m_hands.scheduler());
     m_delegate->layout();
@@ -76,9 +78,11 @@ void PanelForPicture::click(QPointF at)
 
 QImage PanelForPicture::picture()
 {
-    const auto& icons = *m_delegate->platform().icons;
+    const auto& platform = m_delegate->platform();
     m_panel->picture(); // Asks for the icons of what is in sight.
-    const bool allCame = QTest::qWaitFor([&] { return !icons.isBusy(); }, 2 * Patience.count());
+    const bool allCame
+        = QTest::qWaitFor([&] { return !platform.files->isBusy() && !platform.icons->isBusy(); },
+                          2 * Patience.count());
     return allCame ? atRest() : QImage();
 }
 

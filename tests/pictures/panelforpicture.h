@@ -8,8 +8,8 @@
 
 #include <optional>
 
-/// The whole panel, drawn out of sight: the delegate among fakes, but for the icons, which are the
-/// theme's. It finds its workspace in files, as the program does. Nothing moves.
+/// The whole panel, drawn out of sight: the delegate among fakes, but for files and their icons,
+/// which are the theme's. It finds its workspace on the disk, as the program does. Nothing moves.
 class PanelForPicture {
 public:
     /// Open on a tab, or collapsed.
