@@ -119,7 +119,7 @@ FocusScope {
             text: root.clientName
             size: 10
             weight: Font.Medium
-            color: Brand.letterColor(root.clientStatus)
+            color: Brand.color(root.clientStatus)
             elide: Text.ElideRight
         }
     }
