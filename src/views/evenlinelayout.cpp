@@ -156,6 +156,9 @@ void EvenLineLayout::layOut(QTextBlock block) const
     auto& text = *block.layout();
     auto option = document()->defaultTextOption();
     option.setTextDirection(block.textDirection());
+    if (block.textDirection() == Qt::RightToLeft && hasWidth()) {
+        option.setAlignment(Qt::AlignRight); // Where its lines begin.
+    }
     if (hasEndlessWord(block.text())) {
         option.setWrapMode(QTextOption::WrapAnywhere);
     }
