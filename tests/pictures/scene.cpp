@@ -80,7 +80,7 @@ QList<Scene> elsewhere()
 QList<Scene> inCairo()
 {
     QList<Scene> scenes{{.name = u"wings, Arabic"_s, .day = arabicDay}};
-    for (const auto tab : {Tab::Home, Tab::Clients, Tab::Tasks, Tab::Time}) {
+    for (const auto tab : {Tab::Home, Tab::Clients, Tab::Tasks, Tab::Time, Tab::Notes}) {
         scenes << open(tab, u"Arabic"_s, arabicDay);
     }
     for (auto& scene : scenes) {
