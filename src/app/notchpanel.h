@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/composedonce.h"
+
 #include <QQuickView>
 #include <QTimer>
 
@@ -47,6 +49,7 @@ private:
     PanelHost& m_host;
     QPointF m_press;
     QTimer m_afterPress; ///< Due once the press has moved the focus.
+    ComposedOnce m_composedOnce{*this};
 };
 
 /// What the root view of every panel and picture is made with.
