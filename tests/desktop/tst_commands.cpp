@@ -1,6 +1,5 @@
 #include "desk.h"
 #include "recorder.h"
-#include "support/writefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -107,7 +106,7 @@ void CommandsTest::quitKey_quitsWhileTheMenuIsOpen()
 void CommandsTest::editShortcuts_opensTheFileInTheTextEditor()
 {
     Desk desk;
-    const auto record = recorder(desk, u"text/plain;"_s);
+    const Recorder editor(desk, {u"text/plain"_s});
     const auto quib = desk.startQuib();
     const auto file = desk.dataFolder() + u"/shortcuts.json"_s;
     QVERIFY(QFile::remove(file)); // It is written again, to be there to edit.
@@ -115,20 +114,20 @@ void CommandsTest::editShortcuts_opensTheFileInTheTextEditor()
 
     chooseInMenu(desk, ShortcutsLine);
 
-    QTRY_COMPARE(recorded(record), file);
+    QTRY_COMPARE(editor.opened(), QStringList{file});
     QVERIFY(QFile::exists(file));
 }
 
 void CommandsTest::showDataFolder_opensItInTheFileManager()
 {
     Desk desk;
-    const auto record = recorder(desk, u"inode/directory;"_s);
+    const Recorder fileManager(desk, {u"inode/directory"_s});
     const auto quib = desk.startQuib();
     desk.openWithPointer();
 
     chooseInMenu(desk, DataLine);
 
-    QTRY_COMPARE(recorded(record), desk.dataFolder());
+    QTRY_COMPARE(fileManager.opened(), QStringList{desk.dataFolder()});
 }
 
 void CommandsTest::launchAtLogin_writesAnEntryAndTakesItAway()
@@ -177,7 +176,8 @@ void CommandsTest::folderChosen_isKeptWhenASecondChoiceIsCancelled()
     desk.click(ChooseFolder);
     QVERIFY(desk.waitForFront(u"Choose Folder"_s));
     desk.moveTo(Desk::FarAway);
-    desk.type(desk.folder(u"work/shop"_s));
+    desk.type(desk.folder(u"work/shop"_s)); // Takes longer than a collapse would.
+    QVERIFY(desk.isExpanded());
     desk.key(u"Return"_s);
     QTRY_COMPARE(folderOfTheFirst(), desk.folder(u"work/shop"_s));
     QVERIFY(desk.waitForExpanded(false)); // Nothing holds it open any more.

@@ -1,7 +1,6 @@
-#include "desk.h"
+#include "partners.h"
 
 #include "support/sendsignal.h"
-#include "support/soundfile.h"
 #include "support/writefile.h"
 
 #include <QDateTime>
@@ -35,40 +34,6 @@ constexpr QPoint ConnectCalendar{748, 117};
 constexpr QPoint FirstEvent{691, 96}; // Its bar.
 constexpr QPoint EditLaunch{1114, 256};
 constexpr QPoint AddWebsite{1084, 256};
-
-Program startPlayer(Desk& desk)
-{
-    const auto song = desk.folder(u"song.wav"_s);
-    writeSound(song, "So What", "Miles Davis");
-    return desk.start(u"mpv"_s,
-                      {u"--no-config"_s, u"--ao=null"_s, u"--no-video"_s, u"--really-quiet"_s,
-                       u"--script=/usr/lib/mpv-mpris/mpris.so"_s, song});
-}
-
-/// What the player says of itself on the desk's bus.
-QString playbackOf(Desk& desk)
-{
-    const auto asker = desk.start(
-        u"dbus-send"_s,
-        {u"--session"_s, u"--print-reply=literal"_s, u"--dest=org.mpris.MediaPlayer2.mpv"_s,
-         u"/org/mpris/MediaPlayer2"_s, u"org.freedesktop.DBus.Properties.Get"_s,
-         u"string:org.mpris.MediaPlayer2.Player"_s, u"string:PlaybackStatus"_s});
-    asker->waitForFinished();
-    return QString::fromLatin1(asker->readAllStandardOutput()).simplified().section(u' ', -1);
-}
-
-/// A calendar of the user's own with one event that lasts until the end of the day.
-void makeCalendar(const Desk& desk)
-{
-    writeFile(desk.folder(u".config/evolution/sources/work.source"_s),
-              "[Data Source]\nDisplayName=Work\nEnabled=true\nParent=local-stub\n\n"
-              "[Calendar]\nBackendName=local\nColor=#33d17a\nSelected=true\n");
-    const auto today = QDate::currentDate();
-    writeFile(desk.folder(u".local/share/evolution/calendar/work/calendar.ics"_s),
-              "BEGIN:VCALENDAR\nVERSION:2.0\nPRODID:-//Quib//tests//EN\nBEGIN:VEVENT\nUID:1\n"
-              "DTSTAMP:20200101T000000Z\nSUMMARY:Fair\nDTSTART;VALUE=DATE:"
-                  + today.toString(u"yyyyMMdd"_s).toLatin1() + "\nEND:VEVENT\nEND:VCALENDAR\n");
-}
 
 bool isGreen(const QColor& color)
 {
@@ -147,7 +112,7 @@ void HomeTest::hungPlayer_freezesNothing()
 void HomeTest::calendar_isConnectedAndShown()
 {
     Desk desk;
-    makeCalendar(desk);
+    makeCalendar(desk, {u"Fair"_s});
     const auto quib = desk.startQuib();
     desk.openWithPointer();
     QTRY_VERIFY(hasPurple(desk.picture(), {ConnectCalendar - QPoint(5, 5), QSize(10, 10)}));

@@ -1,5 +1,6 @@
 #include "deskconnection.h"
 #include "recorder.h"
+#include "support/writefile.h"
 
 #include <QJsonArray>
 #include <QTest>
@@ -29,7 +30,7 @@ constexpr int Tasks = 3;
 
 /// A panel that the keyboard has opened, over a window that tells which keys reach it.
 struct OpenDesk : Desk {
-    QString record = recorder(*this, u"inode/directory;"_s);
+    Recorder recorder{*this, {u"inode/directory"_s}};
     Program listener = startListener();
     Output heard{*listener};
     Program quib = startQuib();
@@ -126,7 +127,7 @@ void KeyboardAloneTest::shortcut_isPressed()
     desk.showTab(Links);
     desk.keys({u"Right"_s, u"Return"_s});
 
-    QTRY_COMPARE(recorded(desk.record), u"/usr/bin"_s);
+    QTRY_COMPARE(desk.recorder.openedLast(), u"/usr/bin"_s);
 }
 
 void KeyboardAloneTest::menu_opensByItsKeyAndEscapeLeavesIt()

@@ -1,4 +1,5 @@
-#include "desk.h"
+#include "partners.h"
+
 #include "support/sendsignal.h"
 
 #include <QDateTime>
@@ -184,28 +185,20 @@ void WorkingDayTest::exportedTimesheet_isWhatTheWorkspaceHolds()
     const auto files = [&] { return QDir(desk.folder(u"Downloads"_s)).entryList(QDir::Files); };
     QTRY_COMPARE(files().size(), 1);
     QVERIFY(files()[0].startsWith(u"Korvel-timesheet-"_s));
-    const auto reader
-        = desk.start(u"python3"_s,
-                     {u"-c"_s,
-                      u"import csv, json, sys\n"
-                      "rows = list(csv.reader(open(sys.argv[1], newline='', encoding='utf-8'),"
-                      " strict=True))\nprint(json.dumps(rows))"_s,
-                      desk.folder(u"Downloads/"_s + files()[0])});
-    QVERIFY(reader->waitForFinished());
-    const auto rows = QJsonDocument::fromJson(reader->readAllStandardOutput()).array();
+    const auto rows = readStrictly(desk, desk.folder(u"Downloads/"_s + files()[0]));
     QCOMPARE(rows.size(), 4);
-    QCOMPARE(rows[0].toArray(),
-             (QJsonArray{u"client"_s, u"start"_s, u"end"_s, u"hours"_s, u"rate"_s, u"amount"_s,
-                         u"note"_s}));
-    QCOMPARE(rows[1].toArray(),
-             (QJsonArray{BakeryName, u"2026-01-05T09:00:00Z"_s, u"2026-01-05T10:30:00Z"_s,
-                         u"1.50"_s, u"40.00"_s, u"60.00"_s, note}));
-    QCOMPARE(rows[2].toArray(),
-             (QJsonArray{u"No client"_s, u"2026-01-06T09:00:00Z"_s, u"2026-01-06T09:15:00Z"_s,
-                         u"0.25"_s, u"0.00"_s, u"0.00"_s, QString()}));
-    QCOMPARE(rows[3].toArray()[0].toString(), BakeryName);
-    QCOMPARE(rows[3].toArray()[1].toString(), running);
-    QVERIFY(rows[3].toArray()[2].toString() > running); // Ends now.
+    QCOMPARE(rows[0],
+             (QStringList{u"client"_s, u"start"_s, u"end"_s, u"hours"_s, u"rate"_s, u"amount"_s,
+                          u"note"_s}));
+    QCOMPARE(rows[1],
+             (QStringList{BakeryName, u"2026-01-05T09:00:00Z"_s, u"2026-01-05T10:30:00Z"_s,
+                          u"1.50"_s, u"40.00"_s, u"60.00"_s, note}));
+    QCOMPARE(rows[2],
+             (QStringList{u"No client"_s, u"2026-01-06T09:00:00Z"_s, u"2026-01-06T09:15:00Z"_s,
+                          u"0.25"_s, u"0.00"_s, u"0.00"_s, QString()}));
+    QCOMPARE(rows[3].value(0), BakeryName);
+    QCOMPARE(rows[3].value(1), running);
+    QVERIFY(rows[3].value(2) > running); // Ends now.
 }
 
 void WorkingDayTest::clientDeletedWithTwoClicks_leavesItsTimeUnderNoClient()
