@@ -79,9 +79,11 @@ Program Desk::start(const QString& program, const QStringList& arguments)
     return process;
 }
 
-Program Desk::startQuib()
+Program Desk::startQuib(QStringList command, const QStringList& arguments)
 {
-    auto program = start(quib());
+    command << quib() << arguments;
+    const auto first = command.takeFirst();
+    auto program = start(first, command);
     waitFor("the panel", [this] {
         return isShown(u"Korvel Quib"_s) && pixel({800, 12}) == QColor(Qt::black);
     });

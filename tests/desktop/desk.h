@@ -45,8 +45,8 @@ public:
     QString variable(const QString& name) const { return m_environment.value(name); }
     void setVariable(const QString& name, const QString& value);
 
-    /// Starts Quib and waits for its panel.
-    Program startQuib();
+    /// Starts Quib, by the words before its name if there are any, and waits for its panel.
+    Program startQuib(QStringList command = {}, const QStringList& arguments = {});
     Program start(const QString& program, const QStringList& arguments = {});
     /// Starts Quib and waits for its end; its exit status, or -1 when it did not end.
     int runQuib(const QStringList& arguments = {});

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void anotherDataFolder_isAnotherInstance();
     void firstCrashed_theNextStartsAnew();
     void snapshot_takesNoPart();
+    void snapshotWithoutAFolder_isAnOrdinaryStart();
 };
 
 void InstanceTest::secondStart_opensTheFirstAndGivesItTheKeyboard_data()
@@ -83,6 +84,17 @@ void InstanceTest::snapshot_takesNoPart()
 
     QVERIFY(QFile::exists(desk.folder(u"runtime/home.png"_s)));
     QVERIFY(!desk.isExpanded());
+}
+
+void InstanceTest::snapshotWithoutAFolder_isAnOrdinaryStart()
+{
+    Desk desk;
+
+    const auto quib = desk.startQuib({}, {u"--snapshot"_s});
+    desk.moveTo(Desk::Notch);
+
+    QVERIFY(desk.waitForExpanded(true));
+    QCOMPARE(quib->state(), QProcess::Running);
 }
 
 QTEST_GUILESS_MAIN(InstanceTest)

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void endingSoonAfterAChange_leavesItOnDisk();
     void serverGoneSoonAfterAChange_leavesItOnDisk();
     void nothingChanged_nothingIsWritten();
+    void firstStart_isInTheUsersDataHome();
     void unreadableFile_survivesStartAndEnd();
     void dataFolderRemoved_isMadeAgain();
 };
@@ -99,6 +100,19 @@ void SavingTest::nothingChanged_nothingIsWritten()
     QVERIFY(quib->waitForFinished());
     QVERIFY(QDir(desk.dataFolder()).exists());
     QCOMPARE(QDir(desk.dataFolder()).entryList(QDir::Files), QStringList{u"shortcuts.json"_s});
+}
+
+void SavingTest::firstStart_isInTheUsersDataHome()
+{
+    Desk desk;
+    const QDir folder(desk.folder(u".local/share/KorvelQuib"_s));
+    const auto quib = desk.startQuib({u"env"_s, u"-u"_s, u"QUIB_DATA_DIR"_s});
+    QCOMPARE(folder.entryList(QDir::Files), QStringList{u"shortcuts.json"_s});
+
+    addTask(desk, u"First change"_s);
+
+    QTRY_VERIFY(folder.exists(u"data.json"_s));
+    QVERIFY(!QFile::exists(desk.dataFolder()));
 }
 
 void SavingTest::unreadableFile_survivesStartAndEnd()

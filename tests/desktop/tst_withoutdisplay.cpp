@@ -8,6 +8,29 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr auto SampleWorkspace = R"({"clients": [
+    {"id": "6F1C0000-0000-4000-8000-000000000001", "name": "Corner Café", "status": "build",
+     "siteURL": "", "folderPath": "", "hourlyRate": 35,
+     "notes": "Example client. Edit or delete me."},
+    {"id": "6F1C0000-0000-4000-8000-000000000002", "name": "Northside Barbers", "status": "design",
+     "siteURL": "", "folderPath": "", "hourlyRate": 35, "notes": ""},
+    {"id": "6F1C0000-0000-4000-8000-000000000003", "name": "Bloom Florist", "status": "lead",
+     "siteURL": "", "folderPath": "", "hourlyRate": 35, "notes": ""}],
+    "tasks": [
+    {"id": "6F1C0000-0000-4000-8000-000000000004", "created": "2026-03-02T09:00:00Z", "done": false,
+     "title": "Send Corner Café the homepage preview",
+     "clientID": "6F1C0000-0000-4000-8000-000000000001"},
+    {"id": "6F1C0000-0000-4000-8000-000000000005", "created": "2026-03-02T09:00:00Z", "done": false,
+     "title": "Tick this off to try it"}],
+    "launch": [
+    {"id": "6F1C0000-0000-4000-8000-000000000006", "name": "Gmail", "target": "a.example"},
+    {"id": "6F1C0000-0000-4000-8000-000000000007", "name": "Calendar", "target": "b.example"}],
+    "entries": [], "shelf": [], "notes": ""})";
+
+} // namespace
+
 /// The program from a shell, where there is no display.
 class WithoutDisplayTest : public QObject {
     Q_OBJECT
@@ -19,6 +42,7 @@ private Q_SLOTS:
     void help_andVersion_needNoDisplay_data();
     void help_andVersion_needNoDisplay();
     void snapshot_isTheSameTwice();
+    void snapshot_withoutData_showsTheSampleWorkspace();
     void snapshot_showsTheIconsOfApplications();
     void snapshot_growsWithTheScaleFactor();
     void snapshot_leavesAMissingFolderMissing();
@@ -27,6 +51,7 @@ private:
     void run(const QStringList& arguments);
     QByteArray picture(const QString& folder, const QString& name) const;
     QString put(const QString& name, const QByteArray& bytes) const;
+    void takePictures(const QString& folder);
 
     std::unique_ptr<QTemporaryDir> m_home;
     QProcessEnvironment m_environment;
@@ -65,6 +90,14 @@ QByteArray WithoutDisplayTest::picture(const QString& folder, const QString& nam
 QString WithoutDisplayTest::put(const QString& name, const QByteArray& bytes) const
 {
     return writeFile(m_home->filePath(name), bytes);
+}
+
+void WithoutDisplayTest::takePictures(const QString& folder)
+{
+    QVERIFY(QDir(m_home->path()).mkdir(folder));
+    run({u"--snapshot"_s, m_home->filePath(folder)});
+    QCOMPARE(m_status, 0);
+    QCOMPARE(m_out + m_error, QByteArray());
 }
 
 void WithoutDisplayTest::noDisplay_saysSoInOneLine()
@@ -111,10 +144,7 @@ void WithoutDisplayTest::help_andVersion_needNoDisplay()
 void WithoutDisplayTest::snapshot_isTheSameTwice()
 {
     for (const auto& folder : {u"first"_s, u"second"_s}) {
-        QVERIFY(QDir(m_home->path()).mkdir(folder));
-        run({u"--snapshot"_s, m_home->filePath(folder)});
-        QCOMPARE(m_status, 0);
-        QCOMPARE(m_out + m_error, QByteArray());
+        takePictures(folder);
     }
 
     const auto names = QDir(m_home->filePath(u"first"_s)).entryList(QDir::Files);
@@ -122,6 +152,24 @@ void WithoutDisplayTest::snapshot_isTheSameTwice()
     for (const auto& name : names) {
         QCOMPARE(QImage(m_home->filePath(u"first/"_s + name)).size(), QSize(760, 330));
         QVERIFY2(picture(u"first"_s, name) == picture(u"second"_s, name), qPrintable(name));
+    }
+}
+
+void WithoutDisplayTest::snapshot_withoutData_showsTheSampleWorkspace()
+{
+    const auto file = u".local/share/KorvelQuib/data.json"_s;
+    takePictures(u"without data"_s);
+    QVERIFY(!QFile::exists(m_home->filePath(file)));
+
+    put(file, SampleWorkspace);
+    takePictures(u"sample data"_s);
+    put(file, QByteArray(SampleWorkspace).replace("Corner", "Other"));
+    takePictures(u"other data"_s);
+
+    for (const auto& name : {u"home.png"_s, u"clients.png"_s, u"tasks.png"_s}) {
+        const auto shown = picture(u"without data"_s, name);
+        QVERIFY2(shown == picture(u"sample data"_s, name), qPrintable(name));
+        QVERIFY2(shown != picture(u"other data"_s, name), qPrintable(name));
     }
 }
 

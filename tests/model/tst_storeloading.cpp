@@ -31,6 +31,7 @@ private Q_SLOTS:
     void unreadableFile_isReplacedByTheFirstChange();
     void loading_announcesAndSavesNothing();
     void folderInTheWay_isNoReasonToFail();
+    void dataFolderThatCanNotBeMade_isNoReasonToFail();
     void leftovers_areRemovedAtStart();
     void findApplication_isNotAskedWhenThereIsData();
 };
@@ -135,6 +136,22 @@ void StoreLoadingTest::folderInTheWay_isNoReasonToFail()
 
     QCOMPARE(start.store.notes(), u"kept in memory"_s);
     QVERIFY(QFileInfo(folder.file()).isDir());
+}
+
+void StoreLoadingTest::dataFolderThatCanNotBeMade_isNoReasonToFail()
+{
+    const DataFolderForTest folder;
+    const auto inTheWay = writeFile(folder.path() + u"/file"_s, "no folder");
+    qputenv("QUIB_DATA_DIR", QFile::encodeName(inTheWay + u"/data"_s));
+
+    Start start;
+    start.store.setNotes(u"kept in memory"_s);
+    start.hands.advance(400ms);
+    start.store.saveNow();
+
+    QCOMPARE(start.store.data().clients.size(), 3);
+    QCOMPARE(start.store.notes(), u"kept in memory"_s);
+    QVERIFY(QFileInfo(inTheWay).isFile());
 }
 
 void StoreLoadingTest::leftovers_areRemovedAtStart()

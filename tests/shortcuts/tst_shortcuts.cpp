@@ -41,6 +41,7 @@ private Q_SLOTS:
     void brokenAfterNoGroups_showsTheStarterButtons();
     void endlessFile_isNoButtons();
     void folderInItsPlace_showsTheStarterButtons();
+    void fileThatCanNotBeWritten_showsTheStarterButtons();
     void sameFileAgain_announcesNothing();
     void edit_writesAMissingFileAndOpensIt();
 
@@ -222,6 +223,17 @@ void ShortcutsTest::endlessFile_isNoButtons()
 void ShortcutsTest::folderInItsPlace_showsTheStarterButtons()
 {
     QVERIFY(QDir(m_folder->path()).mkdir(u"shortcuts.json"_s));
+
+    m_shortcuts->reload();
+
+    QCOMPARE(titles(), (QStringList{u"Work"_s, u"Make money"_s}));
+    QCOMPARE(m_shortcuts->problem(), Problem);
+}
+
+void ShortcutsTest::fileThatCanNotBeWritten_showsTheStarterButtons()
+{
+    const auto inTheWay = writeFile(m_folder->path() + u"/file"_s, "no folder");
+    qputenv("QUIB_DATA_DIR", QFile::encodeName(inTheWay));
 
     m_shortcuts->reload();
 

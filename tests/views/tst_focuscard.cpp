@@ -1,5 +1,7 @@
 #include "support/hometab.h"
 
+#include "views/beat.h"
+
 using namespace Qt::StringLiterals;
 using quib::Tab;
 
@@ -13,6 +15,7 @@ private Q_SLOTS:
 
     void timer_isShownAndStopped();
     void timerWithoutClient_saysSo();
+    void timer_tellsHowLongItHasRun();
     void noTimer_leadsToTheTimeTab();
     void tasks_areTickedOff();
     void circle_doubleClicked_ticksOffOneTask();
@@ -53,6 +56,19 @@ void FocusCardTest::timerWithoutClient_saysSo()
     m_tab->store().startTimer({}, {});
 
     QCOMPARE(text(u"client"_s), u"No client"_s);
+}
+
+void FocusCardTest::timer_tellsHowLongItHasRun()
+{
+    m_tab->store().startTimer({}, {});
+    m_tab->settle();
+    auto now = m_tab->hands.now.addMSecs(3'725'995);
+    part(u"elapsed"_s)->findChild<quib::Beat*>()->setClock([&now] { return now; });
+    QCOMPARE(text(u"elapsed"_s), u"1:02:05"_s);
+
+    now = now.addMSecs(5);
+
+    QTRY_COMPARE(text(u"elapsed"_s), u"1:02:06"_s);
 }
 
 void FocusCardTest::noTimer_leadsToTheTimeTab()

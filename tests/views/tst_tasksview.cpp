@@ -21,6 +21,7 @@ private Q_SLOTS:
     void blankTitle_addsNothingAndIsCleared();
     void newTask_goesToTheChosenClient();
     void newTask_goesToTheFilteredClient();
+    void newTask_chosenClientCountsMoreThanTheFiltered();
     void chosenClient_isKeptForTheNextTask();
     void chips_areThoseOfClientsWithTasks();
     void chip_filtersAndStaysSelected();
@@ -88,6 +89,20 @@ void TasksViewTest::newTask_goesToTheFilteredClient()
 
     QCOMPARE(m_tab->store().data().tasks.front().clientID, cafe);
     QCOMPARE(m_tab->shownTitles(), (QStringList{u"Call"_s, u"Old"_s}));
+}
+
+void TasksViewTest::newTask_chosenClientCountsMoreThanTheFiltered()
+{
+    const auto cafe = m_tab->workspace.client(u"Café"_s);
+    const auto bloom = m_tab->workspace.client(u"Bloom"_s);
+    m_tab->workspace.task(u"Old"_s, cafe);
+    m_tab->click(m_tab->chip(0));
+    m_tab->item(u"tasksView"_s)->setProperty("newClient", bloom);
+
+    m_tab->add(u"Call"_s);
+
+    QCOMPARE(m_tab->store().data().tasks.front().clientID, bloom);
+    QCOMPARE(m_tab->shownTitles(), QStringList{u"Old"_s});
 }
 
 void TasksViewTest::chosenClient_isKeptForTheNextTask()

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void amountsReadFromTheRight_areTextsOfTheirOwn_data();
     void amountsReadFromTheRight_areTextsOfTheirOwn();
     void weekThatBeganInThePreviousMonth_countsMoreThanTheMonth();
+    void firstDayOfAWeek_countsLessThanTheMonth();
     void totals_followTheClockEvery15Seconds();
     void totals_areFreshWhenShownAgain();
     void refresh_keepsTheRows();
@@ -137,6 +138,20 @@ void TotalsCardTest::weekThatBeganInThePreviousMonth_countsMoreThanTheMonth()
 
     QCOMPARE(m_tab->text(u"total"_s), u"13h 0m"_s);
     QCOMPARE(m_tab->text(u"billable"_s), u"£455 billable"_s);
+}
+
+/// Of a week that goes on in the next month.
+void TotalsCardTest::firstDayOfAWeek_countsLessThanTheMonth()
+{
+    m_tab->hands.now = QDateTime({2026, 3, 28}, {20, 0}, Qt::UTC);
+    m_tab->entry(2 * 3600);
+    m_tab->hands.now = QDateTime({2026, 3, 29}, {12, 0}, Qt::UTC); // A Sunday.
+    m_tab->entry(3600);
+    QCOMPARE(m_tab->text(u"total"_s), u"1h 0m"_s);
+
+    m_tab->click(m_tab->segment(1));
+
+    QCOMPARE(m_tab->text(u"total"_s), u"3h 0m"_s);
 }
 
 void TotalsCardTest::totals_followTheClockEvery15Seconds()
