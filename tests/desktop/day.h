@@ -18,13 +18,14 @@ public:
     static constexpr QPoint ClientNotes{900, 235};
     static constexpr QPoint OpenSite{735, 174};
     static constexpr QPoint LeftWing{630, 3};
+    static constexpr QColor Popup{30, 27, 38};
 
     Day();
 
     void begin();
     void restart();
     void quitByKey();
-    /// Opens a tab, and waits until it is drawn.
+    /// Opens a tab, and leaves the bar, so that no tip of it lies over the card.
     void goTo(Tab tab) const;
     /// Waits until something is drawn there.
     void clickWhenThere(QPoint point) const;
@@ -37,6 +38,16 @@ public:
 
     /// Files from a window at the lower left, onto the collapsed notch.
     void dropFiles(const QStringList& paths);
+
+    // On the home tab.
+    void connectCalendar() const;
+    void pressPlay(const QString& thenHeard);
+    /// A website of that address comes for the first one.
+    void exchangeLaunches(const QString& address) const;
+
+    // On the shelf, whose files lie side by side.
+    void openFile(int place) const;
+    void takeFromShelf(int place) const;
 
     // On the clients tab.
     void addClient(const QString& name) const;
@@ -57,6 +68,10 @@ public:
     void chooseClientOfTimer(const QStringList& keys) const;
     void startTimer(const QString& note) const;
     void stopTimer() const;
+
+    // On the notes tab.
+    void writeNotes(const QStringList& lines) const;
+    void stampNotes() const;
 
 private:
     void press(const QStringList& keys) const;

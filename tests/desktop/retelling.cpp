@@ -48,6 +48,9 @@ QJsonValue Retelling::told(const QString& key, const QJsonValue& value)
     if (key == "id"_L1) {
         return toldId(text);
     }
+    if (key == "notes"_L1) {
+        return toldStamps(text);
+    }
     if (key == "clientID"_L1) {
         return m_clients.value(text, text);
     }
@@ -69,6 +72,14 @@ QString Retelling::toldMoment(const QString& moment) const
     const auto read = QDateTime::fromString(moment, Qt::ISODate);
     const bool isToday = m_began <= read && read <= QDateTime::currentDateTimeUtc();
     return isToday && form.match(moment).hasMatch() ? u"today"_s : moment;
+}
+
+QString Retelling::toldStamps(QString text)
+{
+    static const QRegularExpression form(
+        u"^— \\w{3} \\d{1,2}, \\d{4} at \\d{1,2}:\\d{2}\\s[AP]M$"_s,
+        QRegularExpression::MultilineOption | QRegularExpression::UseUnicodePropertiesOption);
+    return text.replace(form, u"— now"_s);
 }
 
 QStringList linesOf(const QByteArray& json)

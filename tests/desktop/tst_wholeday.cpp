@@ -11,21 +11,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QPoint ConnectCalendar{748, 117};
-constexpr QPoint FirstEvent{691, 96}; // Its bar.
-constexpr QPoint SecondEvent{691, 132};
-constexpr QPoint PlayPause{569, 197};
-constexpr QPoint EditLaunch{1114, 256};
-constexpr QPoint AddWebsite{1084, 256};
-constexpr QPoint RemoveFirstLaunch{547, 244};
 constexpr QPoint SecondLaunch{640, 256};
 constexpr QPoint FirstLink{540, 98};
 constexpr QPoint Export{921, 108};
-
-bool isGreen(const QColor& color)
-{
-    return color.green() > 150 && color.red() < 120;
-}
 
 double secondsOf(const QJsonValue& entry)
 {
@@ -56,6 +44,7 @@ private:
     void restart();
     void startTwice();
     void dropFiles();
+    void writeNotes();
     void stopWorking();
     void exportTheDay();
     void closeTheBook();
@@ -69,8 +58,8 @@ void WholeDayTest::day_isOnDiskAsItWas()
     for (const auto part :
          {&WholeDayTest::bookClients, &WholeDayTest::sortTasks, &WholeDayTest::startWorking,
           &WholeDayTest::lookHome, &WholeDayTest::followLinks, &WholeDayTest::restart,
-          &WholeDayTest::startTwice, &WholeDayTest::dropFiles, &WholeDayTest::stopWorking,
-          &WholeDayTest::exportTheDay, &WholeDayTest::closeTheBook}) {
+          &WholeDayTest::startTwice, &WholeDayTest::dropFiles, &WholeDayTest::writeNotes,
+          &WholeDayTest::stopWorking, &WholeDayTest::exportTheDay, &WholeDayTest::closeTheBook}) {
         (this->*part)();
         if (QTest::currentTestFailed()) {
             return;
@@ -121,25 +110,11 @@ void WholeDayTest::startWorking()
 void WholeDayTest::lookHome()
 {
     m_day.goTo(Day::Home);
-    m_day.clickWhenThere(ConnectCalendar);
-    QTRY_VERIFY_WITH_TIMEOUT(isGreen(m_day.pixel(FirstEvent)), 20'000);
-    QVERIFY(isGreen(m_day.pixel(SecondEvent)));
-
+    m_day.connectCalendar();
     QTRY_COMPARE_WITH_TIMEOUT(m_day.heard(), u"Playing"_s, 15'000);
-    m_day.click(PlayPause);
-    QTRY_COMPARE_WITH_TIMEOUT(m_day.heard(), u"Paused"_s, 10'000);
-    m_day.click(PlayPause);
-    QTRY_COMPARE_WITH_TIMEOUT(m_day.heard(), u"Playing"_s, 10'000);
-
-    m_day.click(EditLaunch);
-    m_day.clickWhenThere(RemoveFirstLaunch);
-    QTRY_COMPARE(m_day.saved(u"launch"_s).size(), 1);
-    m_day.click(AddWebsite);
-    m_day.key(u"Tab"_s);
-    m_day.type(u"Shop.Example.COM/admin"_s);
-    m_day.key(u"Return"_s);
-    QTRY_COMPARE(m_day.saved(u"launch"_s).size(), 2);
-    m_day.click(EditLaunch);
+    m_day.pressPlay(u"Paused"_s);
+    m_day.pressPlay(u"Playing"_s);
+    m_day.exchangeLaunches(u"Shop.Example.COM/admin"_s);
     m_day.click(SecondLaunch);
     QTRY_COMPARE(m_day.opened(), u"https://shop.example.com/admin"_s);
 }
@@ -189,10 +164,24 @@ void WholeDayTest::dropFiles()
     m_day.moveTo(Desk::FarAway);
     QVERIFY(m_day.waitForExpanded(false));
 
-    m_day.dropFiles({m_day.folder(u"first.txt"_s), m_day.folder(u"second & last.txt"_s)});
+    QStringList files;
+    for (const auto* name : {"first.txt", "second & last.txt", "not needed.txt"}) {
+        files << writeFile(m_day.folder(QString::fromLatin1(name)), "text");
+    }
+    m_day.dropFiles(files);
 
     QCOMPARE(m_day.selectedTab(), Day::Shelf);
-    QTRY_COMPARE(m_day.saved(u"shelf"_s).size(), 2);
+    m_day.takeFromShelf(0);
+    QVERIFY(QFile::exists(files.at(2)));
+    m_day.openFile(1);
+    QTRY_COMPARE(m_day.opened(), files.at(0));
+}
+
+void WholeDayTest::writeNotes()
+{
+    m_day.goTo(Day::Notes);
+    m_day.writeNotes({u"Call Ann"_s, u"Mats: 12, blue"_s});
+    m_day.stampNotes();
 }
 
 void WholeDayTest::stopWorking()
