@@ -4,9 +4,11 @@
 
 #include <QCoreApplication>
 #include <QPlatformSurfaceEvent>
+#include <QTimer>
 #include <QTransform>
 
 #include <array>
+#include <utility>
 
 namespace quib {
 
@@ -44,6 +46,7 @@ XcbPanelHost::XcbPanelHost()
 void XcbPanelHost::adopt(QWindow& window)
 {
     m_window = &window;
+    m_scale = window.devicePixelRatio();
     window.setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
     window.installEventFilter(this);
     connect(&window, &QWindow::screenChanged, this, &XcbPanelHost::applyShapes);
@@ -58,9 +61,23 @@ void XcbPanelHost::adopt(QWindow& window)
 
 void XcbPanelHost::place(const QRectF& frame)
 {
-    if (m_window) {
-        m_window->setGeometry(frame.toRect());
-        applyShapes();
+    if (!m_window) {
+        return;
+    }
+    m_frame = frame.toRect();
+    // Qt 6.4 would go on drawing on a surface of as many pixels: it counts points. So one frame is
+    // of another size.
+    const auto scaleBefore = std::exchange(m_scale, m_window->devicePixelRatio());
+    m_isRescaling = m_scale != scaleBefore;
+    m_window->setGeometry(m_isRescaling ? m_frame.adjusted(0, 0, 0, 1) : m_frame);
+    applyShapes();
+    m_window->requestUpdate();
+}
+
+void XcbPanelHost::endRescaling()
+{
+    if (std::exchange(m_isRescaling, false)) {
+        QTimer::singleShot(0, this, [this] { place(m_frame); }); // Once that frame is drawn.
     }
 }
 
@@ -120,6 +137,7 @@ bool XcbPanelHost::eventFilter(QObject* object, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::PlatformSurface: followSurface(*event); break;
+    case QEvent::UpdateRequest: endRescaling(); break;
     case QEvent::KeyPress:
     case QEvent::KeyRelease: return tellRepeat(static_cast<QKeyEvent&>(*event));
     case QEvent::Show:

@@ -36,6 +36,7 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    void endRescaling();
     void followSurface(const QEvent& event);
     bool tellRepeat(QKeyEvent& event);
     void applyInputRegion();
@@ -44,6 +45,9 @@ private:
     xcb_window_t nativeWindow() const;
 
     QPointer<QWindow> m_window;
+    QRect m_frame; ///< In global points.
+    double m_scale = 1; ///< Pixels to a point when the window was last placed.
+    bool m_isRescaling = false;
     QRegion m_inputRegion;
     std::optional<QPainterPath> m_visibleShape; ///< Absent until told.
     CompositorWatch m_compositor;
