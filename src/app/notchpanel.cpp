@@ -11,6 +11,7 @@
 #include "integrations/mediacontroller.h"
 #include "model/store.h"
 #include "shortcuts/shortcuts.h"
+#include "views/focuseditem.h"
 #include "views/notchshape.h"
 
 #include <QMouseEvent>
@@ -21,17 +22,6 @@
 using namespace Qt::StringLiterals;
 
 namespace quib {
-
-namespace {
-
-/// The item that keys would reach if the window had the keyboard.
-const QQuickItem* focusedItem(const QQuickItem* scope)
-{
-    const auto* item = scope->scopedFocusItem();
-    return item && item->isFocusScope() ? focusedItem(item) : item;
-}
-
-} // namespace
 
 NotchPanel::NotchPanel(const ViewContext& context, PanelHost& host)
     : m_host(host)
@@ -66,7 +56,7 @@ void NotchPanel::mousePressEvent(QMouseEvent* event)
 /// Pressing plain buttons leaves the keyboard where it is.
 void NotchPanel::takeKeyboardForText(QPointF press)
 {
-    const auto* item = focusedItem(contentItem());
+    const auto* item = FocusedItem::in(this);
     const bool isText = item && item->flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
     if (isText && item->contains(item->mapFromScene(press))) {
         m_host.takeKeyboard();

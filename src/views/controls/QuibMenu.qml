@@ -57,7 +57,7 @@ T.Popup {
     onClosed: root.focusedBefore?.forceActiveFocus(root.hadRing ? Qt.TabFocusReason : Qt.PopupFocusReason)
 
     function begin() {
-        root.focusedBefore = root.parent.Window.activeFocusItem;
+        root.focusedBefore = FocusedItem.in(root.parent.Window.window);
         root.hadRing = (root.focusedBefore as PlainButton)?.visualFocus ?? false;
         (root.contentItem as MenuList).begin(root.startIndex);
     }
