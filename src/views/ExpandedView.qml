@@ -170,6 +170,7 @@ FocusScope {
                 actions: root.actions
                 icons: root.icons
                 files: root.files
+                commands: root.commands
                 isMotionReduced: root.model.isMotionReduced
             }
         }

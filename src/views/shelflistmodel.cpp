@@ -52,4 +52,5 @@ void ShelfListModel::follow()
 {
     show(m_items, m_store ? m_store->data().shelf : QList<ShelfItem>());
 }
+
 } // namespace quib

@@ -189,6 +189,9 @@ void ShelfKeyboardTest::clear_byKey()
     m_shelf->press(Qt::Key_Space);
 
     QCOMPARE(m_shelf->paths(), QStringList());
+    m_shelf->put({u"/new"_s});
+    m_shelf->press(Qt::Key_Return);
+    QCOMPARE(m_shelf->opener.asked, QStringList{u"open /new"_s}); // And not cleared away again.
 }
 
 QTEST_MAIN(ShelfKeyboardTest)

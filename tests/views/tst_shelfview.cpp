@@ -26,6 +26,7 @@ private Q_SLOTS:
     void doubleClick_opensTheFile();
     void click_opensNothing();
     void menu_opensAndReveals();
+    void menu_takesTheKeyboardAndLeavesTheFocus();
     void menu_staysInTheCard();
     void otherTiles_stayWhenOneGoes();
     void twoHundredFiles_makeOnlyTheTilesInSight();
@@ -214,6 +215,26 @@ void ShelfViewTest::menu_opensAndReveals()
 
     QCOMPARE(m_shelf->opener.asked,
              (QStringList{u"open /home/me/a.png"_s, u"reveal /home/me/a.png"_s}));
+}
+
+void ShelfViewTest::menu_takesTheKeyboardAndLeavesTheFocus()
+{
+    m_shelf->put({u"/b"_s, u"/a"_s});
+    QWindow other;
+    other.show();
+    other.requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+
+    QTest::mouseClick(m_shelf->window.get(), Qt::RightButton, {},
+                      inScene(m_shelf->tile(0)).center().toPoint());
+    QTRY_VERIFY(m_shelf->menuRow(u"Open"_s));
+    QCOMPARE(m_shelf->commands.asked, QStringList{u"take keyboard"_s});
+    QTest::mouseClick(m_shelf->window.get(), Qt::LeftButton, {}, {380, 280});
+    QTRY_VERIFY(!m_shelf->menuRow(u"Open"_s));
+    m_shelf->takeKeyboard();
+    m_shelf->press(Qt::Key_Right);
+
+    QCOMPARE(m_shelf->focusedFile(), u"b"_s);
 }
 
 void ShelfViewTest::menu_staysInTheCard()

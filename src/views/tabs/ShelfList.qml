@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
+import Quib.Notch
 import Quib.Views
 
 /*!
@@ -15,6 +16,7 @@ SidewaysList {
     required property Actions actions
     required property IconSource icons
     required property FileProbe files
+    required property Commands commands
     required property bool isMotionReduced
 
     signal removed(itemID: uuid)
@@ -74,6 +76,7 @@ SidewaysList {
 
         function openFor(tile, place) {
             const here = root.mapFromItem(tile, place);
+            root.commands.takeKeyboard(); // Or Escape would go elsewhere.
             menu.path = tile.path;
             menu.x = here.x;
             menu.y = here.y;

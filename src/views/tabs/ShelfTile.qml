@@ -99,7 +99,7 @@ SidewaysItem {
         activeFocusOnTab: root.isStop || activeFocus
         Accessible.role: Accessible.ListItem
         Accessible.name: TextLine.beginning(root.name)
-        Accessible.description: TextLine.ends(root.path) + (file.isThere ? "" : ", missing")
+        Accessible.description: TextLine.ends(root.path) + (file.isThere || file.isUnknown ? "" : ", missing")
         Accessible.focusable: true
 
         Accessible.onPressAction: root.opened()

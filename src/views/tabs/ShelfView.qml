@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 import Quib.Brand
+import Quib.Notch
 import Quib.Views
 
 /*!
@@ -15,6 +16,7 @@ FocusScope {
     required property Actions actions
     required property IconSource icons
     required property FileProbe files
+    required property Commands commands
     required property bool isMotionReduced
 
     ShelfListModel {
@@ -48,6 +50,7 @@ FocusScope {
             Accessible.name: "Clear the shelf"
 
             onClicked: root.store.clearShelf()
+            onVisibleChanged: if (!visible && activeFocus) list.forceActiveFocus(Qt.TabFocusReason)
 
             contentItem: QuibText {
                 text: "Clear"
@@ -66,6 +69,8 @@ FocusScope {
     }
 
     ShelfList {
+        id: list
+
         objectName: "shelfList"
         anchors.fill: parent
         anchors.topMargin: header.anchors.topMargin + header.height + 8
@@ -75,6 +80,7 @@ FocusScope {
         actions: root.actions
         icons: root.icons
         files: root.files
+        commands: root.commands
         isMotionReduced: root.isMotionReduced
 
         onRemoved: itemID => root.store.removeFromShelf(itemID)
