@@ -19,6 +19,7 @@ bool ComposedOnce::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::InputMethod: return isRepeat(static_cast<const QInputMethodEvent&>(*event));
+    case QEvent::KeyPress: m_finished.clear(); break; // What comes now is new.
     case QEvent::MouseButtonPress:
     case QEvent::FocusAboutToChange: finish(); break;
     default: break; // NOLINT: Qt's events are not ours to list
@@ -51,7 +52,7 @@ bool ComposedOnce::isRepeat(const QInputMethodEvent& event)
 {
     m_composed = event.preeditString();
     const bool isIt = !m_finished.isEmpty() && event.commitString() == m_finished;
-    if (isIt || !m_composed.isEmpty()) {
+    if (!event.commitString().isEmpty() || !m_composed.isEmpty()) {
         m_finished.clear();
     }
     return isIt;
