@@ -11,8 +11,7 @@ namespace quib {
 
 /// Today's events, and whether the program may read them. The authorisation is read at the start,
 /// and again with the calendars' changes until it is known; afterwards only requestAccess() changes
-/// it. There is no timer: an event that ends stays
-/// listed until the calendars change.
+/// it. There is no timer: an event that ends stays listed until the calendars change.
 class CalendarController : public QObject {
     Q_OBJECT
     Q_PROPERTY(Access access READ access NOTIFY accessChanged)

@@ -10,8 +10,8 @@ class QDBusServiceWatcher;
 
 namespace quib {
 
-/// Players on the session bus that speak MPRIS. Without a bus none runs;
-/// once it is back, those that are on it do.
+/// Players on the session bus that speak MPRIS. Without a bus none runs; once it is back, those
+/// that are on it do.
 class MprisPlayerLink final : public PlayerLink {
     Q_OBJECT
 

@@ -22,6 +22,7 @@ constexpr auto LocalInterface = "org.freedesktop.DBus.Local"_L1;
 
 constexpr std::string_view Greeting("\0AUTH\r\n", 7); ///< Answered with the ways to log in.
 constexpr auto PatienceAtTheStart = 1s;
+constexpr auto PatienceAtTheEnd = 1s;
 
 QString addressOfTheSession()
 {
@@ -92,8 +93,8 @@ SessionBus::SessionBus(QString address)
 SessionBus::~SessionBus()
 {
     g_cancellable_cancel(m_end.get());
-    if (m_attempt) {
-        m_attempt->wait();
+    if (m_attempt && !m_attempt->wait(QDeadlineTimer(PatienceAtTheEnd))) {
+        m_attempt.release(); // A bus that hangs holds it: the program ends without it. NOLINT
     }
     QDBusConnection::disconnectFromBus(m_name);
 }
