@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QUuid>
 
+#include <functional>
+
 // What a hand does that carries files from one window to another.
 
 inline constexpr QPoint DragSourcePlace{200, 650};
@@ -38,6 +40,22 @@ inline void carryOn(const Desk& desk, QPoint to)
 {
     desk.moveTo(to);
     desk.moveTo(to + QPoint(2, 2));
+}
+
+/// A few times, until it has worked: a file manager does not tell when it has heard of the last
+/// move, and what is let go before that lies where it was. Hands are slower.
+inline bool carryUntil(const Desk& desk, QPoint from, QPoint to,
+                       const std::function<bool()>& isDone)
+{
+    for (int attempt = 0; attempt < 5 && !isDone(); ++attempt) {
+        carry(desk, from, to);
+        carryOn(desk, to);
+        [[maybe_unused]] const bool isOpen = desk.waitForExpanded(true);
+        carryOn(desk, to + QPoint(4, 4));
+        desk.button(QStringLiteral("up"));
+        [[maybe_unused]] const bool came = QTest::qWaitFor(isDone, 2000);
+    }
+    return isDone();
 }
 
 /// The line around the card is lit while files are over it.

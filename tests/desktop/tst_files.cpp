@@ -46,8 +46,10 @@ void FilesTest::droppedFiles_lieOnTheShelfAsCopies()
     carryOn(desk, {800, 150});
     QTRY_VERIFY(isLit(desk));
     desk.button(u"up"_s);
+    const QStringList wanted{paths.at(1), paths.at(0)};
+    QVERIFY(
+        carryUntil(desk, DragSourcePlace, Desk::Notch, [&] { return shelfOf(desk) == wanted; }));
 
-    QTRY_COMPARE(shelfOf(desk), (QStringList{paths.at(1), paths.at(0)}));
     Output said(*source);
     QTRY_COMPARE(said.count("ended with action 1"), 1);
     QCOMPARE(desk.selectedTab(), 5);
@@ -77,13 +79,7 @@ void FilesTest::addresses_thatAreFilesAreTaken()
     const auto quib = desk.startQuib();
     const auto source = startDragSource(desk, {u"--addresses"_s, addresses});
 
-    carry(desk, DragSourcePlace, Desk::Notch);
-    desk.waitForExpanded(true);
-    carryOn(desk, {800, 150});
-    QTRY_VERIFY(isLit(desk));
-    desk.button(u"up"_s);
-
-    QTRY_COMPARE(shelfOf(desk), shelf);
+    QVERIFY(carryUntil(desk, DragSourcePlace, Desk::Notch, [&] { return shelfOf(desk) == shelf; }));
 }
 
 void FilesTest::whatIsNoFile_isRefused()
@@ -112,12 +108,8 @@ void FilesTest::droppedOnTheOpenCard_leaveTheTab()
     desk.showTab(3);
     desk.click(Desk::Pin);
 
-    carry(desk, DragSourcePlace, {800, 200});
-    carryOn(desk, {700, 180});
-    QTRY_VERIFY(isLit(desk));
-    desk.button(u"up"_s);
-
-    QTRY_COMPARE(shelfOf(desk), QStringList{u"/a.txt"_s});
+    QVERIFY(carryUntil(desk, DragSourcePlace, {800, 200},
+                       [&] { return shelfOf(desk) == QStringList{u"/a.txt"_s}; }));
     QCOMPARE(desk.selectedTab(), 3);
 }
 

@@ -70,11 +70,11 @@ void RestartsTest::compositorKilled_noBlackBoxShows()
         desk.killCompositor();
 
         QTRY_VERIFY(hasNoBlackBox(desk));
-        QTRY_COMPARE(desk.pixel({800, 12}), QColor(Qt::black));
+        QTRY_COMPARE_WITH_TIMEOUT(desk.pixel({800, 12}), QColor(Qt::black), 15'000);
         QTRY_COMPARE(desk.isExpanded(), isOpen);
 
         desk.startCompositor();
-        QTRY_COMPARE(desk.pixel({800, 12}), QColor(Qt::black));
+        QTRY_COMPARE_WITH_TIMEOUT(desk.pixel({800, 12}), QColor(Qt::black), 15'000);
         QTRY_COMPARE(desk.isExpanded(), isOpen);
         QVERIFY(hasNoBlackBox(desk));
     }
