@@ -58,10 +58,12 @@ inline bool carryUntil(const Desk& desk, QPoint from, QPoint to,
     return isDone();
 }
 
-/// The line around the card is lit while files are over it.
+/// The line around the card is lit while files are over it. Before it has grown, the desktop is
+/// seen there, which is bluish too.
 inline bool isLit(const Desk& desk)
 {
-    return desk.pixel({800, 289}).blue() > 60;
+    const auto line = desk.pixel({800, 289});
+    return line.blue() > 60 && line.red() > line.green();
 }
 
 /// A data file of nothing but files on the shelf.
