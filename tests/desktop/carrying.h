@@ -42,6 +42,19 @@ inline void carryOn(const Desk& desk, QPoint to)
     desk.moveTo(to + QPoint(2, 2));
 }
 
+/// The line around the card is lit while files are over it. Before it has grown, the desktop is
+/// seen there, which is bluish too; and it passes that place while it springs.
+inline bool isLit(const Desk& desk)
+{
+    const auto line = desk.pixel({800, 289});
+    return line.blue() > 60 && line.red() > line.green();
+}
+
+inline bool waitUntilLit(const Desk& desk)
+{
+    return QTest::qWaitFor([&] { return isLit(desk); }, 10'000);
+}
+
 /// A few times, until it has worked: a file manager does not tell when it has heard of the last
 /// move, and what is let go before that lies where it was. Hands are slower.
 inline bool carryUntil(const Desk& desk, QPoint from, QPoint to,
@@ -51,19 +64,17 @@ inline bool carryUntil(const Desk& desk, QPoint from, QPoint to,
         carry(desk, from, to);
         carryOn(desk, to);
         [[maybe_unused]] const bool isOpen = desk.waitForExpanded(true);
-        carryOn(desk, to + QPoint(4, 4));
+        [[maybe_unused]] const bool isFelt = QTest::qWaitFor(
+            [&] {
+                carryOn(desk, to + QPoint(4, 4));
+                return isLit(desk);
+            },
+            1000);
+        carryOn(desk, to);
         desk.button(QStringLiteral("up"));
         [[maybe_unused]] const bool came = QTest::qWaitFor(isDone, 2000);
     }
     return isDone();
-}
-
-/// The line around the card is lit while files are over it. Before it has grown, the desktop is
-/// seen there, which is bluish too.
-inline bool isLit(const Desk& desk)
-{
-    const auto line = desk.pixel({800, 289});
-    return line.blue() > 60 && line.red() > line.green();
 }
 
 /// A data file of nothing but files on the shelf.

@@ -70,15 +70,8 @@ QByteArray Day::bytes() const
 void Day::dropFiles(const QStringList& paths)
 {
     const auto source = startDragSource(*this, paths);
-    carry(*this, DragSourcePlace, Notch);
-    QVERIFY(waitForExpanded(true));
-    const auto isFelt = [this] { // The drag may begin later than the hand moves.
-        carryOn(*this, {800, 150});
-        return isLit(*this);
-    };
-    QTRY_VERIFY_WITH_TIMEOUT(isFelt(), 10'000);
-    button(u"up"_s);
-    QTRY_COMPARE_WITH_TIMEOUT(shelfOf(*this).size(), paths.size(), 10'000);
+    QVERIFY(carryUntil(*this, DragSourcePlace, Notch,
+                       [&] { return shelfOf(*this).size() == paths.size(); }));
     source->terminate();
     QVERIFY(source->waitForFinished());
 }

@@ -44,14 +44,14 @@ void FilesTest::droppedFiles_lieOnTheShelfAsCopies()
     carry(desk, DragSourcePlace, Desk::Notch);
     desk.waitForExpanded(true);
     carryOn(desk, {800, 150});
-    QTRY_VERIFY(isLit(desk));
+    QVERIFY(waitUntilLit(desk));
     desk.button(u"up"_s);
     const QStringList wanted{paths.at(1), paths.at(0)};
     QVERIFY(
         carryUntil(desk, DragSourcePlace, Desk::Notch, [&] { return shelfOf(desk) == wanted; }));
 
     Output said(*source);
-    QTRY_COMPARE(said.count("ended with action 1"), 1);
+    QTRY_VERIFY(said.count("ended with action 1") >= 1);
     QCOMPARE(desk.selectedTab(), 5);
 }
 
