@@ -20,8 +20,9 @@ namespace {
 
 constexpr auto PlainText = "text/plain";
 
-std::atomic<GDBusConnection*> keptBus = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables):
-                                                 // GIO's own is of the process too
+// GIO's own is of the process too.
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
+std::atomic<GDBusConnection*> keptBus = nullptr;
 
 constexpr QByteArrayView ElfMagic("\x7f"
                                   "ELF");
