@@ -23,6 +23,11 @@ void selectFirstClient(PanelForPicture& panel)
     panel.click({140, 98});
 }
 
+void editLinks(PanelForPicture& panel)
+{
+    panel.click({695, 256});
+}
+
 QString nameOf(Tab tab)
 {
     return quib::title(tab).toLower();
@@ -74,7 +79,9 @@ QList<Scene> elsewhere()
     light.desktop = QColorConstants::Svg::whitesmoke;
     auto camera = open(Tab::Home, u"camera"_s, emptyDay);
     camera.prepare = underACamera;
-    return {light, camera};
+    auto editing = open(Tab::Home, u"editing"_s, richDay);
+    editing.prepare = editLinks;
+    return {light, camera, editing};
 }
 
 QList<Scene> inCairo()

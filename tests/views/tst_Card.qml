@@ -71,12 +71,4 @@ TestCase {
         compare(row.children[0].width, 150);
         compare(row.children[1].width, 150);
     }
-
-    function test_surfaceIsTranslucentWithAHairlineInside() {
-        const surface = findChild(createTemporaryObject(inLayout, testCase).card, "surface");
-        compare(surface.radius, 14);
-        compare(surface.color, Brand.card);
-        compare(surface.strokeColor, Brand.cardStroke);
-        compare(surface.strokeWidth, 1);
-    }
 }

@@ -51,13 +51,6 @@ TestCase {
         compare(icon.implicitHeight, 23);
     }
 
-    function test_symbolIsSemiboldInItsTint() {
-        const symbol = findChild(createTemporaryObject(button, testCase), "symbol");
-        compare(symbol.name, "xmark");
-        compare(symbol.weight, Font.DemiBold);
-        compare(symbol.color, Brand.glow);
-    }
-
     function test_lightsUpUnderThePointerAtOnce() {
         const icon = createTemporaryObject(button, testCase);
         const circle = findChild(icon, "circle");

@@ -36,48 +36,11 @@ TestCase {
         compare(pill.implicitHeight, title.implicitHeight + 10);
     }
 
-    function test_symbolStandsFivePointsBeforeTheTitle() {
-        const bare = createTemporaryObject(button, testCase);
-        const marked = createTemporaryObject(button, testCase, { symbol: "plus" });
-        compare(marked.implicitWidth, bare.implicitWidth + 10 + 5);
-        compare(findChild(marked, "symbol").x, 0);
-        compare(findChild(marked, "title").x, 15);
-    }
-
-    function test_symbolAndTitleAreCentredOnEachOther() {
-        const marked = createTemporaryObject(button, testCase, { symbol: "plus" });
-        const symbol = findChild(marked, "symbol");
-        const title = findChild(marked, "title");
-        fuzzyCompare(symbol.y + symbol.height / 2, title.y + title.height / 2, 0.5);
-    }
-
-    function test_symbolIsBoldAndTenPoints() {
-        const symbol = findChild(createTemporaryObject(button, testCase, { symbol: "plus" }), "symbol");
-        compare(symbol.size, 10);
-        compare(symbol.weight, Font.Bold);
-        compare(symbol.color, "#ffffff");
-    }
-
-    function test_titleIsSemiboldAndElevenPoints() {
-        const title = findChild(createTemporaryObject(button, testCase), "title");
-        compare(title.size, 11);
-        compare(title.weight, Font.DemiBold);
-        compare(title.color, "#ffffff");
-    }
-
     function test_withoutASymbolThereIsOnlyTheTitle() {
         const pill = createTemporaryObject(button, testCase);
         verify(!findChild(pill, "symbol").visible);
         compare(findChild(pill, "title").x, 0);
         compare(pill.leftPadding, 10);
-    }
-
-    function test_capsuleHasRoundEndsAndTheFill() {
-        const pill = createTemporaryObject(button, testCase, { fill: Brand.live });
-        const capsule = findChild(pill, "capsule");
-        compare(capsule.color, Brand.live);
-        compare(capsule.radius, pill.height / 2);
-        compare(capsule.width, pill.width);
     }
 
     function test_lightsUpUnderThePointerAtOnce() {

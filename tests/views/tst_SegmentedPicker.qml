@@ -61,13 +61,6 @@ TestCase {
         segments(made).forEach(segment => verify(!findChild(segment, "title").children[0].truncated));
     }
 
-    function test_titles() {
-        const title = findChild(segments(make())[2], "title");
-        compare(title.text, "This year");
-        compare(title.size, 11);
-        compare(title.weight, Font.Medium);
-    }
-
     function test_aTitleTooLongIsElided() {
         const made = make({ width: 90 });
         compare(segments(made).length, 3);

@@ -1,7 +1,10 @@
 #include "support/clientbook.h"
 #include "support/plaintexts.h"
 
+#include "brand/brand.h"
+
 using namespace Qt::StringLiterals;
+using quib::Brand;
 
 /// The list of clients: what it shows, and how one of them is chosen.
 class ClientListTest : public QObject {
@@ -16,6 +19,7 @@ private Q_SLOTS:
     void plus_opensTheNewClientForTyping();
     void plus_bringsTheNewClientIntoSight();
     void click_selects();
+    void row_isFilledByItsState();
     void clientWithTheNullId_isAClient();
     void arrows_select();
     void arrows_passRepeatedIds();
@@ -90,6 +94,22 @@ void ClientListTest::click_selects()
     QCOMPARE(m_book->text(u"nameField"_s), u"Bloom"_s);
     QVERIFY(m_book->row(1)->property("selected").toBool());
     QVERIFY(!m_book->row(0)->property("selected").toBool());
+}
+
+void ClientListTest::row_isFilledByItsState()
+{
+    m_book->select(m_book->cafe);
+    m_book->move(m_book->item(u"heading"_s));
+    m_book->settle();
+
+    const auto* selected = m_book->part(0, u"surface"_s);
+    QCOMPARE(colorOf(selected), Brand::purple());
+    QCOMPARE(selected->opacity(), 0.35);
+
+    const auto* other = m_book->part(1, u"surface"_s);
+    QTRY_COMPARE(other->opacity(), 0.0);
+    m_book->move(m_book->row(1));
+    QTRY_COMPARE(other->opacity(), 0.06);
 }
 
 void ClientListTest::clientWithTheNullId_isAClient()

@@ -10,6 +10,7 @@ private Q_SLOTS:
     void init() { m_strip = std::make_unique<LaunchStrip>(); }
     void cleanup() { m_strip.reset(); }
 
+    void editing_offersItsButtons();
     void editing_removesAnItem();
     void badge_doubleClicked_removesOneItem();
     void delete_heldDown_removesOneItem();
@@ -24,6 +25,20 @@ private Q_SLOTS:
 private:
     std::unique_ptr<LaunchStrip> m_strip;
 };
+
+void LaunchEditingTest::editing_offersItsButtons()
+{
+    m_strip->launch(u"Mail"_s, u"mail.example"_s);
+    m_strip->startAdding();
+
+    QCOMPARE(textOf(m_strip->part(u"edit"_s), "help"), u"Edit quick launch"_s);
+    QCOMPARE(textOf(m_strip->part(u"addApplication"_s), "help"), u"Add an app"_s);
+    QCOMPARE(textOf(m_strip->part(u"addLink"_s), "help"), u"Add a website"_s);
+    QCOMPARE(textOf(m_strip->part(u"newName"_s), "placeholder"), u"Name"_s);
+    const auto website = textOf(m_strip->part(u"newURL"_s), "placeholder");
+    QVERIFY(website.startsWith(u"Website, e.g. "_s) && !website.contains(u"://"_s));
+    QVERIFY(inScene(m_strip->item(u"launchStrip"_s)).contains(inScene(m_strip->part(u"badge"_s))));
+}
 
 void LaunchEditingTest::editing_removesAnItem()
 {

@@ -13,6 +13,7 @@ private Q_SLOTS:
     void typing_isInTheStoreAtEachKey();
     void typing_isSavedOnce();
     void placeholder_showsWhileThereIsNothing();
+    void placeholder_isWhereTheFirstLetterComes();
     void placeholder_letsClicksThrough();
     void keys_comeToTheNotesFirst();
     void showing_changesNothing_data();
@@ -79,6 +80,14 @@ void NotesViewTest::placeholder_showsWhileThereIsNothing()
     tab.store().setNotes({});
 
     QVERIFY(tab.placeholder()->isVisible());
+}
+
+void NotesViewTest::placeholder_isWhereTheFirstLetterComes()
+{
+    const NotesTab tab;
+
+    QCOMPARE(textOf(tab.placeholder()), u"Call notes, ideas, client requests…"_s);
+    QCOMPARE(inScene(tab.placeholder()).topLeft(), tab.place(0).topLeft());
 }
 
 void NotesViewTest::placeholder_letsClicksThrough()

@@ -23,7 +23,6 @@ private Q_SLOTS:
     void spring_isTheOneOfTheTransition();
     void springFromTheCollapsedNotch_growsAtOnce();
     void cardIsBuiltWhenFirstOpened();
-    void cardContents_havePaddings();
     void topBar_isAsHighAsTheNotchButThirtyAtLeast();
     void contentsLeave_byFadingOut();
     void switchingTabs_keepsTheTabBar();
@@ -129,18 +128,6 @@ void RootViewTest::cardIsBuiltWhenFirstOpened()
 
     QCOMPARE(panel.item(u"tasksView"_s), tasks);
     QVERIFY(tasks->isVisible());
-}
-
-void RootViewTest::cardContents_havePaddings()
-{
-    ShownPanel panel;
-
-    panel.open(Tab::Home);
-
-    const QRectF card(30, 0, 700, 290);
-    QCOMPARE(panel.rect(u"topBar"_s), QRectF(card.left() + 22, 8, 700 - 44, 37));
-    QCOMPARE(panel.rect(u"tabArea"_s),
-             QRectF(QPointF(card.left() + 22, 8 + 37), QPointF(card.right() - 22, 290 - 14)));
 }
 
 void RootViewTest::topBar_isAsHighAsTheNotchButThirtyAtLeast()

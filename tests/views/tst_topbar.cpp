@@ -3,34 +3,21 @@
 #include "app/notch/tab.h"
 #include "brand/brand.h"
 
-#include <QFont>
-
 using namespace Qt::StringLiterals;
 using quib::Brand;
 using quib::Tab;
-
-namespace {
-
-/// On whole points, so that nothing is blurred.
-bool isCentred(const QRectF& inner, const QRectF& outer)
-{
-    return qAbs(inner.center().y() - outer.center().y()) <= 0.5;
-}
-
-} // namespace
 
 /// The bar of tabs, date and pin, read from the live items.
 class TopBarTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void tabButtons_standInOrderTwoPointsApart();
+    void tabButtons_standInOrder();
     void tabButton_showsItsSymbol();
     void tabButton_lightsUp_data();
     void tabButton_lightsUp();
     void clickingATab_selectsIt();
     void date_isWrittenInTheUsersWay();
-    void pin_standsEightPointsAfterTheDate();
     void pin_showsWhetherItKeepsOpen();
     void clickingThePin_invertsIt();
     void rightClick_opensTheMenu();
@@ -70,21 +57,17 @@ QList<QQuickItem*> TopBarTest::buttons(const ShownPanel& panel)
     return found;
 }
 
-void TopBarTest::tabButtons_standInOrderTwoPointsApart()
+void TopBarTest::tabButtons_standInOrder()
 {
     ShownPanel panel;
     panel.open(Tab::Home);
-    const auto bar = panel.rect(u"topBar"_s);
 
     const auto all = buttons(panel);
 
     QCOMPARE(all.size(), 7);
     for (int i = 0; i < 7; ++i) {
         QCOMPARE(all.at(i)->property("tab").toInt(), i);
-        const auto button = inScene(all.at(i));
-        QCOMPARE(button.topLeft().x(), bar.left() + 20 + i * 32);
-        QCOMPARE(button.size(), QSizeF(30, 24));
-        QVERIFY(isCentred(button, bar));
+        QVERIFY(i == 0 || inScene(all.at(i)).left() > inScene(all.at(i - 1)).right());
     }
 }
 
@@ -97,8 +80,6 @@ void TopBarTest::tabButton_showsItsSymbol()
         const auto* symbol = ShownPanel::find(button, u"symbol"_s);
         QCOMPARE(textOf(symbol, "name"),
                  quib::symbol(static_cast<Tab>(button->property("tab").toInt())));
-        QCOMPARE(numberOf(symbol, "size"), 12.0);
-        QCOMPARE(symbol->property("weight").toInt(), int(QFont::DemiBold));
     }
 }
 
@@ -135,7 +116,6 @@ void TopBarTest::tabButton_lightsUp()
     const auto* background = ShownPanel::find(button, u"capsule"_s);
     QCOMPARE(background->opacity(), opacity);
     QCOMPARE(colorOf(background), capsule);
-    QCOMPARE(numberOf(background, "radius"), 12.0);
 }
 
 void TopBarTest::clickingATab_selectsIt()
@@ -162,25 +142,11 @@ void TopBarTest::date_isWrittenInTheUsersWay()
     QCOMPARE(colorOf(date), Brand::muted());
 }
 
-void TopBarTest::pin_standsEightPointsAfterTheDate()
-{
-    ShownPanel panel;
-    panel.open(Tab::Home);
-
-    const auto pin = panel.rect(u"pin"_s);
-
-    QCOMPARE(pin.right(), panel.rect(u"topBar"_s).right() - 20);
-    QCOMPARE(pin.size(), QSizeF(12, 12));
-    QCOMPARE(pin.left() - panel.rect(u"date"_s).right(), 8.0);
-    QVERIFY(isCentred(pin, panel.rect(u"topBar"_s)));
-}
-
 void TopBarTest::pin_showsWhetherItKeepsOpen()
 {
     ShownPanel panel;
     panel.open(Tab::Home);
     const auto* symbol = ShownPanel::find(panel.item(u"pin"_s), u"symbol"_s);
-    QCOMPARE(numberOf(symbol, "size"), 12.0);
     QCOMPARE(textOf(symbol, "name"), u"pin"_s);
     QCOMPARE(colorOf(symbol), Brand::muted());
 

@@ -1,18 +1,15 @@
 #include "support/linkstab.h"
 
-#include <QFont>
-
 using namespace Qt::StringLiterals;
 
-/// Every number of a button of the links tab, read from the live items.
-class ShortcutButtonSizesTest : public QObject {
+/// The colours of a button of the links tab, and the room that its name has.
+class ShortcutButtonLooksTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void init() { m_links = std::make_unique<LinksTab>(); }
     void cleanup() { m_links.reset(); }
 
-    void button_hasItsSizes();
     void button_hasTheColoursOfItsGroup_data();
     void button_hasTheColoursOfItsGroup();
     void name_shrinksBeforeItIsCut();
@@ -33,31 +30,7 @@ QString told(const QColor& color)
 
 } // namespace
 
-void ShortcutButtonSizesTest::button_hasItsSizes()
-{
-    m_links->showButton(u"Go"_s);
-    const auto button = inScene(m_links->shortcut(0));
-    const auto* icon = m_links->partOf(0, u"icon"_s);
-    const auto* symbol = m_links->partOf(0, u"symbol"_s);
-    const auto* name = m_links->partOf(0, u"name"_s);
-    const auto* surface = m_links->partOf(0, u"surface"_s);
-
-    QCOMPARE(inScene(icon), QRectF(button.left() + 10, button.top() + 8, 20, 20));
-    const auto off = inScene(symbol).center() - inScene(icon).center();
-    QVERIFY(qAbs(off.x()) <= 0.5 && qAbs(off.y()) <= 0.5);
-    QCOMPARE(numberOf(symbol, "size"), 13.0);
-    QCOMPARE(symbol->property("weight").toInt(), int(QFont::DemiBold));
-    QCOMPARE(inScene(name).left(), inScene(icon).right() + 8);
-    QCOMPARE(inScene(name).right(), button.right() - 10);
-    QVERIFY(qAbs(inScene(name).center().y() - button.center().y()) <= 0.5);
-    QCOMPARE(numberOf(name, "size"), 12.0);
-    QCOMPARE(name->property("weight").toInt(), int(QFont::DemiBold));
-    QCOMPARE(inScene(surface), button);
-    QCOMPARE(numberOf(surface, "radius"), 10.0);
-    QCOMPARE(numberOf(surface, "strokeWidth"), 1.0);
-}
-
-void ShortcutButtonSizesTest::button_hasTheColoursOfItsGroup_data()
+void ShortcutButtonLooksTest::button_hasTheColoursOfItsGroup_data()
 {
     QTest::addColumn<QString>("color");
     QTest::addColumn<QString>("ink");
@@ -82,7 +55,7 @@ void ShortcutButtonSizesTest::button_hasTheColoursOfItsGroup_data()
     tinted("an empty word", u""_s, u"#a78bfa"_s);
 }
 
-void ShortcutButtonSizesTest::button_hasTheColoursOfItsGroup()
+void ShortcutButtonLooksTest::button_hasTheColoursOfItsGroup()
 {
     QFETCH(QString, color);
     m_links->showButton(u"Go"_s, color);
@@ -99,7 +72,7 @@ void ShortcutButtonSizesTest::button_hasTheColoursOfItsGroup()
     QTEST(look(), "rest");
 }
 
-void ShortcutButtonSizesTest::name_shrinksBeforeItIsCut()
+void ShortcutButtonLooksTest::name_shrinksBeforeItIsCut()
 {
     const auto fitOf = [&](int letters) {
         m_links->show({LinksTab::group(
@@ -117,7 +90,7 @@ void ShortcutButtonSizesTest::name_shrinksBeforeItIsCut()
     QCOMPARE(least, 0.8);
 }
 
-void ShortcutButtonSizesTest::names_stayInTheirButtons_data()
+void ShortcutButtonLooksTest::names_stayInTheirButtons_data()
 {
     QTest::addColumn<QString>("name");
 
@@ -130,7 +103,7 @@ void ShortcutButtonSizesTest::names_stayInTheirButtons_data()
     QTest::addRow("markup") << u"<h1>Large</h1><img src='http://x/y'>"_s;
 }
 
-void ShortcutButtonSizesTest::names_stayInTheirButtons()
+void ShortcutButtonLooksTest::names_stayInTheirButtons()
 {
     QFETCH(QString, name);
     m_links->show({LinksTab::group(name, {LinksTab::button(name, name, u"star"_s)}),
@@ -147,5 +120,5 @@ void ShortcutButtonSizesTest::names_stayInTheirButtons()
     QVERIFY(title.height() < 20);
 }
 
-QTEST_MAIN(ShortcutButtonSizesTest)
-#include "tst_shortcutbuttonsizes.moc"
+QTEST_MAIN(ShortcutButtonLooksTest)
+#include "tst_shortcutbuttonlooks.moc"

@@ -4,7 +4,7 @@ using namespace Qt::StringLiterals;
 using quib::ClientStatus;
 
 /// Whatever the texts and numbers of the time tab are, they stay in their places.
-class TimeViewSizesTest : public QObject {
+class TimeViewRoomTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -26,7 +26,7 @@ private:
     std::unique_ptr<TimeTab> m_tab;
 };
 
-void TimeViewSizesTest::longNamesAndNotes_stayInTheirCards()
+void TimeViewRoomTest::longNamesAndNotes_stayInTheirCards()
 {
     const auto name
         = u"Ein Name ohne Ende 👩‍👩‍👧‍👦 مكتبة الزاوية "_s.repeated(10);
@@ -43,7 +43,7 @@ void TimeViewSizesTest::longNamesAndNotes_stayInTheirCards()
     QVERIFY(rowName.width() > 150);
 }
 
-void TimeViewSizesTest::longestClock_staysInItsCard()
+void TimeViewRoomTest::longestClock_staysInItsCard()
 {
     m_tab->running(QDateTime({1, 1, 1}, {0, 0}, Qt::UTC).secsTo(m_tab->hands.now));
     settle();
@@ -52,7 +52,7 @@ void TimeViewSizesTest::longestClock_staysInItsCard()
     QVERIFY(rect(u"clock"_s).right() <= inside(u"timerCard"_s).right() + 0.01);
 }
 
-void TimeViewSizesTest::hugeAmount_staysInItsFrame_data()
+void TimeViewRoomTest::hugeAmount_staysInItsFrame_data()
 {
     QTest::addColumn<double>("rate");
     QTest::addColumn<bool>("isWhole");
@@ -63,7 +63,7 @@ void TimeViewSizesTest::hugeAmount_staysInItsFrame_data()
     QTest::addRow("of three hundred digits") << 1e300 << false;
 }
 
-void TimeViewSizesTest::hugeAmount_staysInItsFrame()
+void TimeViewRoomTest::hugeAmount_staysInItsFrame()
 {
     QFETCH(double, rate);
     QFETCH(bool, isWhole);
@@ -80,7 +80,7 @@ void TimeViewSizesTest::hugeAmount_staysInItsFrame()
     QVERIFY(rect(u"billable"_s).right() <= inside(u"totalsCard"_s).right());
 }
 
-void TimeViewSizesTest::hugeTotal_leavesRoomForTheAmount()
+void TimeViewRoomTest::hugeTotal_leavesRoomForTheAmount()
 {
     auto data = m_tab->store().data();
     for (int i = 0; i < 2000; ++i) {
@@ -96,5 +96,5 @@ void TimeViewSizesTest::hugeTotal_leavesRoomForTheAmount()
     QVERIFY(item(u"billable"_s)->width() > 60);
 }
 
-QTEST_MAIN(TimeViewSizesTest)
-#include "tst_timeviewsizes.moc"
+QTEST_MAIN(TimeViewRoomTest)
+#include "tst_timeviewroom.moc"

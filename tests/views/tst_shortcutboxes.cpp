@@ -1,14 +1,9 @@
 #include "support/linkstab.h"
 
-#include "brand/brand.h"
-
-#include <QFont>
-
 using namespace Qt::StringLiterals;
-using quib::Brand;
 
-/// Every number of the boxes of the links tab, read from the live items.
-class ShortcutBoxSizesTest : public QObject {
+/// How the boxes of the links tab share its room, and their buttons the box.
+class ShortcutBoxesTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -18,7 +13,6 @@ private Q_SLOTS:
     void problem_standsAboveTheBoxes();
     void boxes_shareTheWidth_data();
     void boxes_shareTheWidth();
-    void header_hasItsSizes();
     void buttons_standInAGrid_data();
     void buttons_standInAGrid();
     void manyBoxes_scroll();
@@ -31,33 +25,21 @@ private:
     std::unique_ptr<LinksTab> m_links;
 };
 
-void ShortcutBoxSizesTest::problem_standsAboveTheBoxes()
+void ShortcutBoxesTest::problem_standsAboveTheBoxes()
 {
     m_links->write(QByteArrayLiteral("broken"));
     m_links->show();
     const auto area = rect(u"tabArea"_s);
-    const auto problem = rect(u"problem"_s);
-    const auto* symbol = item(u"problemSymbol"_s);
-    const auto* text = item(u"problemText"_s);
 
-    QCOMPARE(problem.left(), area.left());
-    QCOMPARE(problem.top(), area.top() + 10);
-    QCOMPARE(rect(u"groups"_s).top(), problem.bottom() + 8);
+    QVERIFY(rect(u"problem"_s).top() > area.top());
+    QVERIFY(rect(u"groups"_s).top() > rect(u"problem"_s).bottom());
     QCOMPARE(rect(u"groups"_s).bottom(), area.bottom());
-    QCOMPARE(textOf(symbol, "name"), u"exclamationmark.triangle.fill"_s);
-    QCOMPARE(numberOf(symbol, "size"), 10.5);
-    QCOMPARE(colorOf(symbol), Brand::gold());
-    QCOMPARE(numberOf(text, "size"), 10.5);
-    QCOMPARE(text->property("weight").toInt(), int(QFont::Normal));
-    QCOMPARE(colorOf(text), Brand::gold());
-    QCOMPARE(inScene(symbol).left(), area.left());
-    QVERIFY(inScene(text).left() > inScene(symbol).right());
 
     m_links->show(QJsonArray());
     QCOMPARE(rect(u"groups"_s).top(), area.top() + 10);
 }
 
-void ShortcutBoxSizesTest::boxes_shareTheWidth_data()
+void ShortcutBoxesTest::boxes_shareTheWidth_data()
 {
     QTest::addColumn<int>("count");
 
@@ -66,7 +48,7 @@ void ShortcutBoxSizesTest::boxes_shareTheWidth_data()
     QTest::addRow("four") << 4;
 }
 
-void ShortcutBoxSizesTest::boxes_shareTheWidth()
+void ShortcutBoxesTest::boxes_shareTheWidth()
 {
     QFETCH(int, count);
     QJsonArray groups;
@@ -90,28 +72,7 @@ void ShortcutBoxSizesTest::boxes_shareTheWidth()
     QVERIFY(!item(u"groups"_s)->property("interactive").toBool());
 }
 
-void ShortcutBoxSizesTest::header_hasItsSizes()
-{
-    m_links->showButton(u"Go"_s);
-    const auto box = inScene(m_links->boxes().at(0));
-    const auto* title = m_links->part(0, u"title"_s);
-    const auto* pencil = m_links->part(0, u"edit"_s);
-
-    QCOMPARE(textOf(title), u"Work"_s);
-    QVERIFY(title->property("capitals").toBool());
-    QCOMPARE(numberOf(title, "size"), 9.5);
-    QCOMPARE(numberOf(title, "tracking"), 0.8);
-    QCOMPARE(colorOf(title), Brand::muted2());
-    QCOMPARE(inScene(title).left(), box.left());
-    QCOMPARE(textOf(pencil, "symbol"), u"pencil"_s);
-    QCOMPARE(numberOf(pencil, "size"), 10.0);
-    QCOMPARE(textOf(pencil, "help"), u"Edit shortcuts (opens shortcuts.json)"_s);
-    QCOMPARE(inScene(pencil), QRectF(box.right() - 24, box.top(), 24, 24));
-    QVERIFY(qAbs(inScene(title).center().y() - inScene(pencil).center().y()) <= 0.5);
-    QCOMPARE(inScene(m_links->shortcut(0)).top(), box.top() + 24 + 8);
-}
-
-void ShortcutBoxSizesTest::buttons_standInAGrid_data()
+void ShortcutBoxesTest::buttons_standInAGrid_data()
 {
     QTest::addColumn<int>("groups");
     QTest::addColumn<int>("columns");
@@ -122,7 +83,7 @@ void ShortcutBoxSizesTest::buttons_standInAGrid_data()
     QTest::addRow("twelve boxes") << 12 << 1;
 }
 
-void ShortcutBoxSizesTest::buttons_standInAGrid()
+void ShortcutBoxesTest::buttons_standInAGrid()
 {
     QFETCH(int, groups);
     QFETCH(int, columns);
@@ -146,7 +107,7 @@ void ShortcutBoxSizesTest::buttons_standInAGrid()
     }
 }
 
-void ShortcutBoxSizesTest::manyBoxes_scroll()
+void ShortcutBoxesTest::manyBoxes_scroll()
 {
     QJsonArray groups;
     for (int number = 0; number < 12; ++number) {
@@ -164,7 +125,7 @@ void ShortcutBoxSizesTest::manyBoxes_scroll()
     QTRY_VERIFY(numberOf(row, "contentX") > 0);
 }
 
-void ShortcutBoxSizesTest::manyButtons_scroll()
+void ShortcutBoxesTest::manyButtons_scroll()
 {
     m_links->show({LinksTab::group(u"A"_s, LinksTab::buttons(200)),
                    LinksTab::group(u"B"_s, LinksTab::buttons(1))});
@@ -180,5 +141,5 @@ void ShortcutBoxSizesTest::manyButtons_scroll()
     QTRY_VERIFY(numberOf(grid, "contentY") > 0);
 }
 
-QTEST_MAIN(ShortcutBoxSizesTest)
-#include "tst_shortcutboxsizes.moc"
+QTEST_MAIN(ShortcutBoxesTest)
+#include "tst_shortcutboxes.moc"
