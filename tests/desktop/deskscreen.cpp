@@ -1,6 +1,7 @@
 // What is seen on the desk's screen, and what pointer and keyboard do there.
 #include "deskconnection.h"
 
+#include <QDeadlineTimer>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -12,6 +13,19 @@ bool waitFor(const char* what, const std::function<bool()>& isSo)
         qWarning("waited in vain for %s", what);
     }
     return came;
+}
+
+bool waitForLasting(const char* what, const std::function<bool()>& isSo)
+{
+    constexpr int Enough = 20;
+    int inARow = 0;
+    for (QDeadlineTimer end(15'000); inARow < Enough && !end.hasExpired(); QTest::qWait(25)) {
+        inARow = isSo() ? inARow + 1 : 0;
+    }
+    if (inARow < Enough) {
+        qWarning("waited in vain for %s", what);
+    }
+    return inARow == Enough;
 }
 
 void Desk::moveTo(QPoint point) const

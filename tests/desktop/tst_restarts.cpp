@@ -1,4 +1,4 @@
-#include "desk.h"
+#include "deskconnection.h"
 
 #include <QTest>
 
@@ -9,12 +9,24 @@ namespace {
 constexpr int TasksTab = 3;
 constexpr QPoint LeftOfTheCard{800 - 375, 200}; ///< In the panel's window.
 constexpr QPoint BeneathTheCard{800, 310}; ///< In it too.
+constexpr QPoint InTheCard{800, 200}; ///< Where the closed panel draws nothing either.
 
 /// Where the panel's window draws nothing, what lies beneath is seen.
 bool hasNoBlackBox(const Desk& desk)
 {
     return desk.pixel(LeftOfTheCard) != QColor(Qt::black)
         && desk.pixel(BeneathTheCard) != QColor(Qt::black);
+}
+
+/// A compositor that comes or goes draws the desktop anew, piece by piece; what it ends with
+/// counts.
+bool endsAs(const Desk& desk, bool isOpen)
+{
+    return waitForLasting(isOpen ? "the open panel" : "the closed panel", [&] {
+        return hasNoBlackBox(desk) && desk.pixel({800, 12}) == QColor(Qt::black)
+            && desk.isExpanded() == isOpen
+            && (isOpen || desk.pixel(InTheCard) != QColor(Qt::black));
+    });
 }
 
 void addTask(const Desk& desk, const QString& title)
@@ -65,18 +77,13 @@ void RestartsTest::compositorKilled_noBlackBoxShows()
         desk.openWithPointer();
         desk.click(Desk::Pin);
     }
-    QVERIFY(hasNoBlackBox(desk));
+    QVERIFY(endsAs(desk, isOpen));
     for (int round = 0; round < 2; ++round) {
         desk.killCompositor();
-
-        QTRY_VERIFY(hasNoBlackBox(desk));
-        QTRY_COMPARE_WITH_TIMEOUT(desk.pixel({800, 12}), QColor(Qt::black), 15'000);
-        QTRY_COMPARE(desk.isExpanded(), isOpen);
+        QVERIFY(endsAs(desk, isOpen));
 
         desk.startCompositor();
-        QTRY_COMPARE_WITH_TIMEOUT(desk.pixel({800, 12}), QColor(Qt::black), 15'000);
-        QTRY_COMPARE(desk.isExpanded(), isOpen);
-        QVERIFY(hasNoBlackBox(desk));
+        QVERIFY(endsAs(desk, isOpen));
     }
 }
 
@@ -89,12 +96,10 @@ void RestartsTest::compositorComes_theCardIsDrawnAgain()
 
     desk.startCompositor();
 
-    QTRY_VERIFY(desk.isExpanded());
-    QTRY_COMPARE(desk.selectedTab(), TasksTab);
-    QTRY_VERIFY(hasNoBlackBox(desk));
+    QVERIFY(endsAs(desk, true));
+    QCOMPARE(desk.selectedTab(), TasksTab);
     desk.moveTo(Desk::FarAway);
-    QVERIFY(desk.waitForExpanded(false));
-    QTRY_VERIFY(desk.pixel({800, 200}) != QColor(Qt::black));
+    QVERIFY(endsAs(desk, false));
     desk.openWithPointer();
     addTask(desk, u"Composited"_s);
 }
@@ -106,16 +111,12 @@ void RestartsTest::compositorGoesInMidSpring_noBlackBoxShows()
 
     desk.moveTo(Desk::Notch);
     desk.killCompositor();
-    QVERIFY(desk.waitForExpanded(true));
-    QTRY_VERIFY(hasNoBlackBox(desk));
+    QVERIFY(endsAs(desk, true));
     desk.startCompositor();
     desk.moveTo(Desk::FarAway);
     desk.killCompositor();
 
-    QVERIFY(desk.waitForExpanded(false));
-    QTRY_VERIFY(desk.pixel({800, 200}) != QColor(Qt::black));
-    QVERIFY(hasNoBlackBox(desk));
-    QCOMPARE(desk.pixel({800, 12}), QColor(Qt::black));
+    QVERIFY(endsAs(desk, false));
 }
 
 void RestartsTest::windowManagerKilled_thePanelWorks()
