@@ -1,5 +1,9 @@
 #include "views/accessiblefield.h"
 
+#include <QMetaMethod>
+
+#include <algorithm>
+
 namespace quib {
 
 QAccessible::State AccessibleField::state() const
@@ -98,11 +102,29 @@ int AccessibleField::offsetAtPoint(const QPoint& point) const
     if (!rect().contains(point)) {
         return -1;
     }
-    int offset = 0;
-    while (offset < characterCount() && !characterRect(offset).contains(point)) {
+    const auto nearest = nearestPosition(point);
+    const int end = nearest.value_or(characterCount());
+    int offset = nearest ? std::max(0, end - 1) : 0;
+    while (offset < end && !characterRect(offset).contains(point)) {
         ++offset;
     }
     return offset;
+}
+
+/// Of the cursor, before or after the character at a point. Absent for a TextInput, which tells it
+/// to scripts only.
+std::optional<int> AccessibleField::nearestPosition(const QPoint& point) const
+{
+    const auto* type = item().metaObject();
+    const auto positionAt = type->method(type->indexOfMethod("positionAt(double,double)"));
+    const QRectF place = rect();
+    const auto part = point - place.topLeft();
+    int position = 0;
+    const bool isTold
+        = positionAt.invoke(object(), Q_RETURN_ARG(int, position),
+                            Q_ARG(double, part.x() / place.width() * item().width()),
+                            Q_ARG(double, part.y() / place.height() * item().height()));
+    return isTold ? std::optional(position) : std::nullopt;
 }
 
 void AccessibleField::scrollToSubstring(int /*start*/, int end)

@@ -2,6 +2,8 @@
 
 #include "views/accessibleitem.h"
 
+#include <optional>
+
 namespace quib {
 
 /// What readers are told of a text that is edited, a TextInput or a TextEdit, and how they edit it.
@@ -35,6 +37,7 @@ public:
     void replaceText(int start, int end, const QString& text) override;
 
 private:
+    std::optional<int> nearestPosition(const QPoint& point) const;
     QString content() const;
 };
 

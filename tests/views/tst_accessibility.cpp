@@ -238,6 +238,8 @@ void AccessibilityTest::fieldsCharacters_haveTheirPlaces_data()
     QTest::addRow("one line") << "QuibField { x: 20; y: 30; text: 'Buy milk' }"_ba;
     QTest::addRow("many lines")
         << "QuibTextArea { x: 20; y: 30; width: 160; height: 60; value: 'Buy milk\nand bread' }"_ba;
+    QTest::addRow("a book") << "QuibTextArea { x: 20; y: 30; width: 160; height: 60\n"
+                               "value: 'Buy milk\nand bread\n'.repeat(5000) + 'and jam' }"_ba;
 }
 
 void AccessibilityTest::fieldsCharacters_haveTheirPlaces()
@@ -255,7 +257,12 @@ void AccessibilityTest::fieldsCharacters_haveTheirPlaces()
     QVERIFY(first.width() > 3 && first.width() < 12); // As drawn: at half the size it is laid out.
     QVERIFY(first.height() > 8 && first.height() < 24);
     QVERIFY(fifth.left() > first.right());
+    QCOMPARE(text->offsetAtPoint(first.center()), 0);
     QCOMPARE(text->offsetAtPoint(fifth.center()), 4);
+    const auto last = text->characterRect(text->characterCount() - 1);
+    QCOMPARE(text->offsetAtPoint(last.center()), text->characterCount() - 1);
+    QCOMPARE(text->offsetAtPoint(last.center() + QPoint(40, 0)), text->characterCount());
+    QCOMPARE(text->offsetAtPoint(told->rect().bottomRight() + QPoint(1, 1)), -1);
 }
 
 void AccessibilityTest::help_describesWhatIsNotNamedByIt()
