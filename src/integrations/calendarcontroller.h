@@ -2,8 +2,7 @@
 
 #include "integrations/calendarstore.h"
 #include "model/clock.h"
-
-#include <QTimeZone>
+#include "model/systemtimezone.h"
 
 #include <functional>
 
@@ -36,8 +35,7 @@ public:
 
     /// The store is borrowed and outlives this; null where there are no calendars to ask for.
     explicit CalendarController(CalendarStore* store, Clock clock = systemClock,
-                                TimeZone timeZone = QTimeZone::systemTimeZone,
-                                QObject* parent = nullptr);
+                                TimeZone timeZone = systemTimeZone, QObject* parent = nullptr);
 
     /// By start. All of today's that have not ended, and those of the whole day.
     const QList<Event>& events() const { return m_events; }

@@ -58,14 +58,28 @@ std::vector<icu::Measure> partsOf(qint64 seconds)
 struct DateTexts::Icu {
     using Format = std::unique_ptr<icu::SimpleDateFormat>;
 
+    struct Formats {
+        QTimeZone zone;
+        Format weekdayAndDay;
+        Format dayAndTime;
+        Format timeOfDay;
+        Format numericDay;
+    };
+
+    UserLocale user;
     icu::Locale locale;
-    std::unique_ptr<icu::TimeZone> zone;
     std::unique_ptr<icu::DateTimePatternGenerator> patterns;
     std::unique_ptr<icu::MeasureFormat> measures;
-    Format weekdayAndDay;
-    Format dayAndTime;
-    Format timeOfDay;
-    Format numericDay;
+    Formats made;
+
+    /// Those of the time zone as it is now.
+    Formats& formats()
+    {
+        if (const auto zone = user.zone(); made.zone != zone) {
+            made = {.zone = zone};
+        }
+        return made;
+    }
 
     icu::UnicodeString best(const char16_t* skeleton)
     {
@@ -94,7 +108,7 @@ struct DateTexts::Icu {
         if (U_FAILURE(error)) {
             return {};
         }
-        format->setTimeZone(*zone);
+        format->adoptTimeZone(icutext::timeZone(made.zone).release());
         return format;
     }
 
@@ -107,7 +121,7 @@ struct DateTexts::Icu {
 };
 
 DateTexts::DateTexts(const UserLocale& locale)
-    : m_icu(new Icu{.locale = icutext::dateLocale(locale), .zone = icutext::timeZone(locale)})
+    : m_icu(new Icu{.user = locale, .locale = icutext::dateLocale(locale)})
 {
 }
 
@@ -115,7 +129,7 @@ DateTexts::~DateTexts() = default;
 
 QString DateTexts::weekdayAndDay(const QDateTime& moment) const
 {
-    auto& format = m_icu->weekdayAndDay;
+    auto& format = m_icu->formats().weekdayAndDay;
     if (!format) {
         format = m_icu->formatFor(m_icu->best(u"EEEMMMd"), m_icu->locale);
     }
@@ -124,7 +138,7 @@ QString DateTexts::weekdayAndDay(const QDateTime& moment) const
 
 QString DateTexts::dayAndTime(const QDateTime& moment) const
 {
-    auto& format = m_icu->dayAndTime;
+    auto& format = m_icu->formats().dayAndTime;
     if (!format) {
         format = m_icu->formatFor(m_icu->dayAndTimePattern(), m_icu->locale);
     }
@@ -133,7 +147,7 @@ QString DateTexts::dayAndTime(const QDateTime& moment) const
 
 QString DateTexts::timeOfDay(const QDateTime& moment) const
 {
-    auto& format = m_icu->timeOfDay;
+    auto& format = m_icu->formats().timeOfDay;
     if (!format) {
         format = m_icu->formatFor(m_icu->best(u"jmm"), m_icu->locale);
     }
@@ -142,7 +156,7 @@ QString DateTexts::timeOfDay(const QDateTime& moment) const
 
 QString DateTexts::numericDay(const QDateTime& moment) const
 {
-    auto& format = m_icu->numericDay;
+    auto& format = m_icu->formats().numericDay;
     if (!format) {
         auto plainDigits = m_icu->locale;
         UErrorCode error = U_ZERO_ERROR;

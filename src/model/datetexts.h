@@ -9,8 +9,8 @@
 
 namespace quib {
 
-/// Moments and lengths of time in the user's words. Costly to make, cheap to ask: keep one where
-/// texts are made often.
+/// Moments and lengths of time in the user's words, and in the time zone that is the user's when
+/// they are asked for. Costly to make, cheap to ask: keep one where texts are made often.
 class DateTexts {
 public:
     explicit DateTexts(const UserLocale& locale);

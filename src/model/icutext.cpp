@@ -4,14 +4,14 @@
 
 namespace quib::icutext {
 
-std::unique_ptr<icu::TimeZone> timeZone(const UserLocale& locale)
+std::unique_ptr<icu::TimeZone> timeZone(const QTimeZone& zone)
 {
-    const auto name = icu::UnicodeString::fromUTF8(locale.timeZone.id().constData());
-    std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createTimeZone(name));
-    if (*zone != icu::TimeZone::getUnknown()) {
-        return zone;
+    const auto name = icu::UnicodeString::fromUTF8(zone.id().constData());
+    std::unique_ptr<icu::TimeZone> known(icu::TimeZone::createTimeZone(name));
+    if (*known != icu::TimeZone::getUnknown()) {
+        return known;
     }
-    const auto offset = locale.timeZone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(0, Qt::UTC));
+    const auto offset = zone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(0, Qt::UTC));
     return std::make_unique<icu::SimpleTimeZone>(offset * U_MILLIS_PER_SECOND, name);
 }
 

@@ -29,6 +29,6 @@ inline icu::Locale dateLocale(const UserLocale& locale)
 }
 
 /// A zone without a name that ICU knows, such as "UTC+05:30", is its distance from UTC.
-std::unique_ptr<icu::TimeZone> timeZone(const UserLocale& locale);
+std::unique_ptr<icu::TimeZone> timeZone(const QTimeZone& zone);
 
 } // namespace quib::icutext

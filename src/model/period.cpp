@@ -20,7 +20,7 @@ using Calendar = std::unique_ptr<icu::Calendar>;
 Calendar calendarAt(const QDateTime& moment, const UserLocale& locale)
 {
     UErrorCode error = U_ZERO_ERROR;
-    Calendar calendar(icu::Calendar::createInstance(icutext::timeZone(locale).release(),
+    Calendar calendar(icu::Calendar::createInstance(icutext::timeZone(locale.zone()).release(),
                                                     icutext::dateLocale(locale), error));
     if (U_FAILURE(error) || !calendar) {
         return {};
@@ -53,7 +53,8 @@ QDateTime startOfDay(const QDateTime& now, const UserLocale& locale)
 {
     const auto calendar = calendarAt(now, locale);
     if (!calendar) {
-        return now.toTimeZone(locale.timeZone).date().startOfDay(locale.timeZone).toUTC();
+        const auto zone = locale.zone();
+        return now.toTimeZone(zone).date().startOfDay(zone).toUTC();
     }
     goToFirstMomentOfDay(*calendar);
     return momentOf(*calendar).value_or(now);

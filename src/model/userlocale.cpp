@@ -1,5 +1,7 @@
 #include "model/userlocale.h"
 
+#include "model/systemtimezone.h"
+
 #include <algorithm>
 #include <array>
 
@@ -34,7 +36,12 @@ UserLocale UserLocale::fromEnvironment()
     return {.money = localeName(firstSet({"LC_ALL", "LC_MONETARY", "LANG"})),
             .numbers = localeName(firstSet({"LC_ALL", "LC_NUMERIC", "LANG"})),
             .dates = localeName(firstSet({"LC_ALL", "LC_TIME", "LANG"})),
-            .timeZone = QTimeZone::systemTimeZone()};
+            .timeZone = std::nullopt};
+}
+
+QTimeZone UserLocale::zone() const
+{
+    return timeZone ? *timeZone : systemTimeZone();
 }
 
 } // namespace quib

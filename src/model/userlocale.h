@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QTimeZone>
 
+#include <optional>
+
 namespace quib {
 
 /// The user's conventions for texts, as names that ICU understands. Injected; formatters never
@@ -11,11 +13,15 @@ struct UserLocale {
     QByteArray money = "en"; ///< "en_GB". Without a country its currency is the pound.
     QByteArray numbers = "en"; ///< For numbers that are typed and shown as such.
     QByteArray dates = "en"; ///< For dates, times, the calendar and the first day of the week.
-    QTimeZone timeZone = QTimeZone::utc();
+    /// Without one, the system's at the moment it is asked for.
+    std::optional<QTimeZone> timeZone = QTimeZone::utc();
 
-    /// From LC_ALL, LC_MONETARY, LC_NUMERIC, LC_TIME and LANG as they stand now, and the system's
+    /// From LC_ALL, LC_MONETARY, LC_NUMERIC, LC_TIME and LANG as they stand now, in the system's
     /// time zone.
     static UserLocale fromEnvironment();
+
+    /// In which the user is now.
+    QTimeZone zone() const;
 
     bool operator==(const UserLocale&) const = default;
 };

@@ -1,5 +1,7 @@
 #include "model/datetexts.h"
 
+#include "support/travel.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -33,6 +35,7 @@ private Q_SLOTS:
     void moment_isShownInTheUsersTimeZone_data();
     void moment_isShownInTheUsersTimeZone();
     void moment_mayBeGivenInAnyZone();
+    void systemsTimeZone_isFollowed();
 };
 
 void DateTextsTest::moments_data()
@@ -168,6 +171,27 @@ void DateTextsTest::moment_mayBeGivenInAnyZone()
     const auto elsewhere = Sunday.toTimeZone(QTimeZone("Pacific/Auckland"));
 
     QCOMPARE(DateTexts({.dates = "en_GB"}).timeOfDay(elsewhere), u"09:41"_s);
+}
+
+void DateTextsTest::systemsTimeZone_isFollowed()
+{
+    const Travel travel("Pacific/Auckland"); // 13 hours ahead; Honolulu is 10 behind.
+    const DateTexts texts({.dates = "en_GB", .timeZone = std::nullopt});
+    const auto all = [&] {
+        return QStringList{texts.weekdayAndDay(Sunday), texts.dayAndTime(Sunday),
+                           texts.timeOfDay(Sunday), texts.numericDay(Sunday)};
+    };
+    const QStringList inAuckland{u"Sun, 15 Nov"_s, u"15 Nov 2026 at 22:41"_s, u"22:41"_s,
+                                 u"2026-11-15"_s};
+    QCOMPARE(all(), inAuckland);
+
+    Travel::to("Pacific/Honolulu");
+
+    const QStringList inHonolulu{u"Sat, 14 Nov"_s, u"14 Nov 2026 at 23:41"_s, u"23:41"_s,
+                                 u"2026-11-14"_s};
+    QCOMPARE(all(), inHonolulu);
+    Travel::to("Pacific/Auckland");
+    QCOMPARE(all(), inAuckland);
 }
 
 QTEST_GUILESS_MAIN(DateTextsTest)

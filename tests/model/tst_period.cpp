@@ -1,5 +1,7 @@
 #include "model/period.h"
 
+#include "support/travel.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -37,6 +39,7 @@ private Q_SLOTS:
     void startOfMonth();
     void startOfDay_data();
     void startOfDay();
+    void systemsTimeZone_isFollowed();
 };
 
 void PeriodTest::startOfWeek_followsTheCountry_data()
@@ -173,6 +176,27 @@ void PeriodTest::startOfDay()
     QFETCH(QString, start);
 
     QCOMPARE(textOf(quib::startOfDay(moment(now), locale("en_GB", zone))), start);
+}
+
+void PeriodTest::systemsTimeZone_isFollowed()
+{
+    const Travel travel("Pacific/Auckland");
+    const quib::UserLocale user{.dates = "en_GB", .timeZone = std::nullopt};
+    const auto now = moment(u"2026-11-30T11:30:00Z"_s); // Tuesday in Auckland.
+    const auto starts = [&] {
+        return QStringList{textOf(quib::startOfDay(now, user)),
+                           textOf(quib::startOfWeek(now, user)),
+                           textOf(quib::startOfMonth(now, user))};
+    };
+    const QStringList inAuckland{u"2026-11-30T11:00:00Z"_s, u"2026-11-29T11:00:00Z"_s,
+                                 u"2026-11-30T11:00:00Z"_s};
+    QCOMPARE(starts(), inAuckland);
+
+    Travel::to("Pacific/Honolulu");
+
+    const QStringList inHonolulu{u"2026-11-30T10:00:00Z"_s, u"2026-11-30T10:00:00Z"_s,
+                                 u"2026-11-01T10:00:00Z"_s};
+    QCOMPARE(starts(), inHonolulu);
 }
 
 QTEST_GUILESS_MAIN(PeriodTest)

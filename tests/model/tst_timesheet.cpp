@@ -1,5 +1,7 @@
 #include "model/timesheet.h"
 
+#include "support/travel.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -47,6 +49,7 @@ private Q_SLOTS:
     void twinClients_countTheFirst();
     void name_isOfTheUsersDay_data();
     void name_isOfTheUsersDay();
+    void name_followsTheSystemsTimeZone();
 };
 
 void TimesheetTest::noEntries_isTheHeaderAlone()
@@ -205,6 +208,17 @@ void TimesheetTest::name_isOfTheUsersDay()
     QFETCH(QString, name);
 
     QCOMPARE(quib::timesheetName(Nine, {.dates = locale, .timeZone = QTimeZone(zone)}), name);
+}
+
+void TimesheetTest::name_followsTheSystemsTimeZone()
+{
+    const quib::UserLocale user{.dates = "en_GB", .timeZone = std::nullopt};
+    const Travel travel("Europe/London");
+    QCOMPARE(quib::timesheetName(Nine, user), u"Korvel-timesheet-2026-03-02.csv"_s);
+
+    Travel::to("Pacific/Honolulu");
+
+    QCOMPARE(quib::timesheetName(Nine, user), u"Korvel-timesheet-2026-03-01.csv"_s);
 }
 
 QTEST_GUILESS_MAIN(TimesheetTest)

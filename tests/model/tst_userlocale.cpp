@@ -1,5 +1,7 @@
 #include "model/userlocale.h"
 
+#include "support/travel.h"
+
 #include <QTest>
 
 #include <array>
@@ -48,7 +50,8 @@ private Q_SLOTS:
     void fromEnvironment_data();
     void fromEnvironment();
     void fromEnvironment_numbersMayBeOfAnotherCountry();
-    void timeZone_isTheSystems();
+    void zone_isTheSystemsWhenAsked();
+    void zone_mayBeGiven();
 };
 
 void UserLocaleTest::fromEnvironment_data()
@@ -112,9 +115,22 @@ void UserLocaleTest::fromEnvironment_numbersMayBeOfAnotherCountry()
     QCOMPARE(locale.money, "en_GB"_ba);
 }
 
-void UserLocaleTest::timeZone_isTheSystems()
+void UserLocaleTest::zone_isTheSystemsWhenAsked()
 {
-    QCOMPARE(UserLocale::fromEnvironment().timeZone, QTimeZone::systemTimeZone());
+    const Travel travel("Europe/Paris");
+    const auto locale = UserLocale::fromEnvironment();
+    QCOMPARE(locale.zone().id(), "Europe/Paris"_ba);
+
+    Travel::to("Asia/Tokyo");
+
+    QCOMPARE(locale.zone().id(), "Asia/Tokyo"_ba);
+}
+
+void UserLocaleTest::zone_mayBeGiven()
+{
+    const Travel travel("Asia/Tokyo");
+
+    QCOMPARE(UserLocale({.timeZone = QTimeZone("Europe/Paris")}).zone().id(), "Europe/Paris"_ba);
 }
 
 QTEST_GUILESS_MAIN(UserLocaleTest)
