@@ -2,6 +2,10 @@
 
 #include "model/systemtimezone.h"
 
+#include <unicode/uchar.h>
+#include <unicode/uloc.h>
+#include <unicode/uscript.h>
+
 #include <algorithm>
 #include <array>
 
@@ -20,13 +24,35 @@ QByteArray firstSet(const std::array<const char*, 3>& variables)
     return {};
 }
 
+bool isKnown(const QByteArray& locale)
+{
+    int number = uloc_countAvailable() - 1;
+    while (number >= 0 && locale != uloc_getAvailable(number)) {
+        --number;
+    }
+    return number >= 0;
+}
+
+/// "sr_Latn_RS" for "sr_RS" in "latin"; as it is where the language is not written so.
+QByteArray inScript(const QByteArray& name, const QByteArray& script)
+{
+    const auto code = u_getPropertyValueEnum(UCHAR_SCRIPT, script.constData());
+    const auto language = name.split('_').front();
+    const auto written = language + '_' + uscript_getShortName(UScriptCode(code));
+    return isKnown(written) ? written + name.mid(language.size()) : name;
+}
+
 /// "de_DE" from "de_DE.UTF-8@euro"; plain English where nothing is chosen.
 QByteArray localeName(const QByteArray& value)
 {
     const auto end = std::ranges::find_if(value, [](char c) { return c == '.' || c == '@'; });
     const auto name = value.first(end - value.begin());
     const bool nothingChosen = name.isEmpty() || name == "C" || name == "POSIX";
-    return nothingChosen ? QByteArrayLiteral("en") : name;
+    if (nothingChosen) {
+        return QByteArrayLiteral("en");
+    }
+    const auto modifier = value.indexOf('@');
+    return modifier < 0 ? name : inScript(name, value.mid(modifier + 1));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "model/userlocale.h"
 
+#include "model/money.h"
 #include "support/travel.h"
 
 #include <QTest>
@@ -50,6 +51,9 @@ private Q_SLOTS:
     void fromEnvironment_data();
     void fromEnvironment();
     void fromEnvironment_numbersMayBeOfAnotherCountry();
+    void fromEnvironment_scriptCounts_data();
+    void fromEnvironment_scriptCounts();
+    void fromEnvironment_script_keepsTheCurrency();
     void zone_isTheSystemsWhenAsked();
     void zone_mayBeGiven();
 };
@@ -113,6 +117,53 @@ void UserLocaleTest::fromEnvironment_numbersMayBeOfAnotherCountry()
 
     QCOMPARE(locale.numbers, "de_DE"_ba);
     QCOMPARE(locale.money, "en_GB"_ba);
+}
+
+void UserLocaleTest::fromEnvironment_scriptCounts_data()
+{
+    QTest::addColumn<QByteArray>("language");
+    QTest::addColumn<QByteArray>("name");
+
+    QTest::addRow("Serbian in Latin") << "sr_RS.UTF-8@latin"_ba
+                                      << "sr_Latn_RS"_ba;
+    QTest::addRow("without an encoding") << "sr_RS@latin"_ba
+                                         << "sr_Latn_RS"_ba;
+    QTest::addRow("without a country") << "sr@latin"_ba
+                                       << "sr_Latn"_ba;
+    QTest::addRow("Uzbek in Cyrillic") << "uz_UZ@cyrillic"_ba
+                                       << "uz_Cyrl_UZ"_ba;
+    QTest::addRow("Sindhi in Devanagari") << "sd_IN@devanagari"_ba
+                                          << "sd_Deva_IN"_ba;
+    QTest::addRow("one in which it is not written") << "de_DE@cyrillic"_ba
+                                                    << "de_DE"_ba;
+    QTest::addRow("no script") << "ca_ES.UTF-8@valencia"_ba
+                               << "ca_ES"_ba;
+    QTest::addRow("a currency") << "de_DE@euro"_ba
+                                << "de_DE"_ba;
+    QTest::addRow("nothing") << "de_DE@"_ba
+                             << "de_DE"_ba;
+    QTest::addRow("no language") << "C.UTF-8@latin"_ba
+                                 << "en"_ba;
+}
+
+void UserLocaleTest::fromEnvironment_scriptCounts()
+{
+    QFETCH(QByteArray, language);
+    QFETCH(QByteArray, name);
+    const Environment environment("LANG=" + language);
+
+    const auto locale = UserLocale::fromEnvironment();
+
+    QCOMPARE(locale.dates, name);
+    QCOMPARE(locale.numbers, name);
+    QCOMPARE(locale.money, name);
+}
+
+void UserLocaleTest::fromEnvironment_script_keepsTheCurrency()
+{
+    const Environment environment("LANG=sr_RS.UTF-8@latin"_ba);
+
+    QCOMPARE(quib::formatMoney(1234, UserLocale::fromEnvironment()), u"1.234\u00A0RSD"_s);
 }
 
 void UserLocaleTest::zone_isTheSystemsWhenAsked()
