@@ -83,8 +83,7 @@ GOwned<ICalTimezone> fixedZone(const QDateTime& moment)
 /// Where times without a zone of their own are. The service may not know the system's.
 GOwned<ICalTimezone> systemZone(const QDateTime& moment)
 {
-    auto* const known
-        = i_cal_timezone_get_builtin_timezone(QTimeZone::systemTimeZoneId().constData());
+    auto* const known = i_cal_timezone_get_builtin_timezone(moment.timeZone().id().constData());
     return known == nullptr ? fixedZone(moment)
                             : GOwned<ICalTimezone>(I_CAL_TIMEZONE(g_object_ref(known)));
 }

@@ -18,7 +18,8 @@ std::optional<QColor> colorNamed(const QString& name)
     return color.isValid() ? std::optional(color) : std::nullopt;
 }
 
-QDateTime momentOf(ICalTime* time, ICalTimezone* floatingZone)
+/// Where the user is; kept so, it would be another moment once that changes.
+QDateTime localMomentOf(ICalTime* time, ICalTimezone* floatingZone)
 {
     const QDate day(i_cal_time_get_year(time), i_cal_time_get_month(time),
                     i_cal_time_get_day(time));
@@ -33,6 +34,11 @@ QDateTime momentOf(ICalTime* time, ICalTimezone* floatingZone)
                       i_cal_time_get_second(time))};
     }
     return QDateTime::fromSecsSinceEpoch(i_cal_time_as_timet_with_zone(time, zone));
+}
+
+QDateTime momentOf(ICalTime* time, ICalTimezone* floatingZone)
+{
+    return localMomentOf(time, floatingZone).toUTC();
 }
 
 std::optional<QString> titleOf(ICalComponent* event)
