@@ -18,7 +18,7 @@ void Beat::setSince(const QDateTime& since)
     if (m_since == since) {
         return;
     }
-    m_since = since;
+    m_since = since.toUTC(); // In local time it would be another moment once the time zone changes.
     Q_EMIT sinceChanged();
     restart();
 }

@@ -35,7 +35,8 @@ public:
         return m_dates.weekdayAndDay(moment);
     }
 
-    Q_INVOKABLE QString timeOfDay(const QDateTime& moment) const
+    /// Bindings ask anew with each `now`: the user may have come to another time zone.
+    Q_INVOKABLE QString timeOfDay(const QDateTime& moment, const QDateTime& /*now*/) const
     {
         return m_dates.timeOfDay(moment);
     }

@@ -1,6 +1,7 @@
 #include "views/beat.h"
 
 #include "support/handclock.h"
+#include "support/travel.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void lateByALittle_doesNotDrift();
     void clockTurned_isSeenWithinAnInterval_data();
     void clockTurned_isSeenWithinAnInterval();
+    void timeZoneChanges_elapsedGoesOn();
     void inQml_standsInItsItem();
 };
 
@@ -191,6 +193,20 @@ void BeatTest::clockTurned_isSeenWithinAnInterval()
     QCOMPARE(shown.beat.now(), shown.hands.now);
     QCOMPARE(shown.beat.elapsed(), seconds + 0.3);
     QVERIFY(shown.beat.untilNext() <= 1s);
+}
+
+void BeatTest::timeZoneChanges_elapsedGoesOn()
+{
+    const Travel travel("Europe/Paris");
+    Shown shown;
+    shown.beat.setSince(shown.hands.now.addSecs(-5).toLocalTime());
+
+    Travel::to("Asia/Tokyo");
+    shown.hands.now = shown.hands.now.addSecs(5);
+    shown.item.setVisible(false);
+    shown.item.setVisible(true);
+
+    QCOMPARE(shown.beat.elapsed(), 10.0);
 }
 
 void BeatTest::inQml_standsInItsItem()

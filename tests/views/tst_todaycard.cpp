@@ -1,4 +1,5 @@
 #include "support/hometab.h"
+#include "support/travel.h"
 
 #include "brand/brand.h"
 #include "views/beat.h"
@@ -20,6 +21,7 @@ private Q_SLOTS:
     void calendar_denied_saysWhere();
     void calendar_empty_isClear();
     void events_sayWhenAndHowFarOff();
+    void timeZoneChanges_eventsSayWhenThere();
     void distance_countsLive();
     void manyEvents_scroll();
 
@@ -105,6 +107,19 @@ void TodayCardTest::events_sayWhenAndHowFarOff()
     QVERIFY(ShownPanel::find(rows[1], u"distance"_s)->isVisible());
     QCOMPARE(text(rows[1], u"time"_s), u"9:05\u202FAM"_s);
     QCOMPARE(text(rows[1], u"distanceText"_s), u"5 min"_s);
+}
+
+void TodayCardTest::timeZoneChanges_eventsSayWhenThere()
+{
+    const Travel travel("Europe/London");
+    m_tab->grant({m_tab->event(u"Call"_s, 5)});
+    auto* row = events().front();
+    QCOMPARE(text(row, u"time"_s), u"9:05\u202FAM"_s);
+
+    Travel::to("Asia/Tokyo");
+    turnClock(m_tab->hands.now.addSecs(1));
+
+    QCOMPARE(text(row, u"time"_s), u"6:05\u202FPM"_s);
 }
 
 void TodayCardTest::distance_countsLive()

@@ -15,7 +15,7 @@ Item {
     required property color eventColor
     required property date now
 
-    readonly property string time: root.allDay ? "All day" : Format.timeOfDay(root.start)
+    readonly property string time: root.allDay ? "All day" : Format.timeOfDay(root.start, root.now)
 
     implicitHeight: 32
     Accessible.role: Accessible.ListItem
