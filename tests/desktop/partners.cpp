@@ -29,20 +29,45 @@ QString playbackOf(Desk& desk)
     return QString::fromLatin1(asker->readAllStandardOutput()).simplified().section(u' ', -1);
 }
 
-void makeCalendar(const Desk& desk, const QStringList& titles)
+namespace {
+
+QByteArray event(const QString& title, const QByteArray& times)
+{
+    return "BEGIN:VEVENT\nUID:" + title.toUtf8()
+        + "\nDTSTAMP:20200101T000000Z\nSUMMARY:" + title.toUtf8() + '\n' + times + "END:VEVENT\n";
+}
+
+void makeCalendarOf(const Desk& desk, const QByteArray& events)
 {
     writeFile(desk.folder(u".config/evolution/sources/work.source"_s),
               "[Data Source]\nDisplayName=Work\nEnabled=true\nParent=local-stub\n\n"
               "[Calendar]\nBackendName=local\nColor=#33d17a\nSelected=true\n");
-    const auto today = QDate::currentDate().toString(u"yyyyMMdd"_s).toLatin1();
-    QByteArray events;
-    for (const auto& title : titles) {
-        events += "BEGIN:VEVENT\nUID:" + title.toUtf8() + "\nDTSTAMP:20200101T000000Z\nSUMMARY:"
-            + title.toUtf8() + "\nDTSTART;VALUE=DATE:" + today + "\nEND:VEVENT\n";
-    }
     writeFile(desk.folder(u".local/share/evolution/calendar/work/calendar.ics"_s),
               "BEGIN:VCALENDAR\nVERSION:2.0\nPRODID:-//Quib//tests//EN\n" + events
                   + "END:VCALENDAR\n");
+}
+
+} // namespace
+
+void makeCalendar(const Desk& desk, const QStringList& titles)
+{
+    const auto today = QDate::currentDate().toString(u"yyyyMMdd"_s).toLatin1();
+    QByteArray events;
+    for (const auto& title : titles) {
+        events += event(title, "DTSTART;VALUE=DATE:" + today + '\n');
+    }
+    makeCalendarOf(desk, events);
+}
+
+void makeCalendarWith(const Desk& desk, const Meeting& meeting)
+{
+    const auto moment = [](const QDateTime& time) {
+        return time.toUTC().toString(u"yyyyMMdd'T'HHmmss'Z'"_s).toLatin1();
+    };
+    makeCalendarOf(
+        desk,
+        event(meeting.title,
+              "DTSTART:" + moment(meeting.start) + "\nDTEND:" + moment(meeting.end) + '\n'));
 }
 
 void hideFileManagers(Desk& desk)

@@ -2,6 +2,7 @@
 
 #include "desk.h"
 
+#include <QDateTime>
 #include <QStringList>
 
 /// A music player on the desk's bus, with one song that lasts.
@@ -11,6 +12,15 @@ QString playbackOf(Desk& desk);
 
 /// A calendar of the user's own, green, with events that last the whole of today.
 void makeCalendar(const Desk& desk, const QStringList& titles);
+
+struct Meeting {
+    QString title;
+    QDateTime start;
+    QDateTime end;
+};
+
+/// Such a calendar with a meeting only.
+void makeCalendarWith(const Desk& desk, const Meeting& meeting);
 
 /// From now on no program on the desk's bus shows files in their folders, whatever is installed
 /// here.
