@@ -1,22 +1,12 @@
-#include "desk.h"
 #include "partners.h"
-#include "reader.h"
 #include "support/writefile.h"
+#include "traveldesk.h"
 
 #include <QDateTime>
 #include <QDir>
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QLocale>
 #include <QTest>
 #include <QTimeZone>
-
-#include <unistd.h>
-
-#include <algorithm>
-#include <chrono>
-#include <filesystem>
-#include <functional>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -29,34 +19,8 @@ constexpr auto West = "Pacific/Niue"; ///< 11 behind: never on the same day.
 constexpr int TasksTab = 3;
 constexpr int TimeTab = 4;
 constexpr int NotesTab = 6;
-constexpr auto Soon = 15s;
 constexpr auto WithinTotals = 30s; ///< 15, and some for a busy machine.
 constexpr auto WithinADate = 45s; ///< 30, and some.
-
-/// An hour on each of the last ten days.
-QByteArray workspace(const QDateTime& now)
-{
-    const auto hoursAgo
-        = [&now](int hours) { return now.addSecs(-qint64(3600) * hours).toString(Qt::ISODate); };
-    QJsonArray entries;
-    for (int day = 0; day < 10; ++day) {
-        entries << QJsonObject{{u"id"_s, u"6F1C0000-0000-4000-8000-00000000000%1"_s.arg(day)},
-                               {u"note"_s, QString()},
-                               {u"start"_s, hoursAgo(24 * day + 2)},
-                               {u"end"_s, hoursAgo(24 * day + 1)}};
-    }
-    QJsonObject data{{u"entries"_s, entries}, {u"notes"_s, QString()}};
-    for (const auto* list : {"clients", "tasks", "shelf", "launch"}) {
-        data.insert(QLatin1String(list), QJsonArray());
-    }
-    return QJsonDocument(data).toJson();
-}
-
-/// Asking a panel takes long itself.
-bool comesTrue(const std::function<bool()>& claim, std::chrono::milliseconds within = Soon)
-{
-    return QTest::qWaitFor(claim, int(within.count()));
-}
 
 /// How the program says, in English, that day in that zone.
 QString dayThere(const QString& format, const char* zone)
@@ -76,102 +40,6 @@ QDateTime sundayThere(const char* zone)
     const auto today = QDateTime::currentDateTimeUtc().toTimeZone(QTimeZone(zone)).date();
     return today.addDays(-(today.dayOfWeek() % 7)).startOfDay(QTimeZone(zone));
 }
-
-/// A desk whose Quib has settings of the system of its own, which the test changes meanwhile.
-class TravelDesk : public Desk {
-public:
-    Reader reader{*this};
-
-    TravelDesk()
-    {
-        start(u"cp"_s, {u"-a"_s, u"/etc"_s, folder(u"etc"_s)})->waitForFinished();
-        travel(East);
-    }
-
-    /// Why programs can have no settings of their own here; empty where they can.
-    QString hindrance()
-    {
-        auto command = elsewhere() << u"true"_s;
-        const auto first = command.takeFirst();
-        const auto tool = start(first, command);
-        tool->waitForFinished();
-        return tool->exitCode() == 0 ? QString()
-                                     : QString::fromLocal8Bit(tool->readAllStandardError());
-    }
-
-    Program startQuibElsewhere()
-    {
-        auto quib = startQuib(elsewhere());
-        openWithPointer();
-        click(Pin);
-        return quib;
-    }
-
-    void travel(const QString& zone) const
-    {
-        std::error_code error;
-        const auto link = setting(u"localtime"_s);
-        const auto next = link + u".new"_s;
-        QFile::remove(next);
-        QFile::link(u"/usr/share/zoneinfo/"_s + zone, next);
-        std::filesystem::rename(next.toStdString(), link.toStdString(), error);
-    }
-    void travel(const char* zone) const { travel(QString::fromLatin1(zone)); }
-
-    void loseLink() const { QFile::remove(setting(u"localtime"_s)); }
-    QString setting(const QString& name) const { return folder(u"etc/"_s) + name; }
-
-    bool shows(const QString& text) { return reader.panel().find(u"label"_s, text) != nullptr; }
-    bool showsTotal(const char* zone) { return shows(totalSince(sundayThere(zone))); }
-
-    /// Once it is there.
-    void press(const QString& button)
-    {
-        Told panel;
-        const auto isThere
-            = [&] { return (panel = reader.panel()).find(u"push button"_s, button) != nullptr; };
-        if (comesTrue(isThere)) {
-            reader.press(*panel.find(u"push button"_s, button));
-        }
-    }
-
-private:
-    /// The headline of the totals.
-    QString totalSince(const QDateTime& since) const
-    {
-        const auto moment = [](const QJsonObject& entry, const QString& name) {
-            return QDateTime::fromString(entry.value(name).toString(), Qt::ISODate);
-        };
-        qint64 seconds = 0;
-        for (const auto value : data().value("entries"_L1).toArray()) {
-            const auto entry = value.toObject();
-            const auto start = std::max(since, moment(entry, u"start"_s));
-            seconds += std::max(start.secsTo(moment(entry, u"end"_s)), qint64(0));
-        }
-        const auto minutes = u"%1m"_s.arg(seconds / 60 % 60);
-        return seconds < 3600 ? minutes : u"%1h "_s.arg(seconds / 3600) + minutes;
-    }
-
-    /// Words before a program's name that give it our settings for the system's. Without being
-    /// root it takes two steps: mounting needs to be one, the session bus the user's own number.
-    static QStringList asMe()
-    {
-        return {u"unshare"_s, u"--map-user=%1"_s.arg(geteuid()),
-                u"--map-group=%1"_s.arg(getegid())};
-    }
-
-    QStringList elsewhere() const
-    {
-        const bool isRoot = geteuid() == 0;
-        QStringList command{u"env"_s, u"-u"_s, u"TZ"_s, u"unshare"_s, u"--mount"_s};
-        if (!isRoot) {
-            command << u"--map-root-user"_s;
-        }
-        command << u"sh"_s << u"-c"_s << u"mount --bind \"$0\" /etc && exec \"$@\""_s
-                << folder(u"etc"_s);
-        return isRoot ? command : command << asMe();
-    }
-};
 
 } // namespace
 
@@ -195,11 +63,10 @@ private:
 
 void TimeZoneTest::init()
 {
-    m_desk = std::make_unique<TravelDesk>();
+    m_desk = std::make_unique<TravelDesk>(East);
     if (const auto hindrance = m_desk->hindrance(); !hindrance.isEmpty()) {
         QSKIP(qPrintable(u"no program can have an /etc of its own here: "_s + hindrance));
     }
-    m_desk->writeData(workspace(QDateTime::currentDateTimeUtc()));
 }
 
 void TimeZoneTest::theDateAndTheTotals_follow()
@@ -207,7 +74,8 @@ void TimeZoneTest::theDateAndTheTotals_follow()
     const auto quib = m_desk->startQuibElsewhere();
     m_desk->showTab(TimeTab);
     const auto showsDate = [this](const char* zone) { return m_desk->shows(dateThere(zone)); };
-    const auto showsTotal = [this](const char* zone) { return m_desk->showsTotal(zone); };
+    const auto showsTotal
+        = [this](const char* zone) { return m_desk->showsTotalSince(sundayThere(zone)); };
     QVERIFY(comesTrue([&] { return showsDate(East) && showsTotal(East); }));
 
     m_desk->travel(West);
@@ -223,7 +91,7 @@ void TimeZoneTest::linkMissingForAWhile_theTotalsFollow()
     const auto showsAnew = [this](const char* zone) {
         m_desk->showTab(TasksTab);
         m_desk->showTab(TimeTab);
-        return m_desk->showsTotal(zone);
+        return m_desk->showsTotalSince(sundayThere(zone));
     };
     QVERIFY(comesTrue([&] { return showsAnew(East); }));
     m_desk->loseLink();
