@@ -6,28 +6,10 @@
 #include <QScreen>
 #include <QTest>
 
-#include <algorithm>
 #include <csignal>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 using namespace quib;
-
-namespace {
-
-/// True when all of the upper window can be seen: it is stacked above the lower one.
-bool isAbove(xcb_window_t upper, xcb_window_t lower)
-{
-    auto* connection = qtConnection();
-    const XcbOwned<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(
-        connection, xcb_query_tree(connection, rootWindow(connection)), nullptr));
-    const auto* children = xcb_query_tree_children(tree.get());
-    const std::vector<xcb_window_t> stack(children,
-                                          children + xcb_query_tree_children_length(tree.get()));
-    return std::ranges::find(stack, upper) > std::ranges::find(stack, lower);
-}
-
-} // namespace
 
 /// The place of its window, and every end that a choice may have.
 class PickerProgramTest : public QObject {

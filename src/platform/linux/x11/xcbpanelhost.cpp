@@ -1,5 +1,6 @@
 #include "platform/linux/x11/xcbpanelhost.h"
 
+#include "platform/linux/x11/stacking.h"
 #include "platform/linux/x11/xserver.h"
 
 #include <QCoreApplication>
@@ -7,7 +8,6 @@
 #include <QTimer>
 #include <QTransform>
 
-#include <array>
 #include <utility>
 
 namespace quib {
@@ -56,6 +56,7 @@ void XcbPanelHost::adopt(QWindow& window)
         }
     });
     m_shape.setWindow(nativeWindow());
+    m_stayAbove.setWindow(nativeWindow());
     applyShapes();
 }
 
@@ -98,6 +99,7 @@ void XcbPanelHost::orderFront()
     if (m_window) {
         m_window->show();
         m_window->raise();
+        m_stayAbove.setResting(false);
     }
 }
 
@@ -127,10 +129,8 @@ void XcbPanelHost::placeBelow(xcb_window_t window)
     if (nativeWindow() == XCB_NONE || above == XCB_NONE) {
         return;
     }
-    const std::array<uint32_t, 2> values{above, XCB_STACK_MODE_BELOW};
-    xcb_configure_window(qtConnection(), nativeWindow(),
-                         XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, values.data());
-    xcb_flush(qtConnection());
+    m_stayAbove.setResting(true);
+    putRightBelow(nativeWindow(), above);
 }
 
 bool XcbPanelHost::eventFilter(QObject* object, QEvent* event)
@@ -170,6 +170,7 @@ void XcbPanelHost::followSurface(const QEvent& event)
     const auto type = static_cast<const QPlatformSurfaceEvent&>(event).surfaceEventType();
     const auto isThere = type == QPlatformSurfaceEvent::SurfaceCreated;
     m_shape.setWindow(isThere ? nativeWindow() : XCB_NONE);
+    m_stayAbove.setWindow(isThere ? nativeWindow() : XCB_NONE);
     applyShapes();
 }
 

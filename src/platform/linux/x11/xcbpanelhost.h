@@ -4,6 +4,7 @@
 #include "platform/linux/x11/compositorwatch.h"
 #include "platform/linux/x11/keyboardloan.h"
 #include "platform/linux/x11/keyrepeat.h"
+#include "platform/linux/x11/stayabove.h"
 #include "platform/linux/x11/windowshape.h"
 
 #include <QPointer>
@@ -11,9 +12,9 @@
 
 namespace quib {
 
-/// A panel that no window manager touches: above everything, on all desktops, never focused by
-/// itself. Clicks pass where the input region ends; without a compositor the window has the shape
-/// of what is drawn, or it would show as a black box.
+/// A panel that no window manager touches: above all windows of theirs, on all desktops, never
+/// focused by itself. Clicks pass where the input region ends; without a compositor the window has
+/// the shape of what is drawn, or it would show as a black box.
 class XcbPanelHost final : public PanelHost {
     Q_OBJECT
 
@@ -30,7 +31,8 @@ public:
 
     /// Where clicks stay with the panel, in global points.
     QRect cardFrame() const;
-    /// Right beneath that window of another program, so that all of that one is seen.
+    /// Right beneath that window of another program, so that all of that one is seen; until it is
+    /// ordered front again.
     void placeBelow(xcb_window_t window);
 
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -52,6 +54,7 @@ private:
     std::optional<QPainterPath> m_visibleShape; ///< Absent until told.
     CompositorWatch m_compositor;
     WindowShape m_shape;
+    StayAbove m_stayAbove;
     KeyboardLoan m_keyboard;
     KeyRepeat m_keyRepeat;
 };

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 using namespace Qt::StringLiterals;
 
@@ -89,6 +90,13 @@ void OtherProgram::setPlace(QPoint corner) const
 void OtherProgram::show() const
 {
     xcb_map_window(m_connection.get(), m_window);
+    finish(m_connection.get());
+}
+
+void OtherProgram::raise() const
+{
+    const uint32_t above = XCB_STACK_MODE_ABOVE;
+    xcb_configure_window(m_connection.get(), m_window, XCB_CONFIG_WINDOW_STACK_MODE, &above);
     finish(m_connection.get());
 }
 
@@ -198,9 +206,29 @@ QRect nativeFrame(xcb_window_t window)
     return reply ? QRect(reply->x, reply->y, reply->width, reply->height) : QRect();
 }
 
+bool isAbove(xcb_window_t window, xcb_window_t other)
+{
+    const XcbOwned<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(asking(), xcb_query_tree(asking(), rootWindow(asking())), nullptr));
+    if (!tree) {
+        return false;
+    }
+    // From the lowest to the highest.
+    const std::span children(xcb_query_tree_children(tree.get()), tree->children_len);
+    return std::ranges::find(children, window) > std::ranges::find(children, other);
+}
+
 bool isManaged(xcb_window_t window)
 {
     return std::ranges::count(windowsIn("_NET_CLIENT_LIST"), window) > 0;
+}
+
+void setManaged(const std::vector<xcb_window_t>& windows)
+{
+    xcb_change_property(asking(), XCB_PROP_MODE_REPLACE, rootWindow(asking()),
+                        atomNamed(asking(), "_NET_CLIENT_LIST"), XCB_ATOM_WINDOW, 32,
+                        uint32_t(windows.size()), windows.data());
+    finish(asking());
 }
 
 bool hasWindowManager()

@@ -27,6 +27,8 @@ public:
     void setPlace(QPoint corner) const;
     /// Maps the window, and waits for the server, not for a window manager.
     void show() const;
+    /// Above everything; waits for the server.
+    void raise() const;
     void takeKeyboard() const { focus(m_window); }
     /// As window managers do for a click, with the click's time.
     void takeKeyboard(xcb_timestamp_t time) const { focus(m_window, time); }
@@ -62,8 +64,12 @@ private:
 xcb_window_t keyboardOwner();
 QRegion shapeOf(xcb_window_t window, xcb_shape_kind_t kind);
 QRect nativeFrame(xcb_window_t window);
+/// Both are children of the root.
+bool isAbove(xcb_window_t window, xcb_window_t other);
 /// True when the window manager has taken the window into its list.
 bool isManaged(xcb_window_t window);
+/// As window managers do where there is none.
+void setManaged(const std::vector<xcb_window_t>& windows);
 /// Tried with a window: one that just starts overlooks some.
 bool hasWindowManager();
 

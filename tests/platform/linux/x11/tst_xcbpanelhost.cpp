@@ -31,6 +31,7 @@ private Q_SLOTS:
     void cleanup();
     void place_putsTheWindowWhereItIsTold();
     void orderFront_isAboveWhatCameBefore();
+    void placeBelow_isOverUntilOrderedFront();
     void clicks_reachWhatLiesBeneathAtFirst();
     void clicks_insideTheRegion_stayWithThePanel();
     void clicks_besideTheRegion_reachWhatLiesBeneath();
@@ -115,6 +116,27 @@ void XcbPanelHostTest::orderFront_isAboveWhatCameBefore()
     m_host->orderFront();
 
     QTRY_COMPARE((click(onScreen(Card.center())), late.presses()), 0);
+}
+
+void XcbPanelHostTest::placeBelow_isOverUntilOrderedFront()
+{
+    showPanel();
+    const OtherProgram dialog({100, 0, 600, 200}, OtherProgram::Placing::ByWindowManager);
+    m_host->placeBelow(dialog.window());
+    dialog.show();
+    XcbPanelHost awake; // Tells when the first one would have risen.
+    QWindow other;
+    awake.adopt(other);
+    awake.place(Frame);
+    awake.orderFront();
+    QVERIFY(QTest::qWaitForWindowExposed(&other));
+    dialog.raise();
+    QTRY_VERIFY(isAbove(xcb_window_t(other.winId()), dialog.window()));
+    QVERIFY(isAbove(dialog.window(), native()));
+
+    m_host->orderFront();
+
+    QTRY_VERIFY(isAbove(native(), dialog.window()));
 }
 
 void XcbPanelHostTest::clicks_reachWhatLiesBeneathAtFirst()
