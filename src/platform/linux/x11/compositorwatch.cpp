@@ -2,6 +2,7 @@
 
 #include "platform/linux/x11/xserver.h"
 
+#include <QByteArrayView>
 #include <QCoreApplication>
 
 #include <xcb/xfixes.h>
@@ -12,11 +13,11 @@ namespace quib {
 
 namespace {
 
-bool hasOwner(xcb_connection_t* connection, xcb_atom_t selection)
+xcb_window_t ownerOf(xcb_connection_t* connection, xcb_atom_t selection)
 {
     const XcbOwned<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
         connection, xcb_get_selection_owner(connection, selection), nullptr));
-    return reply && reply->owner != XCB_NONE;
+    return reply ? reply->owner : xcb_window_t(XCB_NONE);
 }
 
 } // namespace
@@ -38,7 +39,7 @@ CompositorWatch::CompositorWatch()
                 | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
         qApp->installNativeEventFilter(this);
     }
-    m_isRunning = hasOwner(connection, m_selection); // Asked last, so that no change is missed.
+    m_owner = ownerOf(connection, m_selection); // Asked last, so that no change is missed.
 }
 
 bool CompositorWatch::nativeEventFilter(const QByteArray& type, void* message, qintptr* /*result*/)
@@ -47,20 +48,38 @@ bool CompositorWatch::nativeEventFilter(const QByteArray& type, void* message, q
     if (event != nullptr && eventKind(*event) == m_eventKind) {
         const auto* notify = reinterpret_cast<const xcb_xfixes_selection_notify_event_t*>(event);
         if (notify->selection == m_selection) {
-            setRunning(notify->subtype == XCB_XFIXES_SELECTION_EVENT_SET_SELECTION_OWNER
-                       && notify->owner != XCB_NONE);
+            const auto isTaken = notify->subtype == XCB_XFIXES_SELECTION_EVENT_SET_SELECTION_OWNER;
+            setOwner(isTaken ? notify->owner : xcb_window_t(XCB_NONE));
         }
     }
     return false;
 }
 
-void CompositorWatch::setRunning(bool isRunning)
+bool CompositorWatch::overlooksOldWindows() const
 {
-    if (isRunning == m_isRunning) {
+    constexpr uint32_t MostWords = 16;
+    auto* connection = qtConnection();
+    if (m_owner == XCB_NONE || connection == nullptr) {
+        return false;
+    }
+    const XcbOwned<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+        connection,
+        xcb_get_property(connection, 0, m_owner, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 0, MostWords),
+        nullptr));
+    if (!reply) {
+        return false;
+    }
+    const auto* name = static_cast<const char*>(xcb_get_property_value(reply.get()));
+    return QByteArrayView(name, xcb_get_property_value_length(reply.get())).contains("xfwm4");
+}
+
+void CompositorWatch::setOwner(xcb_window_t owner)
+{
+    if (owner == m_owner) {
         return; // Qt listens too, and each change may be told twice.
     }
-    m_isRunning = isRunning;
-    Q_EMIT isRunningChanged();
+    m_owner = owner;
+    Q_EMIT changed();
 }
 
 } // namespace quib

@@ -84,12 +84,30 @@ void put(xcb_window_t window, xcb_stack_mode_t mode, xcb_window_t sibling)
 
 } // namespace
 
+xcb_window_t nextAbove(xcb_window_t window)
+{
+    const auto desktop = treeOf(rootWindow(qtConnection()));
+    const auto higher = above(window, desktop);
+    return higher.empty() ? xcb_window_t(XCB_NONE) : higher.front();
+}
+
 xcb_window_t highestManagedAbove(xcb_window_t window)
 {
     const auto desktop = treeOf(rootWindow(qtConnection()));
     const auto higher = above(window, desktop);
     const auto highest = std::find_if(higher.rbegin(), higher.rend(), isShownAndManaged);
     return highest == higher.rend() ? xcb_window_t(XCB_NONE) : *highest;
+}
+
+void giveToRoot(xcb_window_t window)
+{
+    auto* connection = qtConnection();
+    const XcbOwned<xcb_get_geometry_reply_t> place(
+        xcb_get_geometry_reply(connection, xcb_get_geometry(connection, window), nullptr));
+    if (place) {
+        xcb_reparent_window(connection, window, place->root, place->x, place->y);
+        xcb_flush(connection);
+    }
 }
 
 void putRightAbove(xcb_window_t window, xcb_window_t sibling)

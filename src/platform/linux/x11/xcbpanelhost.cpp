@@ -39,8 +39,7 @@ QRegion toPixels(const QPainterPath& points, double scale)
 
 XcbPanelHost::XcbPanelHost()
 {
-    connect(&m_compositor, &CompositorWatch::isRunningChanged, this,
-            &XcbPanelHost::applyVisibleShape);
+    connect(&m_compositor, &CompositorWatch::changed, this, &XcbPanelHost::followCompositor);
 }
 
 void XcbPanelHost::adopt(QWindow& window)
@@ -172,6 +171,25 @@ void XcbPanelHost::followSurface(const QEvent& event)
     m_shape.setWindow(isThere ? nativeWindow() : XCB_NONE);
     m_stayAbove.setWindow(isThere ? nativeWindow() : XCB_NONE);
     applyShapes();
+}
+
+void XcbPanelHost::followCompositor()
+{
+    applyVisibleShape();
+    if (nativeWindow() != XCB_NONE && m_compositor.overlooksOldWindows()) {
+        introduceAnew();
+    }
+}
+
+/// To its parent once more: that is told like a new window, and puts it above everything.
+void XcbPanelHost::introduceAnew()
+{
+    const auto window = nativeWindow();
+    const auto above = nextAbove(window);
+    giveToRoot(window);
+    if (above != XCB_NONE) {
+        putRightBelow(window, above);
+    }
 }
 
 void XcbPanelHost::applyInputRegion()

@@ -38,6 +38,8 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    void followCompositor();
+    void introduceAnew();
     void endRescaling();
     void followSurface(const QEvent& event);
     bool tellRepeat(QKeyEvent& event);
