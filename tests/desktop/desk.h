@@ -84,7 +84,7 @@ public:
     void killBus();
     /// Somebody whose name starts so.
     bool isOnBus(const QString& start) const;
-    void startWindowManager(const QString& program = QStringLiteral("openbox"));
+    void startWindowManager(const QString& command = QStringLiteral("openbox"));
     void killWindowManager();
     void startCompositor();
     void killCompositor();

@@ -157,10 +157,12 @@ bool Desk::isOnBus(const QString& start) const
     return tool.readAllStandardOutput().contains(' ' + start.toLatin1());
 }
 
-void Desk::startWindowManager(const QString& program)
+void Desk::startWindowManager(const QString& command)
 {
-    if (program == u"xfwm4"_s) {
-        m_windowManager = start(program, {u"--compositor=off"_s});
+    auto words = command.split(u' ');
+    const auto program = words.takeFirst();
+    if (program != u"openbox"_s) {
+        m_windowManager = start(program, words);
         waitFor("the window manager", [this] { return m_connection->hasOwner("WM_S0"); });
         return;
     }
