@@ -61,13 +61,14 @@ QByteArray pasted(Desk& desk, const QString& target = u"UTF8_STRING"_s)
     return xclip->readAllStandardOutput();
 }
 
-/// Has another program offer a text, until the desk ends.
+/// Has another program offer a text, until the desk ends. Nobody offers one before.
 void offer(Desk& desk, const QString& selection, const QByteArray& text)
 {
     const auto xclip = desk.start(u"xclip"_s, {u"-i"_s, u"-selection"_s, selection});
     xclip->write(text);
     xclip->closeWriteChannel();
     xclip->waitForFinished(); // It goes on in the background.
+    desk.waitForOwner(selection.toUpper().toLatin1());
 }
 
 } // namespace

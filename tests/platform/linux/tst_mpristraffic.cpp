@@ -17,6 +17,12 @@ const auto PlayerPath = u"/org/mpris/MediaPlayer2"_s;
 /// Hears every call that anyone makes to any player.
 class BusMonitor {
 public:
+    /// Of the calls made through that connection it knows when all are heard.
+    explicit BusMonitor(QDBusConnection connection)
+        : m_connection(std::move(connection))
+    {
+    }
+
     ~BusMonitor()
     {
         m_process.kill();
@@ -39,12 +45,13 @@ public:
     }
 
 private:
-    /// What one program sends arrives in its order, so a call of our own ends what was sent before.
+    /// What goes through one connection arrives in its order, so a call of our own ends what was
+    /// sent before.
     bool hearsProbe()
     {
-        const auto bus = QDBusConnection::sessionBus();
         const auto probe = u"Probe%1"_s.arg(++m_probes);
-        bus.send(QDBusMessage::createMethodCall(bus.baseService(), PlayerPath, {}, probe));
+        m_connection.send(
+            QDBusMessage::createMethodCall(m_connection.baseService(), PlayerPath, {}, probe));
         while (m_process.canReadLine() || m_process.waitForReadyRead(PatienceMs)) {
             const auto method = methodOf(m_process.readLine().trimmed().split('\t'));
             if (method == probe) {
@@ -66,6 +73,7 @@ private:
 
     static constexpr int PatienceMs = 500; ///< With a monitor that does not listen yet.
 
+    QDBusConnection m_connection;
     int m_probes = 0;
     QProcess m_process;
     QStringList m_calls;
@@ -99,10 +107,11 @@ void MprisTrafficTest::init()
 {
     m_player = std::make_unique<FakePlayer>(u"example"_s);
     QVERIFY(m_player->start());
-    m_monitor = std::make_unique<BusMonitor>();
+    const auto bus = std::make_shared<SessionBus>();
+    m_monitor = std::make_unique<BusMonitor>(bus->connection());
     QVERIFY(m_monitor->start());
     m_time = std::make_unique<HandClock>();
-    m_link = std::make_unique<MprisPlayerLink>();
+    m_link = std::make_unique<MprisPlayerLink>(bus);
     m_media = std::make_unique<MediaController>(*m_link, m_time->scheduler());
 }
 
