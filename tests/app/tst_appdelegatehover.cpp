@@ -43,12 +43,8 @@ private Q_SLOTS:
     void dismiss_whatIsKeptOpen_doesNothing_data();
     void dismiss_whatIsKeptOpen_doesNothing();
     void dismiss_underTheRestingPointer_opensAgain();
-    void expand_toShelf_selectsTheShelf();
     void expand_cancelsAPendingCollapse();
-    void collapse_keepsTheTab();
     void expansion_takesClicksAndCollapseLetsThemThrough();
-    void expansion_asksThePlayerUntilTheCollapse();
-    void expansion_readsTheDayAnew();
 
 private:
     void move(const QString& path);
@@ -234,14 +230,6 @@ void AppDelegateHoverTest::dismiss_underTheRestingPointer_opensAgain()
     QVERIFY(m_quib->delegate.model().isExpanded());
 }
 
-void AppDelegateHoverTest::expand_toShelf_selectsTheShelf()
-{
-    m_quib->delegate.expand(true);
-
-    QVERIFY(m_quib->delegate.model().isExpanded());
-    QCOMPARE(m_quib->delegate.model().tab(), Tab::Shelf);
-}
-
 void AppDelegateHoverTest::expand_cancelsAPendingCollapse()
 {
     move(u"no"_s);
@@ -250,18 +238,6 @@ void AppDelegateHoverTest::expand_cancelsAPendingCollapse()
     m_quib->hands.advance(1s);
 
     QVERIFY(m_quib->delegate.model().isExpanded());
-}
-
-void AppDelegateHoverTest::collapse_keepsTheTab()
-{
-    m_quib->delegate.expand(false);
-    m_quib->delegate.model().setTab(Tab::Notes);
-
-    m_quib->delegate.collapse(true);
-    m_quib->hands.advance(0ms);
-
-    QVERIFY(!m_quib->delegate.model().isExpanded());
-    QCOMPARE(m_quib->delegate.model().tab(), Tab::Notes);
 }
 
 void AppDelegateHoverTest::expansion_takesClicksAndCollapseLetsThemThrough()
@@ -273,39 +249,6 @@ void AppDelegateHoverTest::expansion_takesClicksAndCollapseLetsThemThrough()
     QCOMPARE(m_quib->shell.asked,
              (QStringList{u"order front"_s, u"take clicks"_s, u"let clicks through"_s,
                           u"give back keyboard 0"_s}));
-}
-
-void AppDelegateHoverTest::expansion_asksThePlayerUntilTheCollapse()
-{
-    auto& delegate = m_quib->launched();
-    auto& player = m_quib->shell.player;
-    player.running = {Player::Spotify};
-    m_quib->hands.advance(5s);
-    QVERIFY(player.asked.isEmpty());
-
-    delegate.expand(false);
-    QCOMPARE(player.asked, QStringList{u"query Spotify"_s});
-    player.answer({});
-    m_quib->hands.advance(2s);
-    QCOMPARE(player.asked.size(), 2);
-    player.answer({});
-
-    delegate.collapse(true);
-    m_quib->hands.advance(5s);
-    QCOMPARE(player.asked.size(), 2);
-}
-
-void AppDelegateHoverTest::expansion_readsTheDayAnew()
-{
-    auto& delegate = m_quib->launched();
-    auto& calendar = m_quib->shell.calendar;
-    calendar.authorizations.front()(CalendarAuthorization::FullAccess);
-    calendar.readings.back().answer({});
-    const auto readings = calendar.readings.size();
-
-    delegate.expand(false);
-
-    QCOMPARE(calendar.readings.size(), readings + 1);
 }
 
 QTEST_MAIN(AppDelegateHoverTest)

@@ -64,6 +64,8 @@ private:
 void TimeZoneTest::init()
 {
     m_desk = std::make_unique<TravelDesk>(East);
+    // Mounting needs to be root or to become it, and an own root to mount in: not so in some
+    // containers.
     if (const auto hindrance = m_desk->hindrance(); !hindrance.isEmpty()) {
         QSKIP(qPrintable(u"no program can have an /etc of its own here: "_s + hindrance));
     }

@@ -41,6 +41,11 @@ public:
 
     /// False too where none can be had.
     bool isHung() const { return m_isHung; }
+    /// Why none can be had.
+    QByteArray hindrance()
+    {
+        return "no file system can be mounted here: " + m_program.readAllStandardError().trimmed();
+    }
     QString path(const QString& name) const
     {
         return m_folder.filePath(QStringLiteral("disk/")) + name;

@@ -31,9 +31,6 @@ private Q_SLOTS:
     void period_isChosenByPointerAndKeys();
     void twoHundredClients_scroll();
     void keys_scrollWhatDoesNotFit();
-    void export_writesRevealsAndChecks();
-    void export_again_writesAndRevealsAgain();
-    void export_thatFails_changesNothing();
 
 private:
     QQuickItem* item(const QString& name) { return m_tab->item(name); }
@@ -263,40 +260,6 @@ void TotalsCardTest::keys_scrollWhatDoesNotFit()
     m_tab->press(Qt::Key_PageUp);
 
     QVERIFY(isWhole(0));
-}
-
-void TotalsCardTest::export_writesRevealsAndChecks()
-{
-    m_tab->entry(3600, m_tab->client(u"Café"_s));
-    QCOMPARE(m_tab->exportSymbol(), u"square.and.arrow.up"_s);
-
-    m_tab->click(item(u"export"_s));
-
-    QCOMPARE(m_tab->downloads.files().size(), 1);
-    QCOMPARE(m_tab->opener.asked, QStringList(u"reveal "_s + m_tab->downloads.files().front()));
-    QCOMPARE(m_tab->exportSymbol(), u"checkmark"_s);
-}
-
-void TotalsCardTest::export_again_writesAndRevealsAgain()
-{
-    m_tab->click(item(u"export"_s));
-    QFile::remove(m_tab->downloads.files().front());
-
-    m_tab->click(item(u"export"_s));
-
-    QCOMPARE(m_tab->downloads.files().size(), 1);
-    QCOMPARE(m_tab->opener.asked.size(), 2);
-    QCOMPARE(m_tab->exportSymbol(), u"checkmark"_s);
-}
-
-void TotalsCardTest::export_thatFails_changesNothing()
-{
-    m_tab->downloads.remove();
-
-    m_tab->click(item(u"export"_s));
-
-    QVERIFY(m_tab->opener.asked.isEmpty());
-    QCOMPARE(m_tab->exportSymbol(), u"square.and.arrow.up"_s);
 }
 
 QTEST_MAIN(TotalsCardTest)

@@ -1,16 +1,15 @@
-#include "platform/linux/diskprobe.h"
-
-#include "support/hungdisk.h"
+#include "platform/linux/presenceof.h"
 #include "support/writefile.h"
 
-#include <QTest>
+#include <QFile>
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using quib::DiskProbe;
 using quib::FilePresence;
 
-/// Whether files are there, on disks that answer and on one that does not.
+/// Whether files are there, on disks that answer.
 class DiskProbeTest : public QObject {
     Q_OBJECT
 
@@ -20,26 +19,10 @@ private Q_SLOTS:
     void presence_isLookedForEachTimeAnew();
     void answer_comesLater();
     void manyQuestions_areAllAnswered();
-    void hungDisk_isGivenUpAndHoldsUpNoOther();
-    void hungDisk_asksOncePerPath();
-    void hungDisk_holdsUpNoEnd();
-    void hungDisk_answersAtLast();
 
 private:
     QTemporaryDir m_folder;
 };
-
-namespace {
-
-FilePresence ask(DiskProbe& probe, const QString& path)
-{
-    std::optional<FilePresence> answer;
-    probe.ask(path, [&answer](FilePresence presence) { answer = presence; });
-    [[maybe_unused]] const bool came = QTest::qWaitFor([&] { return answer.has_value(); }, 30'000);
-    return answer.value();
-}
-
-} // namespace
 
 void DiskProbeTest::presence_isWhatThePathLeadsTo_data()
 {
@@ -65,20 +48,20 @@ void DiskProbeTest::presence_isWhatThePathLeadsTo()
     QFETCH(bool, isThere);
     DiskProbe probe;
 
-    QCOMPARE(ask(probe, path), isThere ? FilePresence::There : FilePresence::Gone);
+    QCOMPARE(presenceOf(path, probe), isThere ? FilePresence::There : FilePresence::Gone);
 }
 
 void DiskProbeTest::presence_isLookedForEachTimeAnew()
 {
     DiskProbe probe;
     const auto file = writeFile(m_folder.filePath(u"comes and goes"_s), "x");
-    QCOMPARE(ask(probe, file), FilePresence::There);
+    QCOMPARE(presenceOf(file, probe), FilePresence::There);
 
     QFile::remove(file);
-    QCOMPARE(ask(probe, file), FilePresence::Gone);
+    QCOMPARE(presenceOf(file, probe), FilePresence::Gone);
 
     writeFile(file, "x");
-    QCOMPARE(ask(probe, file), FilePresence::There);
+    QCOMPARE(presenceOf(file, probe), FilePresence::There);
 }
 
 void DiskProbeTest::answer_comesLater()
@@ -105,67 +88,6 @@ void DiskProbeTest::manyQuestions_areAllAnswered()
     }
 
     QTRY_COMPARE_WITH_TIMEOUT(answers, 500, 30'000);
-}
-
-void DiskProbeTest::hungDisk_isGivenUpAndHoldsUpNoOther()
-{
-    HungDisk disk;
-    if (!disk.isHung()) {
-        QSKIP("no file system can be mounted here");
-    }
-    DiskProbe probe(50ms);
-    int unknown = 0;
-
-    for (int number = 0; number < 6; ++number) {
-        probe.ask(disk.path(QString::number(number)),
-                  [&](FilePresence presence) { unknown += presence == FilePresence::Unknown; });
-    }
-
-    QCOMPARE(ask(probe, m_folder.path()), FilePresence::There);
-    QTRY_COMPARE(unknown, 6);
-}
-
-void DiskProbeTest::hungDisk_asksOncePerPath()
-{
-    HungDisk disk;
-    if (!disk.isHung()) {
-        QSKIP("no file system can be mounted here");
-    }
-    DiskProbe probe(20ms);
-
-    for (int number = 0; number < 200; ++number) {
-        QCOMPARE(ask(probe, disk.path(u"file"_s)), FilePresence::Unknown);
-    }
-
-    QCOMPARE(ask(probe, m_folder.path()), FilePresence::There);
-}
-
-void DiskProbeTest::hungDisk_holdsUpNoEnd()
-{
-    HungDisk disk;
-    if (!disk.isHung()) {
-        QSKIP("no file system can be mounted here");
-    }
-    auto probe = std::make_unique<DiskProbe>(20ms);
-    QCOMPARE(ask(*probe, disk.path(u"file"_s)), FilePresence::Unknown);
-
-    probe.reset();
-
-    QVERIFY(disk.isHung());
-}
-
-void DiskProbeTest::hungDisk_answersAtLast()
-{
-    HungDisk disk;
-    if (!disk.isHung()) {
-        QSKIP("no file system can be mounted here");
-    }
-    DiskProbe probe(50ms);
-    QCOMPARE(ask(probe, disk.path(u"file"_s)), FilePresence::Unknown);
-
-    disk.answerAtLast();
-
-    QTRY_COMPARE(ask(probe, disk.path(u"file"_s)), FilePresence::There);
 }
 
 QTEST_GUILESS_MAIN(DiskProbeTest)

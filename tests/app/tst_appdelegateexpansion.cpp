@@ -1,0 +1,82 @@
+#include "support/delegatefortest.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using quib::CalendarAuthorization;
+using quib::Player;
+using quib::Tab;
+
+/// What the panel does beside growing and shrinking when it expands and collapses, among fakes.
+class AppDelegateExpansionTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_quib = std::make_unique<DelegateForTest>(); }
+    void cleanup() { m_quib.reset(); }
+
+    void expand_toShelf_selectsTheShelf();
+    void collapse_keepsTheTab();
+    void expansion_asksThePlayerUntilTheCollapse();
+    void expansion_readsTheDayAnew();
+
+private:
+    std::unique_ptr<DelegateForTest> m_quib;
+};
+
+void AppDelegateExpansionTest::expand_toShelf_selectsTheShelf()
+{
+    m_quib->delegate.expand(true);
+
+    QVERIFY(m_quib->delegate.model().isExpanded());
+    QCOMPARE(m_quib->delegate.model().tab(), Tab::Shelf);
+}
+
+void AppDelegateExpansionTest::collapse_keepsTheTab()
+{
+    m_quib->delegate.expand(false);
+    m_quib->delegate.model().setTab(Tab::Notes);
+
+    m_quib->delegate.collapse(true);
+    m_quib->hands.advance(0ms);
+
+    QVERIFY(!m_quib->delegate.model().isExpanded());
+    QCOMPARE(m_quib->delegate.model().tab(), Tab::Notes);
+}
+
+void AppDelegateExpansionTest::expansion_asksThePlayerUntilTheCollapse()
+{
+    auto& delegate = m_quib->launched();
+    auto& player = m_quib->shell.player;
+    player.running = {Player::Spotify};
+    m_quib->hands.advance(5s);
+    QVERIFY(player.asked.isEmpty());
+
+    delegate.expand(false);
+    QCOMPARE(player.asked, QStringList{u"query Spotify"_s});
+    player.answer({});
+    m_quib->hands.advance(2s);
+    QCOMPARE(player.asked.size(), 2);
+    player.answer({});
+
+    delegate.collapse(true);
+    m_quib->hands.advance(5s);
+    QCOMPARE(player.asked.size(), 2);
+}
+
+void AppDelegateExpansionTest::expansion_readsTheDayAnew()
+{
+    auto& delegate = m_quib->launched();
+    auto& calendar = m_quib->shell.calendar;
+    calendar.authorizations.front()(CalendarAuthorization::FullAccess);
+    calendar.readings.back().answer({});
+    const auto readings = calendar.readings.size();
+
+    delegate.expand(false);
+
+    QCOMPARE(calendar.readings.size(), readings + 1);
+}
+
+QTEST_MAIN(AppDelegateExpansionTest)
+#include "tst_appdelegateexpansion.moc"
