@@ -3,12 +3,13 @@ import QtQuick
 import Quib.Views
 
 /*!
-    A list that is one stop of the keyboard: its current row, a FocusScope with buttons that are stops
-    while `ListView.isCurrentItem`. Arrows, pages and ends lead to the other rows.
+    A list that is one stop of the keyboard: its current row, whose buttons are stops while
+    `ListView.isCurrentItem`. Arrows, pages and ends step to the other rows.
 */
 ListView {
     id: root
 
+    signal stepped(by: int) // Rows, by a key; perhaps beyond the ends.
     signal emptied(reason: int) // The row with the focus is gone, and no other is there.
 
     clip: true
@@ -54,19 +55,15 @@ ListView {
         }
     }
 
-    function step(by) {
-        root.focusRow(root.currentIndex + by, Qt.TabFocusReason);
-    }
-
     function stepByKey(event) {
         event.accepted = true;
         switch (event.key) {
-        case Qt.Key_Up: return root.step(-1);
-        case Qt.Key_Down: return root.step(1);
-        case Qt.Key_PageUp: return root.step(-root.rowsInSight());
-        case Qt.Key_PageDown: return root.step(root.rowsInSight());
-        case Qt.Key_Home: return root.step(-root.count);
-        case Qt.Key_End: return root.step(root.count);
+        case Qt.Key_Up: return root.stepped(-1);
+        case Qt.Key_Down: return root.stepped(1);
+        case Qt.Key_PageUp: return root.stepped(-root.rowsInSight());
+        case Qt.Key_PageDown: return root.stepped(root.rowsInSight());
+        case Qt.Key_Home: return root.stepped(-root.count);
+        case Qt.Key_End: return root.stepped(root.count);
         }
         event.accepted = false;
     }

@@ -44,24 +44,6 @@ Card {
         }
     }
 
-    function stepByKey(event) {
-        event.accepted = true;
-        switch (event.key) {
-        case Qt.Key_Up: return root.step(-1);
-        case Qt.Key_Down: return root.step(1);
-        case Qt.Key_PageUp: return root.step(-root.rowsInSight());
-        case Qt.Key_PageDown: return root.step(root.rowsInSight());
-        case Qt.Key_Home: return root.step(-clients.count);
-        case Qt.Key_End: return root.step(clients.count);
-        }
-        event.accepted = false;
-    }
-
-    function rowsInSight() {
-        const height = list.currentItem ? list.currentItem.height + list.spacing : list.height;
-        return Math.max(1, Math.floor(list.height / height));
-    }
-
     FocusScope {
         id: inside
 
@@ -88,21 +70,17 @@ Card {
             onClicked: root.addClicked()
         }
 
-        ListView {
+        RowList {
             id: list
 
             objectName: "clientList"
             anchors.fill: parent
             anchors.topMargin: add.height + 4
             focus: true
-            boundsBehavior: Flickable.StopAtBounds
-            cacheBuffer: 0 // Or what is made beforehand is a stop of the keyboard before it is whole.
-            clip: true
-            highlightFollowsCurrentItem: false
-            keyNavigationEnabled: false
             spacing: 2
-            Accessible.role: Accessible.List
             Accessible.name: "Clients"
+
+            onStepped: by => root.step(by)
 
             model: ClientListModel {
                 id: clients
@@ -120,8 +98,6 @@ Card {
                     root.focusRow(Qt.MouseFocusReason);
                 }
             }
-
-            Keys.onPressed: event => root.stepByKey(event)
 
             ScrollThumb {
                 flickable: list

@@ -18,6 +18,8 @@ RowList {
     model: root.tasks
     Accessible.name: "Tasks"
 
+    onStepped: by => root.focusRow(root.currentIndex + by, Qt.TabFocusReason)
+
     delegate: TaskRow {
         required property int index
 
