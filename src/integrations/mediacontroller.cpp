@@ -100,11 +100,11 @@ void MediaController::takeReply(Player player, const QString& reply)
 void MediaController::command(const QString& verb)
 {
     const auto player = m_track ? m_track->player : activePlayer();
-    if (!player) {
+    if (player) {
+        m_link.send(*player, verb);
+    } else {
         m_link.launchSpotify();
-        return;
     }
-    m_link.send(*player, verb);
     m_afterCommand = m_schedule(CommandTakesEffect, [this] { refresh(); });
 }
 

@@ -53,7 +53,8 @@ public:
     /// One poll. Wanted while another is on its way, it follows that.
     void refresh();
     /// Sends "previous track", "playpause" or "next track" to the player of the track, else to the
-    /// running one. Launches Spotify, and only Spotify, where none runs.
+    /// running one. Launches Spotify, and only Spotify, where none runs. Polls once, a quarter of a
+    /// second later.
     Q_INVOKABLE void command(const QString& verb);
 
 Q_SIGNALS:

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void command_withoutATrack_goesToTheRunningPlayer();
     void command_asksAQuarterSecondLater();
     void command_noPlayer_launchesSpotifyOnly();
+    void command_launchingSpotify_asksAQuarterSecondLater();
     void trackChanged_onlyWhenItChanges();
     void properties_tellTheTrack();
 };
@@ -165,6 +166,20 @@ void NowPlayingTest::command_noPlayer_launchesSpotifyOnly()
     f.time.advance(1h);
 
     QCOMPARE(f.link.asked, QStringList(u"launch Spotify"_s));
+}
+
+/// It may have come up by then.
+void NowPlayingTest::command_launchingSpotify_asksAQuarterSecondLater()
+{
+    MediaFixture f;
+    f.media.command(u"playpause"_s);
+    f.link.running = {Player::Spotify};
+
+    f.time.advance(249ms);
+    QCOMPARE(f.link.asked, QStringList(u"launch Spotify"_s));
+    f.time.advance(1ms);
+
+    QCOMPARE(f.link.asked, (QStringList{u"launch Spotify"_s, u"query Spotify"_s}));
 }
 
 void NowPlayingTest::trackChanged_onlyWhenItChanges()
