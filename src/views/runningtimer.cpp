@@ -26,8 +26,7 @@ void RunningTimer::setPlaceholder(const QString& placeholder)
 void RunningTimer::start(const QUuid& client, const QString& note)
 {
     if (m_store) {
-        const auto chosen = clientOrNone(client);
-        m_store->startTimer(m_store->client(chosen) ? chosen : std::nullopt, note);
+        m_store->startTimer(clientOrNone(client), note);
     }
 }
 

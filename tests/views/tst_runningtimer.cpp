@@ -1,12 +1,13 @@
 #include "views/runningtimer.h"
 
 #include "support/workspace.h"
+#include "views/noclient.h"
 
 #include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-using quib::RunningTimer;
+using namespace quib;
 
 class RunningTimerTest : public QObject {
     Q_OBJECT
@@ -19,7 +20,7 @@ private Q_SLOTS:
     void placeholder_standsForNobody();
     void note_isTheRunningOnes();
     void start_startsForAClientOrNobody();
-    void start_forADeletedClientIsForNobody();
+    void start_forADeletedClient_keepsItsId();
     void otherEntries_sayNothing();
 };
 
@@ -109,12 +110,12 @@ void RunningTimerTest::start_startsForAClientOrNobody()
     timer.start(cafe, u"for the café"_s);
     QCOMPARE(workspace.store->runningEntry()->clientID, cafe);
     QCOMPARE(workspace.store->runningEntry()->note, u"for the café"_s);
-    timer.start({}, QString());
+    timer.start(NoClient::id(), QString());
 
     QCOMPARE(workspace.store->runningEntry()->clientID, std::nullopt);
 }
 
-void RunningTimerTest::start_forADeletedClientIsForNobody()
+void RunningTimerTest::start_forADeletedClient_keepsItsId()
 {
     Workspace workspace;
     const auto cafe = workspace.client(u"Corner Café"_s);
@@ -125,7 +126,7 @@ void RunningTimerTest::start_forADeletedClientIsForNobody()
     timer.start(cafe, u"Call"_s);
 
     QVERIFY(workspace.store->runningEntry());
-    QCOMPARE(workspace.store->runningEntry()->clientID, std::nullopt);
+    QCOMPARE(workspace.store->runningEntry()->clientID, cafe);
 }
 
 void RunningTimerTest::otherEntries_sayNothing()
