@@ -31,6 +31,8 @@ public:
     static constexpr QPoint BesideTheNotch{660, 25};
     static constexpr QPoint Pin{1102, 23};
 
+    struct Connection;
+
     explicit Desk(Options options);
     Desk();
     ~Desk();
@@ -95,8 +97,6 @@ public:
     void setScreens(const QStringList& arguments);
 
 private:
-    struct Connection;
-
     void startServer();
     QStringList serverCommand() const;
     bool isShown(const QString& title) const;

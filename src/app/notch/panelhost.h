@@ -21,7 +21,8 @@ public:
     virtual void adopt(QWindow& window) = 0;
     /// In global points.
     virtual void place(const QRectF& frame) = 0;
-    /// In points of the window. Clicks outside the region reach what lies beneath.
+    /// In points of the window. Clicks outside the region reach what lies beneath. While it is
+    /// empty nothing here can be typed into, so the panel passes on the keyboard if it gets it.
     virtual void setInputRegion(const QRegion& region) = 0;
     /// The outline of what is drawn, in points of the window. Matters where nothing blends the
     /// window with what lies beneath; elsewhere it costs nothing.
@@ -29,7 +30,7 @@ public:
     virtual void orderFront() = 0;
     /// Remembers who has the keyboard and takes it; nothing when the panel has it already.
     virtual void takeKeyboard() = 0;
-    /// To the window that had it, if the panel took it and still has it. `click` is the stamp of
+    /// Where the panel has it: to the window that it was last taken from. `click` is the stamp of
     /// the click that ended our use, if one did.
     virtual void giveBackKeyboard(std::optional<quint32> click) = 0;
 };

@@ -2,6 +2,8 @@
 
 #include "platform/linux/x11/xserver.h"
 
+#include <QCoreApplication>
+
 namespace quib {
 
 namespace {
@@ -26,6 +28,11 @@ bool focus(xcb_window_t window, xcb_timestamp_t time)
 
 } // namespace
 
+KeyboardLoan::KeyboardLoan()
+{
+    qApp->installNativeEventFilter(this);
+}
+
 void KeyboardLoan::take(xcb_window_t window)
 {
     const auto lender = focusedWindow();
@@ -35,27 +42,33 @@ void KeyboardLoan::take(xcb_window_t window)
     }
 }
 
-void KeyboardLoan::giveBack(xcb_window_t window, std::optional<quint32> click)
+void KeyboardLoan::giveBack(xcb_window_t window, std::optional<quint32> click) const
 {
-    if (!m_lender || focusedWindow() != window) {
-        m_lender.reset();
+    if (focusedWindow() != window) {
         return;
     }
     // One tick before the click: where the click itself moves the keyboard, that move wins.
     const auto isTimed = click && *click != XCB_CURRENT_TIME;
     const auto time = isTimed ? *click - 1 : xcb_timestamp_t(XCB_CURRENT_TIME);
-    const auto hasLender = *m_lender != XCB_NONE && *m_lender != XCB_INPUT_FOCUS_POINTER_ROOT;
-    if (!hasLender || !focus(*m_lender, time)) {
+    const auto hasLender = m_lender != XCB_NONE && m_lender != XCB_INPUT_FOCUS_POINTER_ROOT;
+    if (!hasLender || !focus(m_lender, time)) {
         focus(XCB_INPUT_FOCUS_POINTER_ROOT, time);
     }
-    m_lender.reset();
 }
 
-void KeyboardLoan::checkStillOurs(xcb_window_t window)
+void KeyboardLoan::setRefusing(xcb_window_t window)
 {
-    if (m_lender && focusedWindow() != window) {
-        m_lender.reset();
+    m_refusing = window;
+}
+
+/// Qt tells of a focus that comes and goes within a tenth of a second late or not at all.
+bool KeyboardLoan::nativeEventFilter(const QByteArray& type, void* message, qintptr* /*result*/)
+{
+    const auto* event = xcbEvent(type, message);
+    if (event != nullptr && m_refusing != XCB_NONE && eventKind(*event) == XCB_FOCUS_IN) {
+        giveBack(m_refusing, std::nullopt);
     }
+    return false;
 }
 
 } // namespace quib

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractNativeEventFilter>
 #include <QtGlobal>
 
 #include <xcb/xcb.h>
@@ -10,17 +11,23 @@ namespace quib {
 
 /// The keyboard, taken from whoever has it and given back there. The server is asked each time:
 /// what Qt knows of the focus is late.
-class KeyboardLoan {
+class KeyboardLoan final : private QAbstractNativeEventFilter {
 public:
+    KeyboardLoan();
+
     void take(xcb_window_t window);
-    /// To the window that had it, if `window` took it and still has it. `click` is the stamp of the
-    /// click that ended the loan; 0 where its time is not known.
-    void giveBack(xcb_window_t window, std::optional<quint32> click);
-    /// To be told when the window may have lost the keyboard to another.
-    void checkStillOurs(xcb_window_t window);
+    /// Where `window` has it, however that came about: other programs give the keyboard back to
+    /// whom they took it from. It goes to the last lender, or to where the pointer is once that has
+    /// gone. `click` is the stamp of the click that ended the loan; 0 where its time is not known.
+    void giveBack(xcb_window_t window, std::optional<quint32> click) const;
+    /// The window that gives the keyboard back as soon as it gets it; none where none does.
+    void setRefusing(xcb_window_t window);
 
 private:
-    std::optional<xcb_window_t> m_lender; ///< Present from taking until the keyboard has gone on.
+    bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
+
+    xcb_window_t m_lender = XCB_NONE; ///< The last known one.
+    xcb_window_t m_refusing = XCB_NONE;
 };
 
 } // namespace quib

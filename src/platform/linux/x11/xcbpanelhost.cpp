@@ -49,11 +49,6 @@ void XcbPanelHost::adopt(QWindow& window)
     window.setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
     window.installEventFilter(this);
     connect(&window, &QWindow::screenChanged, this, &XcbPanelHost::applyShapes);
-    connect(&window, &QWindow::activeChanged, this, [this] {
-        if (nativeWindow() != XCB_NONE) {
-            m_keyboard.checkStillOurs(nativeWindow());
-        }
-    });
     m_shape.setWindow(nativeWindow());
     m_stayAbove.setWindow(nativeWindow());
     applyShapes();
@@ -196,6 +191,7 @@ void XcbPanelHost::applyInputRegion()
 {
     if (m_window) {
         m_shape.setInput(toPixels(m_inputRegion, m_window->devicePixelRatio()));
+        m_keyboard.setRefusing(m_inputRegion.isEmpty() ? nativeWindow() : xcb_window_t(XCB_NONE));
     }
 }
 

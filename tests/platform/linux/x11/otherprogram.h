@@ -29,6 +29,7 @@ public:
     void show() const;
     /// Above everything; waits for the server.
     void raise() const;
+    void focus(xcb_window_t window, xcb_timestamp_t time = XCB_CURRENT_TIME) const;
     void takeKeyboard() const { focus(m_window); }
     /// As window managers do for a click, with the click's time.
     void takeKeyboard(xcb_timestamp_t time) const { focus(m_window, time); }
@@ -52,7 +53,6 @@ public:
     xcb_timestamp_t timeOfLastPress();
 
 private:
-    void focus(xcb_window_t window, xcb_timestamp_t time = XCB_CURRENT_TIME) const;
     int received(int kind);
 
     XcbConnection m_connection;

@@ -42,6 +42,8 @@ private Q_SLOTS:
     void giveBackKeyboard_lenderIsHidden_freesIt();
     void giveBackKeyboard_nobodyHadIt_freesIt();
     void giveBackKeyboard_afterAShortcutOfAnother_returnsIt();
+    void giveBackKeyboard_returnedByAThird_goesToTheLastLender();
+    void keyboardOfAClosedPanel_isPassedOn();
 
 private:
     xcb_window_t native() const { return xcb_window_t(m_panel->winId()); }
@@ -60,6 +62,7 @@ void KeyboardLoanTest::init()
     m_host = std::make_unique<XcbPanelHost>();
     m_host->adopt(*m_panel);
     m_host->place({200, 0, 300, 200});
+    m_host->setInputRegion(QRect(0, 0, 300, 200));
     m_host->orderFront();
     QVERIFY(QTest::qWaitForWindowExposed(m_panel.get()));
 }
@@ -218,6 +221,34 @@ void KeyboardLoanTest::giveBackKeyboard_afterAShortcutOfAnother_returnsIt()
     m_host->giveBackKeyboard({});
 
     QCOMPARE(keyboardOwner(), m_other->window());
+}
+
+void KeyboardLoanTest::giveBackKeyboard_returnedByAThird_goesToTheLastLender()
+{
+    m_host->takeKeyboard();
+    const OtherProgram third(QRect(0, 600, 200, 200));
+    third.show();
+    third.takeKeyboard();
+    QTRY_VERIFY(!m_panel->isActive());
+    third.focus(native());
+    QTRY_VERIFY(m_panel->isActive());
+
+    m_host->giveBackKeyboard({});
+
+    QCOMPARE(keyboardOwner(), m_other->window());
+}
+
+void KeyboardLoanTest::keyboardOfAClosedPanel_isPassedOn()
+{
+    m_host->takeKeyboard();
+    const OtherProgram third(QRect(0, 600, 200, 200));
+    third.show();
+    third.takeKeyboard();
+    m_host->setInputRegion({});
+
+    third.focus(native());
+
+    QTRY_COMPARE(keyboardOwner(), m_other->window());
 }
 
 QTEST_MAIN(KeyboardLoanTest)

@@ -49,8 +49,8 @@ void KeyboardWithWindowManagerTest::init()
     m_panel = std::make_unique<QWindow>();
     m_host = std::make_unique<XcbPanelHost>();
     m_host->adopt(*m_panel);
-    m_host->setInputRegion(QRect(0, 0, 300, 200));
     m_host->place({600, 0, 300, 200});
+    m_host->setInputRegion(QRect(0, 0, 300, 200));
     m_host->orderFront();
     QVERIFY(QTest::qWaitForWindowExposed(m_panel.get()));
     m_another = shownAt({800, 400});
