@@ -19,6 +19,8 @@
 #include <QQuickItem>
 #include <QSurfaceFormat>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace quib {
@@ -40,10 +42,20 @@ NotchPanel::NotchPanel(const ViewContext& context, PanelHost& host)
     m_afterPress.setSingleShot(true);
     connect(&m_afterPress, &QTimer::timeout, this, [this] { takeKeyboardForText(m_press); });
     m_host.adopt(*this);
-    const auto* shape = rootObject()->findChild<NotchShape*>();
-    const auto follow = [this, shape] { m_host.setVisibleShape(shape->pathInScene()); };
-    connect(shape, &NotchShape::pathChanged, this, follow);
-    follow();
+    followShape(*rootObject()->findChild<NotchShape*>());
+}
+
+/// Told right before each frame is on the screen: width, height and radius change one by one.
+void NotchPanel::followShape(const NotchShape& shape)
+{
+    const auto tell = [this, &shape] {
+        if (!std::exchange(m_isShapeTold, true)) {
+            m_host.setVisibleShape(shape.pathInScene());
+        }
+    };
+    connect(&shape, &NotchShape::pathChanged, this, [this] { m_isShapeTold = false; });
+    connect(this, &QQuickWindow::afterRendering, &shape, tell);
+    tell();
 }
 
 void NotchPanel::mousePressEvent(QMouseEvent* event)

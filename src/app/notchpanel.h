@@ -14,6 +14,7 @@ class FileProbe;
 class IconSource;
 class MediaController;
 class NotchModel;
+class NotchShape;
 class PanelHost;
 class Shortcuts;
 class Store;
@@ -44,11 +45,13 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
+    void followShape(const NotchShape& shape);
     void takeKeyboardForText(QPointF press);
 
     PanelHost& m_host;
     QPointF m_press;
     QTimer m_afterPress; ///< Due once the press has moved the focus.
+    bool m_isShapeTold = false; ///< That of the frame that is drawn next.
     ComposedOnce m_composedOnce{*this};
 };
 
