@@ -68,6 +68,10 @@ int runPanel(char** argv)
     useFont(*delegate.platform().desktop);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &delegate,
                      &AppDelegate::applicationWillTerminate);
+    QObject::connect(delegate.platform().instance.get(), &SingleInstance::superseded, &app, [&] {
+        QObject::disconnect(&app, &QCoreApplication::aboutToQuit, &delegate, nullptr);
+        QCoreApplication::exit();
+    });
     delegate.applicationDidFinishLaunching();
     return QGuiApplication::exec();
 }

@@ -3,6 +3,7 @@
 #include "platform/linux/instancename.h"
 
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QDBusReply>
 
 using namespace Qt::StringLiterals;
@@ -53,22 +54,41 @@ ActivationService::Answer ActivationService::claim(const QString& busName)
     if (!m_bus.isConnected()) {
         return Answer::NoBus;
     }
-    // The object first: whoever finds the name may call at once.
-    auto bus = m_bus.connection();
-    bus.registerObject(objectPath(busName), this, QDBusConnection::ExportScriptableSlots);
-    const QDBusReply<uint> reply = bus.call(requestName(busName), QDBus::Block, PatienceMs);
-    if (reply.isValid() && (reply == PrimaryOwner || reply == AlreadyOwner)) {
-        return Answer::Ours;
-    }
-    bus.unregisterObject(objectPath(busName));
-    return reply.isValid() ? Answer::Taken : Answer::NoBus;
+    offerObject(busName);
+    return takeAnswer(busName,
+                      m_bus.connection().call(requestName(busName), QDBus::Block, PatienceMs));
 }
 
-void ActivationService::reclaim(const QString& busName)
+void ActivationService::startClaim(const QString& busName)
+{
+    offerObject(busName);
+    auto* watcher
+        = new QDBusPendingCallWatcher(m_bus.connection().asyncCall(requestName(busName)), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, busName] {
+        watcher->deleteLater();
+        const auto answer = takeAnswer(busName, watcher->reply());
+        if (answer != Answer::NoBus) {
+            Q_EMIT claimed(answer);
+        }
+    });
+}
+
+/// Before the name is: whoever finds that may call at once.
+void ActivationService::offerObject(const QString& busName)
 {
     auto bus = m_bus.connection();
     bus.registerObject(objectPath(busName), this, QDBusConnection::ExportScriptableSlots);
-    bus.send(requestName(busName));
+}
+
+ActivationService::Answer ActivationService::takeAnswer(const QString& busName,
+                                                        const QDBusReply<uint>& reply) const
+{
+    if (reply.isValid() && (reply == PrimaryOwner || reply == AlreadyOwner)) {
+        return Answer::Ours;
+    }
+    auto bus = m_bus.connection();
+    bus.unregisterObject(objectPath(busName));
+    return reply.isValid() ? Answer::Taken : Answer::NoBus;
 }
 
 void ActivationService::activateOther(const QString& busName) const

@@ -2,6 +2,7 @@
 
 #include "platform/linux/sessionbus.h"
 
+#include <QDBusReply>
 #include <QStringList>
 #include <QVariantMap>
 
@@ -23,8 +24,8 @@ public:
 
     /// Waits for the bus, but not for ever.
     Answer claim(const QString& busName);
-    /// The same name on a bus that came later, or came back; does not wait.
-    void reclaim(const QString& busName);
+    /// The same without waiting: `claimed` tells.
+    void startClaim(const QString& busName);
     /// To the process that has the name. Waits for its answer, but not for ever.
     void activateOther(const QString& busName) const;
 
@@ -38,8 +39,13 @@ public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): slots are wh
 
 Q_SIGNALS:
     void activated();
+    /// The answer to a claim that did not wait. Nothing where the bus went meanwhile.
+    void claimed(quib::ActivationService::Answer answer);
 
 private:
+    void offerObject(const QString& busName);
+    Answer takeAnswer(const QString& busName, const QDBusReply<uint>& reply) const;
+
     const SessionBus& m_bus;
 };
 

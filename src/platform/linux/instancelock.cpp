@@ -93,7 +93,8 @@ bool InstanceLock::claim()
     m_lock = open(path(".lock").constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW,
                   S_IRUSR | S_IWUSR);
     fchmod(m_lock, S_ISVTX | S_IRUSR | S_IWUSR);
-    if (m_lock >= 0 && flock(m_lock, LOCK_EX | LOCK_NB) != 0) {
+    m_isHeld = m_lock >= 0 && flock(m_lock, LOCK_EX | LOCK_NB) == 0;
+    if (m_lock >= 0 && !m_isHeld) {
         return false;
     }
     listen();

@@ -20,6 +20,8 @@ public:
 
     /// True where nobody else has it, also where no folder can hold a lock.
     bool claim();
+    /// False also where no folder can hold a lock.
+    bool isHeld() const { return m_isHeld; }
     /// To the process that has the lock; never waits.
     void knock() const;
 
@@ -34,6 +36,7 @@ private:
     QByteArray m_folder; ///< Empty where there is none that is safe.
     QByteArray m_name;
     int m_lock = -1;
+    bool m_isHeld = false;
     int m_socket = -1;
     std::unique_ptr<QSocketNotifier> m_notifier;
 };

@@ -6,9 +6,9 @@
 
 namespace quib {
 
-/// One running program for each data folder, by a name on the session bus and by a lock: the bus
-/// reaches the desktop, the lock also holds where there is no bus, or no longer. On a bus that
-/// comes later the name is taken then.
+/// One running program for each data folder, by a lock and by a name on the session bus: the lock
+/// answers at once and needs no bus, the name reaches the desktop and whoever has another folder
+/// for locks. It is taken when the bus answers, and again on one that comes back.
 class LinuxInstance final : public SingleInstance {
     Q_OBJECT
 
@@ -18,9 +18,15 @@ public:
     bool claim(const QString& dataFolder) override;
 
 private:
+    bool claimByNameAlone();
+    void takeName();
+    void takeAnswer(ActivationService::Answer answer);
+
     std::shared_ptr<SessionBus> m_bus;
     ActivationService m_service;
+    QString m_name; ///< On the bus.
     std::unique_ptr<InstanceLock> m_lock;
+    bool m_isAnswered = false; ///< By the first bus that was there.
 };
 
 } // namespace quib

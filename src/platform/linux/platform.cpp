@@ -19,9 +19,15 @@
 
 #include <utility>
 
+using namespace std::chrono_literals;
+
 namespace quib {
 
 namespace {
+
+/// Many times what a bus needs to answer. Qt asks once, with the first item that is made, who reads
+/// the screen.
+constexpr auto MomentForTheBus = 50ms;
 
 Platform makeSeamsWithoutDisplay(const std::shared_ptr<SessionBus>& bus)
 {
@@ -58,6 +64,7 @@ Platform makePlatform()
     platform.statusItem = std::make_unique<StatusNotifier>(bus);
     platform.loginItem = std::make_unique<AutostartEntry>();
     platform.quitSignals = std::make_unique<QuitSignals>();
+    bus->wait(MomentForTheBus);
     return platform;
 }
 

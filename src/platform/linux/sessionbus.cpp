@@ -21,7 +21,6 @@ constexpr auto LocalPath = "/org/freedesktop/DBus/Local"_L1; // The connection i
 constexpr auto LocalInterface = "org.freedesktop.DBus.Local"_L1;
 
 constexpr std::string_view Greeting("\0AUTH\r\n", 7); ///< Answered with the ways to log in.
-constexpr auto PatienceAtTheStart = 1s;
 constexpr auto PatienceAtTheEnd = 1s;
 
 QString addressOfTheSession()
@@ -85,9 +84,6 @@ SessionBus::SessionBus(QString address)
     m_wait = std::make_unique<BusWait>(m_address);
     connect(m_wait.get(), &BusWait::isWorthATry, this, &SessionBus::reach);
     reach();
-    if (m_attempt->wait(QDeadlineTimer(PatienceAtTheStart))) {
-        takeConnection();
-    }
 }
 
 SessionBus::~SessionBus()
@@ -97,6 +93,14 @@ SessionBus::~SessionBus()
         m_attempt.release(); // A bus that hangs holds it: the program ends without it. NOLINT
     }
     QDBusConnection::disconnectFromBus(m_name);
+}
+
+bool SessionBus::wait(std::chrono::milliseconds patience)
+{
+    if (m_attempt && m_attempt->wait(QDeadlineTimer(patience))) {
+        takeConnection();
+    }
+    return isConnected();
 }
 
 /// Qt's own thread would wait for a bus that hangs, and with it whoever uses any bus.

@@ -7,13 +7,13 @@
 #include <QObject>
 #include <QThread>
 
+#include <chrono>
 #include <memory>
 
 namespace quib {
 
 /// The user's session bus, by one connection of our own: there as soon as the bus answers, and
-/// again whenever it has come back. A bus that hangs keeps nobody waiting, but the start for a
-/// moment. None is ever started.
+/// again whenever it has come back. A bus that hangs keeps nobody waiting. None is ever started.
 class SessionBus final : public QObject {
     Q_OBJECT
 
@@ -30,6 +30,9 @@ public:
     /// Not connected while there is none.
     const QDBusConnection& connection() const { return m_connection; }
     bool isConnected() const { return m_connection.isConnected(); }
+    /// Until it is connected, or the attempt that is under way has failed; true where it is. For
+    /// those who can do nothing without.
+    bool wait(std::chrono::milliseconds patience);
 
 Q_SIGNALS:
     void connected();

@@ -11,6 +11,8 @@ int main(int argc, char* argv[])
     quib::LinuxInstance instance;
     QObject::connect(&instance, &quib::SingleInstance::activated,
                      [&out] { out << "activated" << Qt::endl; });
+    QObject::connect(&instance, &quib::SingleInstance::superseded,
+                     [&out] { out << "superseded" << Qt::endl; });
     if (!instance.claim(QCoreApplication::arguments().at(1))) {
         out << "refused" << Qt::endl;
         return 0;

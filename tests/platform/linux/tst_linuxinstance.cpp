@@ -1,5 +1,8 @@
+#include "platform/linux/instancename.h"
 #include "support/sendsignal.h"
 
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -11,6 +14,7 @@
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+using namespace quib;
 
 namespace {
 
@@ -31,10 +35,12 @@ public:
 
     QString answer() const { return m_answer; }
 
-    qsizetype activations()
+    qsizetype activations() { return count("activated"); }
+
+    qsizetype count(const QByteArray& word)
     {
         m_told += m_process.readAllStandardOutput();
-        return m_told.count("activated");
+        return m_told.count(word);
     }
 
     void hang() const { sendSignal(m_process.processId(), SIGSTOP); }
@@ -50,6 +56,11 @@ private:
     QString m_answer;
     QByteArray m_told;
 };
+
+bool isOnBus(const QString& name)
+{
+    return QDBusConnection::sessionBus().interface()->isServiceRegistered(name);
+}
 
 } // namespace
 
@@ -72,6 +83,7 @@ private Q_SLOTS:
     void claim_busDiedMeanwhile_activatesTheFirst();
     void claim_noRuntimeFolder_activatesTheFirst();
     void claim_folderOfOthersInTheWay_isAlone();
+    void claim_otherFolderForLocks_isSuperseded();
     void bus_activatesAsDesktopsDo();
 
 private:
@@ -239,6 +251,22 @@ void LinuxInstanceTest::claim_folderOfOthersInTheWay_isAlone()
     QVERIFY(QDir(trap).isEmpty());
 }
 
+void LinuxInstanceTest::claim_otherFolderForLocks_isSuperseded()
+{
+    Start first(folder(u"work"_s), m_withBus);
+    auto environment = m_withBus;
+    environment.insert(u"XDG_RUNTIME_DIR"_s, folder(u"elsewhere"_s));
+    QVERIFY(QDir().mkpath(folder(u"elsewhere"_s)));
+    QVERIFY(QFile::setPermissions(folder(u"elsewhere"_s), QFile::Permissions(0x7000)));
+    QTRY_VERIFY(isOnBus(lockName(folder(u"work"_s))));
+
+    Start second(folder(u"work"_s), environment);
+
+    QTRY_COMPARE(second.count("superseded"), 1);
+    QTRY_COMPARE(first.activations(), 1);
+    QCOMPARE(first.count("superseded"), 0);
+}
+
 void LinuxInstanceTest::bus_activatesAsDesktopsDo()
 {
     Start first(folder(u"data/KorvelQuib"_s), m_withBus);
@@ -251,6 +279,7 @@ void LinuxInstanceTest::bus_activatesAsDesktopsDo()
                                      + arguments);
     };
 
+    QTRY_VERIFY(isOnBus(u"org.korvel.Quib"_s));
     QCOMPARE(call(u"Activate"_s, {u"{}"_s}), 0);
     QTRY_COMPARE(first.activations(), 1);
     QCOMPARE(call(u"Open"_s, {u"['file:///tmp']"_s, u"{}"_s}), 0);
