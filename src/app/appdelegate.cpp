@@ -69,6 +69,9 @@ void AppDelegate::applicationDidFinishLaunching()
     connect(m_platform.desktop.get(), &Desktop::isMotionReducedChanged, this,
             &AppDelegate::followDesktop);
     followDesktop();
+    connect(m_platform.sessionLock.get(), &SessionLock::isLockedChanged, this,
+            &AppDelegate::followLock);
+    followLock();
     setupStatusItem();
 }
 
@@ -92,8 +95,8 @@ void AppDelegate::layout()
 
 void AppDelegate::checkHover()
 {
-    if (m_screen.frame.isEmpty()) {
-        return; // There has been no screen yet.
+    if (m_screen.frame.isEmpty() || m_platform.sessionLock->isLocked()) {
+        return; // There has been no screen yet, or it shows the locker.
     }
     switch (decideHover(tickAt(m_platform.pointer->state()))) {
     case HoverAction::None: return;
@@ -106,6 +109,9 @@ void AppDelegate::checkHover()
 
 void AppDelegate::expand(bool toShelf)
 {
+    if (m_platform.sessionLock->isLocked()) {
+        return;
+    }
     cancelCollapse();
     if (toShelf) {
         m_model.setTab(Tab::Shelf);
@@ -160,6 +166,19 @@ void AppDelegate::followExpansion()
     host.giveBackKeyboard(std::exchange(m_endingClick, std::nullopt));
 }
 
+/// Nobody but the user sees the card. What was to stay open does so again after the unlocking.
+void AppDelegate::followLock()
+{
+    const bool isLocked = m_platform.sessionLock->isLocked();
+    m_calendar.setAsleep(isLocked);
+    if (isLocked) {
+        cancelCollapse();
+        m_model.setExpanded(false);
+    } else if (isKeptOpen()) {
+        expand(false);
+    }
+}
+
 void AppDelegate::followDesktop()
 {
     m_model.setMotionReduced(m_platform.desktop->isMotionReduced());
@@ -177,7 +196,9 @@ void AppDelegate::globalClick(quint32 time)
 void AppDelegate::activate()
 {
     openQuib();
-    m_platform.panelHost->takeKeyboard();
+    if (m_model.isExpanded()) {
+        m_platform.panelHost->takeKeyboard();
+    }
 }
 
 bool AppDelegate::isKeptOpen() const

@@ -77,6 +77,7 @@ private:
     void runCommand(const QString& title);
     void installMouseMonitors();
     void followExpansion();
+    void followLock();
     void followDesktop();
     void globalClick(quint32 time);
     void activate();

@@ -71,8 +71,20 @@ void CalendarController::readAuthorization()
     });
 }
 
+void CalendarController::setAsleep(bool isAsleep)
+{
+    m_isAsleep = isAsleep;
+    if (!isAsleep && std::exchange(m_readsOnWaking, false)) {
+        readAgain();
+    }
+}
+
 void CalendarController::readAgain()
 {
+    if (m_isAsleep) {
+        m_readsOnWaking = true;
+        return;
+    }
     if (m_access == Access::Unknown && !m_wasAnswered) {
         readAuthorization();
     } else {
@@ -97,6 +109,10 @@ void CalendarController::requestAccess()
 void CalendarController::reload()
 {
     if (m_access != Access::Granted) {
+        return;
+    }
+    if (m_isAsleep) {
+        m_readsOnWaking = true;
         return;
     }
     if (std::exchange(m_isReloading, true)) {

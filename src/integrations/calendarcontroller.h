@@ -47,6 +47,8 @@ public:
     /// Does nothing without access. The events stay as they are until the calendars have answered.
     /// Wanted while an answer is due, it follows that.
     void reload();
+    /// While asleep it asks the calendars nothing; what was wanted meanwhile follows on waking.
+    void setAsleep(bool isAsleep);
 
 Q_SIGNALS:
     void eventsChanged();
@@ -69,6 +71,8 @@ private:
     bool m_isAsking = false; ///< Whether we may read, as it stands; not the user.
     bool m_isReloading = false;
     bool m_reloadsAgain = false; ///< Another was wanted meanwhile.
+    bool m_isAsleep = false;
+    bool m_readsOnWaking = false;
     int m_accesses = 0; ///< Tells the answers that were asked for with the access of before.
 };
 

@@ -60,6 +60,7 @@ void MediaController::startPolling()
 void MediaController::stopPolling()
 {
     m_timer.reset();
+    m_afterCommand.reset();
     m_asksAgain = false;
 }
 

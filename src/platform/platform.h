@@ -6,6 +6,7 @@
 #include "app/notch/panelhost.h"
 #include "app/notch/pointersource.h"
 #include "app/notch/screensource.h"
+#include "app/notch/sessionlock.h"
 #include "app/notch/singleinstance.h"
 #include "app/notch/statusitem.h"
 #include "integrations/appcatalog.h"
@@ -25,6 +26,7 @@ struct Platform {
     std::unique_ptr<PointerSource> pointer;
     std::unique_ptr<PanelHost> panelHost;
     std::unique_ptr<SingleInstance> instance;
+    std::unique_ptr<SessionLock> sessionLock;
     std::unique_ptr<Desktop> desktop;
     std::unique_ptr<AppCatalog> applications;
     std::unique_ptr<Opener> opener;

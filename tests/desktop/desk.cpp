@@ -22,6 +22,7 @@ Desk::Desk(Options options)
     QFile::setPermissions(folder(u"runtime"_s),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     setVariable(u"HOME"_s, m_home.path());
+    setVariable(u"DBUS_SYSTEM_BUS_ADDRESS"_s, u"unix:path="_s + folder(u"runtime/nosystem"_s));
     setVariable(u"XDG_RUNTIME_DIR"_s, folder(u"runtime"_s));
     setVariable(u"QUIB_DATA_DIR"_s, dataFolder());
     setVariable(u"QT_SCALE_FACTOR"_s, QString::number(options.scale));

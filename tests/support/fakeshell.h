@@ -64,6 +64,19 @@ public:
     bool claim(const QString& /*dataFolder*/) override { return true; }
 };
 
+class FakeSessionLock final : public quib::SessionLock {
+public:
+    bool isLocked() const override { return m_isLocked; }
+    void setLocked(bool isLocked)
+    {
+        m_isLocked = isLocked;
+        Q_EMIT isLockedChanged();
+    }
+
+private:
+    bool m_isLocked = false;
+};
+
 class FakeDesktop final : public quib::Desktop {
 public:
     bool reduced = false;
@@ -232,6 +245,7 @@ struct FakeShell {
                             .pointer = std::make_unique<FakePointerSource>(),
                             .panelHost = std::make_unique<FakePanelHost>(asked),
                             .instance = std::make_unique<FakeSingleInstance>(),
+                            .sessionLock = std::make_unique<FakeSessionLock>(),
                             .desktop = std::make_unique<FakeDesktop>(),
                             .applications = std::make_unique<FakeAppCatalog>(),
                             .opener = std::make_unique<FakeOpener>(),
@@ -246,6 +260,7 @@ struct FakeShell {
     FakePointerSource& pointer = static_cast<FakePointerSource&>(*platform.pointer);
     FakePanelHost& host = static_cast<FakePanelHost&>(*platform.panelHost);
     FakeSingleInstance& instance = static_cast<FakeSingleInstance&>(*platform.instance);
+    FakeSessionLock& sessionLock = static_cast<FakeSessionLock&>(*platform.sessionLock);
     FakeDesktop& desktop = static_cast<FakeDesktop&>(*platform.desktop);
     FakeAppCatalog& applications = static_cast<FakeAppCatalog&>(*platform.applications);
     FakeOpener& opener = static_cast<FakeOpener&>(*platform.opener);

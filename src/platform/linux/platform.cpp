@@ -1,6 +1,7 @@
 #include "platform/platform.h"
 
 #include "platform/linux/autostartentry.h"
+#include "platform/linux/desktoplock.h"
 #include "platform/linux/diskprobe.h"
 #include "platform/linux/edscalendarstore.h"
 #include "platform/linux/gioappcatalog.h"
@@ -61,6 +62,8 @@ Platform makePlatform()
     platform.filePicker = std::make_unique<PickerProgram>(*panelHost);
     platform.panelHost = std::move(panelHost);
     platform.instance = std::make_unique<LinuxInstance>(bus);
+    platform.sessionLock
+        = std::make_unique<DesktopLock>(bus, std::make_shared<Bus>(systemBusAddress()));
     platform.statusItem = std::make_unique<StatusNotifier>(bus);
     platform.loginItem = std::make_unique<AutostartEntry>();
     platform.quitSignals = std::make_unique<QuitSignals>();

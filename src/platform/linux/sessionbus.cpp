@@ -1,27 +1,15 @@
 #include "platform/linux/sessionbus.h"
 
 #include <QFile>
-#include <QRegularExpression>
-#include <QUuid>
-
-#include <string_view>
-#include <utility>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace quib {
 
 namespace {
 
 constexpr auto Variable = "DBUS_SESSION_BUS_ADDRESS";
-constexpr auto NoAddress = "disabled:"_L1;
-constexpr auto NoConnection = "none"_L1;
-constexpr auto LocalPath = "/org/freedesktop/DBus/Local"_L1; // The connection itself speaks there.
-constexpr auto LocalInterface = "org.freedesktop.DBus.Local"_L1;
-
-constexpr std::string_view Greeting("\0AUTH\r\n", 7); ///< Answered with the ways to log in.
-constexpr auto PatienceAtTheEnd = 1s;
+constexpr auto NoAddress = "disabled:";
 
 QString addressOfTheSession()
 {
@@ -35,123 +23,22 @@ QString addressOfTheSession()
     return u"unix:path="_s + QString::fromLatin1(path.get());
 }
 
-/// The id is of the bus that was there when the session began: no later one is let in with it.
-QString withoutId(QString address)
+/// Whoever looks from now on finds no bus. Before any thread runs that may look.
+QString hiddenAddress()
 {
-    static const QRegularExpression id(u",guid=[^,;]*"_s);
-    return address.remove(id);
-}
-
-/// Other ways would start a bus.
-bool leadsToABus(const QByteArray& address)
-{
-    return !address.contains("autolaunch:")
-        && g_dbus_is_supported_address(address.constData(), nullptr) != FALSE;
-}
-
-/// Whether somebody there speaks as a bus does. Waits for one that hangs to go on.
-bool answers(const QByteArray& address, GCancellable* end)
-{
-    const GOwned<GIOStream> stream(
-        g_dbus_address_get_stream_sync(address.constData(), nullptr, end, nullptr));
-    if (!stream) {
-        return false;
-    }
-    auto* const out = g_io_stream_get_output_stream(stream.get());
-    auto* const in = g_io_stream_get_input_stream(stream.get());
-    char answer = 0;
-    return g_output_stream_write_all(out, Greeting.data(), Greeting.size(), nullptr, end, nullptr)
-        && g_input_stream_read(in, &answer, 1, end, nullptr) > 0;
+    auto address = addressOfTheSession();
+    qputenv(Variable, NoAddress);
+    return address;
 }
 
 } // namespace
 
 SessionBus::SessionBus()
-    : SessionBus(addressOfTheSession())
+    : Bus(hiddenAddress())
 {
-    connect(this, &SessionBus::connected, this, &SessionBus::tellOthers);
-    connect(this, &SessionBus::lost, this, &SessionBus::tellOthers);
-    tellOthers();
-}
-
-SessionBus::SessionBus(QString address)
-    : m_address(withoutId(std::move(address)))
-    , m_connection(NoConnection)
-{
-    if (!leadsToABus(m_address.toLatin1())) {
-        return;
-    }
-    m_wait = std::make_unique<BusWait>(m_address);
-    connect(m_wait.get(), &BusWait::isWorthATry, this, &SessionBus::reach);
-    reach();
-}
-
-SessionBus::~SessionBus()
-{
-    g_cancellable_cancel(m_end.get());
-    if (m_attempt && !m_attempt->wait(QDeadlineTimer(PatienceAtTheEnd))) {
-        m_attempt.release(); // A bus that hangs holds it: the program ends without it. NOLINT
-    }
-    QDBusConnection::disconnectFromBus(m_name);
-}
-
-bool SessionBus::wait(std::chrono::milliseconds patience)
-{
-    if (m_attempt && m_attempt->wait(QDeadlineTimer(patience))) {
-        takeConnection();
-    }
-    return isConnected();
-}
-
-/// Qt's own thread would wait for a bus that hangs, and with it whoever uses any bus.
-void SessionBus::reach()
-{
-    if (m_attempt || isConnected()) {
-        return;
-    }
-    m_name = u"quib "_s + QUuid::createUuid().toString(QUuid::Id128);
-    m_attempt.reset(QThread::create([address = m_address, name = m_name, end = m_end.get()] {
-        if (answers(address.toLatin1(), end)) {
-            QDBusConnection::connectToBus(address, name);
-        }
-    }));
-    connect(m_attempt.get(), &QThread::finished, this, &SessionBus::takeConnection);
-    m_attempt->start();
-}
-
-void SessionBus::takeConnection()
-{
-    if (!m_attempt || !m_attempt->isFinished()) {
-        return;
-    }
-    m_attempt->wait();
-    m_attempt.reset();
-    QDBusConnection connection(m_name);
-    connection.connect({}, LocalPath, LocalInterface, u"Disconnected"_s, this, SLOT(lose()));
-    if (!connection.isConnected()) {
-        QDBusConnection::disconnectFromBus(m_name);
-        m_wait->again();
-        return;
-    }
-    m_wait->stop();
-    m_connection = connection;
-    Q_EMIT connected();
-}
-
-void SessionBus::lose()
-{
-    Q_EMIT lost();
-    m_connection = QDBusConnection(NoConnection);
-    QDBusConnection::disconnectFromBus(m_name);
-    m_wait->again();
-}
-
-void SessionBus::tellOthers() const
-{
-    const auto address = isConnected() ? m_address : QString(NoAddress);
-    if (qEnvironmentVariable(Variable) != address) {
-        qputenv(Variable, address.toLatin1());
-    }
+    connect(this, &SessionBus::connected, this,
+            [this] { qputenv(Variable, address().toLatin1()); });
+    connect(this, &SessionBus::lost, this, [] { qputenv(Variable, NoAddress); });
 }
 
 } // namespace quib

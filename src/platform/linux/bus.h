@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/linux/buswait.h"
+#include "platform/linux/gowned.h"
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QThread>
+
+#include <chrono>
+#include <memory>
+
+namespace quib {
+
+/// Of the bus that all users of the machine share.
+QString systemBusAddress();
+
+/// A message bus, by one connection of our own: there as soon as the bus answers, and again
+/// whenever it has come back. A bus that hangs keeps nobody waiting. None is ever started.
+class Bus : public QObject {
+    Q_OBJECT
+
+public:
+    /// None where the address is empty.
+    explicit Bus(QString address);
+    ~Bus() override;
+    Bus(const Bus&) = delete;
+    Bus& operator=(const Bus&) = delete;
+
+    /// Not connected while there is none.
+    const QDBusConnection& connection() const { return m_connection; }
+    bool isConnected() const { return m_connection.isConnected(); }
+    /// Until it is connected, or the attempt that is under way has failed; true where it is. For
+    /// those who can do nothing without.
+    bool wait(std::chrono::milliseconds patience);
+
+Q_SIGNALS:
+    void connected();
+    void lost();
+
+protected:
+    const QString& address() const { return m_address; }
+
+private Q_SLOTS:
+    void lose();
+
+private: // NOLINT(readability-redundant-access-specifiers): ends the slots
+    void reach();
+    void takeConnection();
+
+    QString m_address;
+    QString m_name; ///< Of the connection.
+    QDBusConnection m_connection;
+    std::unique_ptr<BusWait> m_wait; ///< Null where no bus can come.
+    GOwned<GCancellable> m_end{g_cancellable_new()};
+    std::unique_ptr<QThread> m_attempt; ///< Null unless one is under way.
+};
+
+} // namespace quib
