@@ -21,7 +21,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Covers the screen once, and does not care what comes above it later.
+/// Covers the screen but for the panel, which has come above it.
 class Locker {
 public:
     explicit Locker(const Desk& desk)
@@ -32,6 +32,8 @@ public:
         xcb_create_window(m_server.xcb, XCB_COPY_FROM_PARENT, window, m_server.root, 0, 0, 1600,
                           900, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
                           XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT, values.data());
+        const uint32_t below = XCB_STACK_MODE_BELOW;
+        xcb_configure_window(m_server.xcb, window, XCB_CONFIG_WINDOW_STACK_MODE, &below);
         xcb_map_window(m_server.xcb, window);
         xcb_flush(m_server.xcb);
     }
