@@ -1,4 +1,5 @@
 #include "desk.h"
+#include "reader.h"
 #include "support/soundfile.h"
 
 #include <QTest>
@@ -53,6 +54,7 @@ private Q_SLOTS:
     void back_aSecondStartIsHeard();
     void hung_thePanelWorksAndQuits();
     void hungAtTheStart_thePanelOpensAndWorks();
+    void hungAtTheStart_readersFindThePanel();
     void backHung_thePanelWorks();
 };
 
@@ -132,6 +134,18 @@ void BusTest::hungAtTheStart_thePanelOpensAndWorks()
     QTRY_VERIFY_WITH_TIMEOUT(desk.isOnBus(OwnName), 10'000);
     quib->terminate();
     QVERIFY(quib->waitForFinished(10'000));
+}
+
+void BusTest::hungAtTheStart_readersFindThePanel()
+{
+    Desk desk;
+    Reader reader(desk);
+    desk.hangBus();
+
+    const auto quib = desk.startQuib();
+
+    QCOMPARE(reader.panel().name, u"Korvel Quib"_s);
+    desk.resumeBus();
 }
 
 void BusTest::backHung_thePanelWorks()

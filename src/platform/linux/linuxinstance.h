@@ -13,7 +13,7 @@ class LinuxInstance final : public SingleInstance {
     Q_OBJECT
 
 public:
-    explicit LinuxInstance(std::shared_ptr<SessionBus> bus = std::make_shared<SessionBus>());
+    explicit LinuxInstance(std::shared_ptr<SessionBus> bus);
 
     bool claim(const QString& dataFolder) override;
 

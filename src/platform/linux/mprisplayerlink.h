@@ -16,7 +16,7 @@ class MprisPlayerLink final : public PlayerLink {
     Q_OBJECT
 
 public:
-    explicit MprisPlayerLink(std::shared_ptr<SessionBus> bus = std::make_shared<SessionBus>());
+    explicit MprisPlayerLink(std::shared_ptr<SessionBus> bus);
     ~MprisPlayerLink() override;
     MprisPlayerLink(const MprisPlayerLink&) = delete;
     MprisPlayerLink& operator=(const MprisPlayerLink&) = delete;

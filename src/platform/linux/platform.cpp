@@ -26,9 +26,20 @@ namespace quib {
 
 namespace {
 
-/// Many times what a bus needs to answer. Qt asks once, with the first item that is made, who reads
-/// the screen.
-constexpr auto MomentForTheBus = 50ms;
+constexpr auto MomentForABus = 50ms; ///< Many times what one needs to answer.
+
+/// Qt looks for readers once, with the first item that is made, and by the session bus. Where that
+/// is late they are named to it themselves.
+void awaitReaders(SessionBus& bus)
+{
+    if (bus.wait(MomentForABus)) {
+        return;
+    }
+    const auto address = readersBusAddress();
+    if (Bus(QString::fromLatin1(address)).wait(MomentForABus)) {
+        qputenv("AT_SPI_BUS_ADDRESS", address);
+    }
+}
 
 Platform makeSeamsWithoutDisplay(const std::shared_ptr<SessionBus>& bus)
 {
@@ -67,7 +78,7 @@ Platform makePlatform()
     platform.statusItem = std::make_unique<StatusNotifier>(bus);
     platform.loginItem = std::make_unique<AutostartEntry>();
     platform.quitSignals = std::make_unique<QuitSignals>();
-    bus->wait(MomentForTheBus);
+    awaitReaders(*bus);
     return platform;
 }
 

@@ -15,7 +15,7 @@ class PortalDesktop final : public Desktop {
     Q_OBJECT
 
 public:
-    explicit PortalDesktop(std::shared_ptr<SessionBus> bus = std::make_shared<SessionBus>());
+    explicit PortalDesktop(std::shared_ptr<SessionBus> bus);
     ~PortalDesktop() override;
     PortalDesktop(const PortalDesktop&) = delete;
     PortalDesktop& operator=(const PortalDesktop&) = delete;

@@ -19,7 +19,7 @@ class StatusNotifier final : public StatusItem {
     Q_OBJECT
 
 public:
-    explicit StatusNotifier(std::shared_ptr<SessionBus> bus = std::make_shared<SessionBus>());
+    explicit StatusNotifier(std::shared_ptr<SessionBus> bus);
     ~StatusNotifier() override;
     StatusNotifier(const StatusNotifier&) = delete;
     StatusNotifier& operator=(const StatusNotifier&) = delete;

@@ -1,3 +1,4 @@
+#include "platform/linux/connectedbus.h"
 #include "platform/linux/edscalendarstore.h"
 #include "platform/linux/sessionbus.h"
 
@@ -35,7 +36,7 @@ QJsonObject describe(const CalendarEntry& entry)
 class Commands : public QObject {
 public:
     explicit Commands(const QString& plugin)
-        : m_store(std::make_shared<SessionBus>(), plugin)
+        : m_store(connectedBus(), plugin)
     {
         connect(&m_store, &CalendarStore::changed, this, [] { say(u"changed"_s); });
         connect(&m_input, &QSocketNotifier::activated, this, &Commands::readInput);

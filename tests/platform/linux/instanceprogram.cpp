@@ -8,7 +8,7 @@ int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
     QTextStream out(stdout);
-    quib::LinuxInstance instance;
+    quib::LinuxInstance instance(std::make_shared<quib::SessionBus>());
     QObject::connect(&instance, &quib::SingleInstance::activated,
                      [&out] { out << "activated" << Qt::endl; });
     QObject::connect(&instance, &quib::SingleInstance::superseded,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/linux/connectedbus.h"
 #include "platform/linux/statusfixture.h"
 #include "platform/linux/statusnotifier.h"
 
@@ -14,7 +15,7 @@ namespace quib {
 class ItemOnBus {
 public:
     ItemOnBus()
-        : ItemOnBus(std::make_shared<SessionBus>())
+        : ItemOnBus(connectedBus())
     {
     }
 

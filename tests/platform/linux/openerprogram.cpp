@@ -1,4 +1,5 @@
 #include "platform/linux/autostartentry.h"
+#include "platform/linux/connectedbus.h"
 #include "platform/linux/gioopener.h"
 #include "platform/linux/mprisplayerlink.h"
 
@@ -35,7 +36,7 @@ QString obey(GioOpener& opener, const QStringList& line)
     } else if (command == u"startsAtLogin"_s) {
         return AutostartEntry().isEnabled() ? u"yes"_s : u"no"_s;
     } else if (command == u"launchSpotify"_s) {
-        MprisPlayerLink().launchSpotify();
+        MprisPlayerLink(connectedBus()).launchSpotify();
     } else if (command == u"quit"_s) {
         QCoreApplication::quit();
     }
@@ -83,7 +84,7 @@ int main(int argc, char* argv[])
     qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
     signal(SIGPIPE, SIG_IGN); // As the library of the bus does.
     blockASignal();
-    GioOpener opener(std::make_shared<SessionBus>(), patience());
+    GioOpener opener(connectedBus(), patience());
     QTextStream out(stdout);
     QFile in;
     if (!in.open(STDIN_FILENO, QIODevice::ReadOnly | QIODevice::Unbuffered)) {

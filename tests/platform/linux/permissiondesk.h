@@ -2,6 +2,7 @@
 
 #include "platform/linux/calendardesk.h"
 #include "platform/linux/calendarpermission.h"
+#include "platform/linux/connectedbus.h"
 #include "platform/linux/fakedialog.h"
 
 #include <QTest>
@@ -31,7 +32,7 @@ struct PermissionDesk {
     void startAgain()
     {
         if (!bus) {
-            bus = std::make_shared<quib::SessionBus>(address());
+            bus = connectedBus(address());
         }
         permission = std::make_unique<quib::CalendarPermission>(bus);
     }

@@ -1,3 +1,4 @@
+#include "platform/linux/connectedbus.h"
 #include "platform/linux/statusfixture.h"
 #include "platform/linux/statusnotifier.h"
 
@@ -8,7 +9,7 @@
 int main(int argc, char* argv[])
 {
     const QGuiApplication application(argc, argv);
-    const auto bus = std::make_shared<quib::SessionBus>();
+    const auto bus = connectedBus();
     quib::StatusNotifier item(bus);
     QObject::connect(&item, &quib::StatusItem::chosen, &application, &QCoreApplication::quit);
     item.install(quib::squareIcon());

@@ -1,3 +1,4 @@
+#include "platform/linux/connectedbus.h"
 #include "platform/linux/instancename.h"
 #include "platform/linux/linuxinstance.h"
 #include "platform/linux/mprisplayerlink.h"
@@ -69,7 +70,7 @@ void BusReturnsTest::init()
 {
     m_private = std::make_unique<PrivateBus>(QString::fromLatin1(QTest::currentTestFunction()));
     QVERIFY(m_private->start());
-    m_bus = std::make_shared<SessionBus>(m_private->address());
+    m_bus = connectedBus(m_private->address());
     QTRY_VERIFY(m_bus->isConnected());
 }
 

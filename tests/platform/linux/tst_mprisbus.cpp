@@ -1,3 +1,4 @@
+#include "platform/linux/connectedbus.h"
 #include "platform/linux/mprisplayerlink.h"
 #include "platform/linux/privatebus.h"
 #include "support/playerreply.h"
@@ -59,7 +60,7 @@ void MprisBusTest::startPlayer()
 void MprisBusTest::playerJustGone_isNotStartedAgain()
 {
     startPlayer();
-    MprisPlayerLink link(std::make_shared<SessionBus>(m_bus->address()));
+    MprisPlayerLink link(connectedBus(m_bus->address()));
     QTRY_VERIFY(link.isRunning(Player::Spotify));
 
     m_player->kill();
@@ -73,7 +74,7 @@ void MprisBusTest::playerJustGone_isNotStartedAgain()
 
 void MprisBusTest::asking_startsNoPlayer()
 {
-    MprisPlayerLink link(std::make_shared<SessionBus>(m_bus->address()));
+    MprisPlayerLink link(connectedBus(m_bus->address()));
 
     QCOMPARE(replyOf(link, Player::Spotify), QString());
     link.send(Player::Spotify, u"playpause"_s);
@@ -85,7 +86,7 @@ void MprisBusTest::asking_startsNoPlayer()
 void MprisBusTest::busDies_weLiveOn()
 {
     startPlayer();
-    MprisPlayerLink link(std::make_shared<SessionBus>(m_bus->address()));
+    MprisPlayerLink link(connectedBus(m_bus->address()));
     QTRY_VERIFY(link.isRunning(Player::Spotify));
 
     m_bus->die();

@@ -1,3 +1,4 @@
+#include "platform/linux/connectedbus.h"
 #include "platform/linux/fakeplayer.h"
 #include "platform/linux/mprisplayerlink.h"
 #include "support/playerreply.h"
@@ -35,7 +36,7 @@ private Q_SLOTS:
 
 void MprisPlayerLinkTest::query_noPlayer_givesNothingLater()
 {
-    MprisPlayerLink link;
+    MprisPlayerLink link(connectedBus());
     int answers = 0;
 
     link.query(Player::Spotify, [&answers](const QString& reply) {
@@ -54,7 +55,7 @@ void MprisPlayerLinkTest::query_hungPlayer_keepsNobodyWaiting()
     QVERIFY(process.waitForReadyRead());
     FakePlayer other(u"example"_s);
     QVERIFY(other.start());
-    MprisPlayerLink link;
+    MprisPlayerLink link(connectedBus());
     QTRY_VERIFY(link.isRunning(Player::Spotify));
     Texts answers;
     const auto note = [&answers](const QString& reply) { answers << reply; };
@@ -78,7 +79,7 @@ void MprisPlayerLinkTest::query_playerDies_givesNothing()
     QProcess process;
     process.start(QStringLiteral(PLAYER_PROGRAM), {u"spotify"_s});
     QVERIFY(process.waitForReadyRead());
-    MprisPlayerLink link;
+    MprisPlayerLink link(connectedBus());
     QTRY_VERIFY(link.isRunning(Player::Spotify));
 
     Texts answers;
@@ -96,7 +97,7 @@ void MprisPlayerLinkTest::query_linkEnds_neverAnswers()
 {
     FakePlayer player(u"example"_s);
     QVERIFY(player.start());
-    auto link = std::make_unique<MprisPlayerLink>();
+    auto link = std::make_unique<MprisPlayerLink>(connectedBus());
     QTRY_VERIFY(link->isRunning(Player::Music));
     int answers = 0;
     const auto count = [&answers](const QString& /*reply*/) { ++answers; };
@@ -106,7 +107,7 @@ void MprisPlayerLinkTest::query_linkEnds_neverAnswers()
     link.reset();
 
     QTRY_COMPARE(player.calls, Texts(u"GetAll"_s));
-    MprisPlayerLink another;
+    MprisPlayerLink another(connectedBus());
     QTRY_VERIFY(another.isRunning(Player::Music)); // What was sent before has arrived.
     QCOMPARE(answers, 0);
 }
@@ -127,7 +128,7 @@ void MprisPlayerLinkTest::send_callsThePlayer()
     QFETCH(const QString, method);
     FakePlayer player(u"example"_s);
     QVERIFY(player.start());
-    MprisPlayerLink link;
+    MprisPlayerLink link(connectedBus());
     QTRY_VERIFY(link.isRunning(Player::Music));
 
     link.send(Player::Spotify, verb);
@@ -139,7 +140,7 @@ void MprisPlayerLinkTest::send_callsThePlayer()
 
 void MprisPlayerLinkTest::isRunning_followsTheBus()
 {
-    MprisPlayerLink link;
+    MprisPlayerLink link(connectedBus());
     const QSignalSpy named(&link, &PlayerLink::playersNamed);
     QTRY_COMPARE(named.size(), 1);
     QVERIFY(!link.isRunning(Player::Spotify));
@@ -159,7 +160,7 @@ void MprisPlayerLinkTest::isRunning_playerThatWasThere_onceThePlayersAreNamed()
     FakePlayer player(u"example"_s);
     QVERIFY(player.start());
 
-    MprisPlayerLink link;
+    MprisPlayerLink link(connectedBus());
     const QSignalSpy named(&link, &PlayerLink::playersNamed);
     QVERIFY(!link.isRunning(Player::Music));
     QTRY_COMPARE(named.size(), 1);
@@ -176,7 +177,7 @@ void MprisPlayerLinkTest::spotify_inAProcessOfItsOwn_isAskedBesideAnother()
     FakePlayer other(u"amarok"_s);
     other.setTitle(u"Other"_s);
     QVERIFY(other.start());
-    MprisPlayerLink link;
+    MprisPlayerLink link(connectedBus());
     QTRY_VERIFY(link.isRunning(Player::Spotify));
 
     QCOMPARE(replyOf(link, Player::Spotify), u"So What||Miles Davis, Bill Evans||playing"_s);
@@ -189,7 +190,7 @@ void MprisPlayerLinkTest::firstPlayer_isKept()
 {
     FakePlayer first(u"vlc"_s);
     QVERIFY(first.start());
-    MprisPlayerLink link;
+    MprisPlayerLink link(connectedBus());
     QTRY_VERIFY(link.isRunning(Player::Music));
     FakePlayer spotify(u"spotify"_s);
     FakePlayer second(u"amarok"_s);
@@ -209,7 +210,7 @@ void MprisPlayerLinkTest::browsersAndDoubles_areNeverCalled()
     FakePlayer twin(u"playerctld"_s);
     FakePlayer phone(u"kdeconnect.mpris_000001"_s);
     QVERIFY(browser.start() && twin.start() && phone.start());
-    MprisPlayerLink link;
+    MprisPlayerLink link(connectedBus());
     const QSignalSpy named(&link, &PlayerLink::playersNamed);
     QTRY_COMPARE(named.size(), 1);
 

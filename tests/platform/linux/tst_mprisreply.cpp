@@ -1,3 +1,4 @@
+#include "platform/linux/connectedbus.h"
 #include "platform/linux/fakeplayer.h"
 #include "platform/linux/mprisplayerlink.h"
 #include "support/playerreply.h"
@@ -77,7 +78,7 @@ void MprisReplyTest::query_givesWhatPlays()
     FakePlayer player(u"example"_s);
     player.properties = properties;
     QVERIFY(player.start());
-    MprisPlayerLink link;
+    MprisPlayerLink link(connectedBus());
     QTRY_VERIFY(link.isRunning(Player::Music));
 
     QTEST(replyOf(link, Player::Music), "reply");
@@ -142,7 +143,7 @@ void MprisReplyTest::query_playerRefuses_givesNothing()
     FakePlayer player(u"example"_s);
     player.refuses = true;
     QVERIFY(player.start());
-    MprisPlayerLink link;
+    MprisPlayerLink link(connectedBus());
     QTRY_VERIFY(link.isRunning(Player::Music));
 
     QCOMPARE(replyOf(link, Player::Music), QString());

@@ -1,4 +1,5 @@
 #include "integrations/mediacontroller.h"
+#include "platform/linux/connectedbus.h"
 #include "platform/linux/fakeplayer.h"
 #include "platform/linux/mprisplayerlink.h"
 #include "support/handclock.h"
@@ -107,7 +108,7 @@ void MprisTrafficTest::init()
 {
     m_player = std::make_unique<FakePlayer>(u"example"_s);
     QVERIFY(m_player->start());
-    const auto bus = std::make_shared<SessionBus>();
+    const auto bus = connectedBus();
     m_monitor = std::make_unique<BusMonitor>(bus->connection());
     QVERIFY(m_monitor->start());
     m_time = std::make_unique<HandClock>();

@@ -1,3 +1,4 @@
+#include "platform/linux/connectedbus.h"
 #include "platform/linux/portaldesktop.h"
 #include "platform/platform.h"
 
@@ -155,7 +156,7 @@ void PortalDesktopTest::isMotionReduced()
     m_portal->settings = settings;
     QVERIFY(m_portal->start());
 
-    const PortalDesktop desktop;
+    const PortalDesktop desktop(connectedBus());
     QTRY_COMPARE(m_portal->questions, 1);
 
     QTEST(QTest::qWaitFor([&desktop] { return desktop.isMotionReduced(); }, 50), "isReduced");
@@ -163,7 +164,7 @@ void PortalDesktopTest::isMotionReduced()
 
 void PortalDesktopTest::isMotionReduced_noPortal_isFalse()
 {
-    const PortalDesktop desktop;
+    const PortalDesktop desktop(connectedBus());
     QTest::qWait(0);
 
     QVERIFY(!desktop.isMotionReduced());
@@ -174,7 +175,7 @@ void PortalDesktopTest::isMotionReduced_hungPortal_isFalse()
     m_portal->isHung = true;
     QVERIFY(m_portal->start());
 
-    const PortalDesktop desktop;
+    const PortalDesktop desktop(connectedBus());
     QTRY_COMPARE(m_portal->questions, 1);
 
     QVERIFY(!desktop.isMotionReduced());
@@ -185,7 +186,7 @@ void PortalDesktopTest::isMotionReduced_untilTheAnswer_isFalse()
     m_portal->settings[Interface][Animations] = false;
     QVERIFY(m_portal->start());
 
-    const PortalDesktop desktop;
+    const PortalDesktop desktop(connectedBus());
 
     QVERIFY(!desktop.isMotionReduced());
     QTRY_VERIFY(desktop.isMotionReduced());
@@ -194,7 +195,7 @@ void PortalDesktopTest::isMotionReduced_untilTheAnswer_isFalse()
 void PortalDesktopTest::isMotionReduced_portalStartsLater_asksIt()
 {
     m_portal->settings[Interface][Animations] = false;
-    const PortalDesktop desktop;
+    const PortalDesktop desktop(connectedBus());
     QTest::qWait(0);
 
     QVERIFY(m_portal->start());
@@ -205,7 +206,7 @@ void PortalDesktopTest::isMotionReduced_portalStartsLater_asksIt()
 void PortalDesktopTest::isMotionReduced_followsChanges()
 {
     QVERIFY(m_portal->start());
-    const PortalDesktop desktop;
+    const PortalDesktop desktop(connectedBus());
     QSignalSpy changes(&desktop, &Desktop::isMotionReducedChanged);
     QTRY_COMPARE(m_portal->questions, 1);
 
@@ -220,7 +221,7 @@ void PortalDesktopTest::isMotionReduced_followsChanges()
 void PortalDesktopTest::isMotionReducedChanged_onlyWhenItChanges()
 {
     QVERIFY(m_portal->start());
-    const PortalDesktop desktop;
+    const PortalDesktop desktop(connectedBus());
     QSignalSpy changes(&desktop, &Desktop::isMotionReducedChanged);
     QTRY_COMPARE(m_portal->questions, 1);
 
@@ -262,7 +263,7 @@ void PortalDesktopTest::iconTheme_isTheUsersChoice()
 void PortalDesktopTest::fontFamily_withoutADesktop_isInter()
 {
     QVERIFY2(QFontDatabase::hasFamily(u"Inter"_s), "Inter is not installed");
-    const PortalDesktop desktop;
+    const PortalDesktop desktop(connectedBus());
 
     QCOMPARE(desktop.fontFamily(), u"Inter"_s);
 }

@@ -1,3 +1,4 @@
+#include "platform/linux/connectedbus.h"
 #include "platform/linux/mprisplayerlink.h"
 #include "support/playerreply.h"
 #include "support/sendsignal.h"
@@ -54,7 +55,7 @@ void RealPlayerTest::init()
 {
     QVERIFY2(QFile::exists(u"/usr/lib/mpv-mpris/mpris.so"_s), "mpv-mpris is not installed");
     m_folder = std::make_unique<QTemporaryDir>();
-    m_link = std::make_unique<MprisPlayerLink>();
+    m_link = std::make_unique<MprisPlayerLink>(connectedBus());
 }
 
 void RealPlayerTest::cleanup()

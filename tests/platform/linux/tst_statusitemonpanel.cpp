@@ -1,4 +1,5 @@
 #include "brand/brand.h"
+#include "platform/linux/connectedbus.h"
 #include "platform/linux/statusfixture.h"
 #include "platform/linux/statusnotifier.h"
 #include "platform/linux/x11/otherprogram.h"
@@ -167,7 +168,7 @@ void StatusItemOnPanelTest::writeSettings() const
 void StatusItemOnPanelTest::init()
 {
     movePointer({800, 600});
-    m_item = std::make_unique<StatusNotifier>();
+    m_item = std::make_unique<StatusNotifier>(connectedBus());
     m_item->install(squareIcon());
     m_item->setMenu(quibMenu());
 }

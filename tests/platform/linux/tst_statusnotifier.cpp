@@ -1,3 +1,4 @@
+#include "platform/linux/connectedbus.h"
 #include "platform/linux/itemonbus.h"
 #include "platform/linux/privatebus.h"
 #include "platform/linux/statuswatcher.h"
@@ -192,7 +193,7 @@ void StatusNotifierTest::isShown_busDies_isFalse()
     QVERIFY(bus.start());
     const WatcherProcess watcher(bus.address());
     const Host host(bus.connection());
-    StatusNotifier item(std::make_shared<SessionBus>(bus.address()));
+    StatusNotifier item(connectedBus(bus.address()));
     item.install(squareIcon());
     QTRY_VERIFY(item.isShown());
     const QSignalSpy changes(&item, &StatusItem::isShownChanged);

@@ -51,6 +51,23 @@ xcb_atom_t atomNamed(xcb_connection_t* connection, std::string_view name)
     return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
 }
 
+QByteArray readersBusAddress()
+{
+    constexpr uint32_t MostWords = 1024;
+    auto* connection = qtConnection();
+    if (connection == nullptr) {
+        return {};
+    }
+    const auto cookie
+        = xcb_get_property(connection, 0, rootWindow(connection),
+                           atomNamed(connection, "AT_SPI_BUS"), XCB_ATOM_STRING, 0, MostWords);
+    const XcbOwned<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(connection, cookie, nullptr));
+    return reply ? QByteArray(static_cast<const char*>(xcb_get_property_value(reply.get())),
+                              xcb_get_property_value_length(reply.get()))
+                 : QByteArray();
+}
+
 xcb_window_t topLevelOf(xcb_window_t window)
 {
     auto* connection = qtConnection();
