@@ -1,5 +1,4 @@
 #include "desk.h"
-#include "reader.h"
 #include "support/soundfile.h"
 
 #include <QTest>
@@ -54,7 +53,6 @@ private Q_SLOTS:
     void back_aSecondStartIsHeard();
     void hung_thePanelWorksAndQuits();
     void hungAtTheStart_thePanelOpensAndWorks();
-    void hungAtTheStart_readersFindThePanel();
     void backHung_thePanelWorks();
 };
 
@@ -134,18 +132,6 @@ void BusTest::hungAtTheStart_thePanelOpensAndWorks()
     QTRY_VERIFY_WITH_TIMEOUT(desk.isOnBus(OwnName), 10'000);
     quib->terminate();
     QVERIFY(quib->waitForFinished(10'000));
-}
-
-void BusTest::hungAtTheStart_readersFindThePanel()
-{
-    Desk desk;
-    Reader reader(desk);
-    desk.hangBus();
-
-    const auto quib = desk.startQuib();
-
-    QCOMPARE(reader.panel().name, u"Korvel Quib"_s);
-    desk.resumeBus();
 }
 
 void BusTest::backHung_thePanelWorks()

@@ -26,19 +26,14 @@ namespace quib {
 
 namespace {
 
-constexpr auto MomentForABus = 50ms; ///< Many times what one needs to answer.
+// Many times what a bus needs to answer; nobody notices either.
+constexpr auto MomentForTheBus = 50ms;
+constexpr auto MomentForReaders = 250ms;
 
-/// Qt looks for readers once, with the first item that is made, and by the session bus. Where that
-/// is late they are named to it themselves.
+/// Qt looks for screen readers by the session bus and once, with the first item that is made.
 void awaitReaders(SessionBus& bus)
 {
-    if (bus.wait(MomentForABus)) {
-        return;
-    }
-    const auto address = readersBusAddress();
-    if (Bus(QString::fromLatin1(address)).wait(MomentForABus)) {
-        qputenv("AT_SPI_BUS_ADDRESS", address);
-    }
+    bus.wait(hasServiceForReaders() ? MomentForReaders : MomentForTheBus);
 }
 
 Platform makeSeamsWithoutDisplay(const std::shared_ptr<SessionBus>& bus)

@@ -51,21 +51,17 @@ xcb_atom_t atomNamed(xcb_connection_t* connection, std::string_view name)
     return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
 }
 
-QByteArray readersBusAddress()
+bool hasServiceForReaders()
 {
-    constexpr uint32_t MostWords = 1024;
     auto* connection = qtConnection();
     if (connection == nullptr) {
-        return {};
+        return false;
     }
-    const auto cookie
-        = xcb_get_property(connection, 0, rootWindow(connection),
-                           atomNamed(connection, "AT_SPI_BUS"), XCB_ATOM_STRING, 0, MostWords);
+    const auto cookie = xcb_get_property(connection, 0, rootWindow(connection),
+                                         atomNamed(connection, "AT_SPI_BUS"), XCB_ATOM_ANY, 0, 0);
     const XcbOwned<xcb_get_property_reply_t> reply(
         xcb_get_property_reply(connection, cookie, nullptr));
-    return reply ? QByteArray(static_cast<const char*>(xcb_get_property_value(reply.get())),
-                              xcb_get_property_value_length(reply.get()))
-                 : QByteArray();
+    return reply && reply->type != XCB_ATOM_NONE;
 }
 
 xcb_window_t topLevelOf(xcb_window_t window)

@@ -39,9 +39,8 @@ xcb_window_t rootWindow(xcb_connection_t* connection);
 /// Asks the server: for start-up.
 xcb_atom_t atomNamed(xcb_connection_t* connection, std::string_view name);
 
-/// Where the readers of this screen are to be reached, as their service has written it on the root;
-/// empty where it has not. Asks the server.
-QByteArray readersBusAddress();
+/// Whether the service runs that brings screen readers and programs together. Asks the server.
+bool hasServiceForReaders();
 
 /// The window itself, or the frame that a window manager has put around it; none when it is gone.
 xcb_window_t topLevelOf(xcb_window_t window);
