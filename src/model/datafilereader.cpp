@@ -1,11 +1,10 @@
 #include "model/datafile.h"
 #include "model/isodate.h"
+#include "model/json.h"
 #include "model/utf8.h"
 #include "model/uuidtext.h"
 
 #include <QFile>
-
-#include <simdjson.h>
 
 #include <algorithm>
 
@@ -16,7 +15,6 @@ namespace {
 namespace dom = simdjson::dom;
 
 constexpr auto Padding = static_cast<qsizetype>(simdjson::SIMDJSON_PADDING);
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
 // Each readValue() puts a value of exactly its type into the last argument, or says false.
 
@@ -152,20 +150,12 @@ bool readWorkspace(const dom::object& object, QuibData& out)
 
 std::optional<QuibData> decodeQuibData(const QByteArray& bytes)
 {
-    const bool mustCopy = bytes.capacity() - bytes.size() < Padding;
-    std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    if (text.starts_with(ByteOrderMark)) {
-        text.remove_prefix(ByteOrderMark.size());
-    }
-
     dom::parser parser;
     dom::object object;
     QuibData data;
-    const auto error = parser.parse(text.data(), text.size(), mustCopy).get_object().get(object);
-    if (error || !readWorkspace(object, data)) {
-        return {};
-    }
-    return data;
+    const bool isRead
+        = !parseJson(parser, bytes).get_object().get(object) && readWorkspace(object, data);
+    return isRead ? std::optional(std::move(data)) : std::nullopt;
 }
 
 std::optional<QuibData> loadQuibData(const QString& path)

@@ -1,18 +1,15 @@
 #include "shortcuts/shortcutconfig.h"
 
+#include "model/json.h"
 #include "model/utf8.h"
 
 #include <QHashFunctions>
-
-#include <simdjson.h>
 
 namespace quib {
 
 namespace {
 
 namespace dom = simdjson::dom;
-
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
 std::optional<QString> textOf(dom::element value)
 {
@@ -83,14 +80,10 @@ size_t qHash(const ShortcutGroup& group, size_t seed)
 
 std::optional<ShortcutConfig> decodeShortcuts(const QByteArray& json)
 {
-    std::string_view text(json.constData(), static_cast<std::size_t>(json.size()));
-    if (text.starts_with(ByteOrderMark)) {
-        text.remove_prefix(ByteOrderMark.size());
-    }
     dom::parser parser;
     dom::object object;
     ShortcutConfig config;
-    const bool isRead = !parser.parse(text.data(), text.size()).get_object().get(object)
+    const bool isRead = !parseJson(parser, json).get_object().get(object)
         && readList(object, "groups", config.groups, readGroup);
     return isRead ? std::optional(config) : std::nullopt;
 }

@@ -15,7 +15,9 @@ private Q_SLOTS:
     void starter_isLaidOutToBeEdited();
     void optionalMembers_mayBeMissingOrNull_data();
     void optionalMembers_mayBeMissingOrNull();
+    void otherMembers_arePassedOver_data();
     void otherMembers_arePassedOver();
+    void largeNumber_whereNoneBelongs_isAMistake();
     void url_staysAsWritten();
     void equalRecords_haveEqualHashes();
 };
@@ -90,11 +92,35 @@ void ShortcutConfigTest::optionalMembers_mayBeMissingOrNull()
     QVERIFY(!group.buttons.value(0).icon);
 }
 
+void ShortcutConfigTest::otherMembers_arePassedOver_data()
+{
+    QTest::addColumn<QByteArray>("value");
+
+    QTest::addRow("a list") << "[1]"_ba;
+    QTest::addRow("a number beyond 64 bits") << "123456789012345678901234"_ba;
+    QTest::addRow("a number beyond any double") << "1e400"_ba;
+    QTest::addRow("such numbers within") << R"({"a": [1e400, {"b": 123456789012345678901234}]})"_ba;
+}
+
 void ShortcutConfigTest::otherMembers_arePassedOver()
 {
-    const auto read = decodeShortcuts(config(R"(, "more": [1])", R"(, "colour": 2)"));
+    QFETCH(QByteArray, value);
 
-    QCOMPARE(read.value().groups.size(), 1);
+    const auto read = decodeShortcuts(config(R"(, "more": )" + value, R"(, "colour": )" + value));
+
+    QVERIFY(read);
+    QCOMPARE(read->groups.size(), 1);
+    QCOMPARE(read->groups[0].buttons[0].url, u"u"_s);
+}
+
+void ShortcutConfigTest::largeNumber_whereNoneBelongs_isAMistake()
+{
+    for (const auto& number : {"1e400"_ba, "123456789012345678901234"_ba}) {
+        QVERIFY(!decodeShortcuts(config(R"(, "color": )" + number, {})));
+        QVERIFY(!decodeShortcuts(config({}, R"(, "icon": )" + number)));
+        QVERIFY(!decodeShortcuts(R"({"groups": [)" + number + "]}"));
+        QVERIFY(!decodeShortcuts(R"({"groups": )" + number + '}'));
+    }
 }
 
 void ShortcutConfigTest::url_staysAsWritten()

@@ -1,0 +1,39 @@
+#include "model/json.h"
+
+#include "model/largenumbers.h"
+
+#include <algorithm>
+
+namespace quib {
+
+namespace {
+
+constexpr auto Padding = static_cast<qsizetype>(simdjson::SIMDJSON_PADDING);
+constexpr QByteArrayView ByteOrderMark("\xEF\xBB\xBF");
+
+/// The parser reads beyond the text: without room behind it, it takes a copy.
+auto parseAsItStands(simdjson::dom::parser& parser, const QByteArray& bytes)
+{
+    const bool mustCopy = bytes.capacity() - bytes.size() < Padding;
+    const auto marked = bytes.startsWith(ByteOrderMark) ? ByteOrderMark.size() : 0;
+    return parser.parse(bytes.constData() + marked, static_cast<std::size_t>(bytes.size() - marked),
+                        mustCopy);
+}
+
+} // namespace
+
+simdjson::simdjson_result<simdjson::dom::element> parseJson(simdjson::dom::parser& parser,
+                                                            const QByteArray& bytes)
+{
+    const auto size = static_cast<std::size_t>(bytes.size());
+    const auto deepest = std::max(size, simdjson::DEFAULT_MAX_DEPTH); // Takes no memory until used.
+    if (const auto error = parser.allocate(size, deepest)) {
+        return error;
+    }
+    const auto tree = parseAsItStands(parser, bytes);
+    const bool isRead = tree.error() == simdjson::SUCCESS;
+    const auto other = isRead ? std::nullopt : withoutLargeNumbers(bytes);
+    return other ? parseAsItStands(parser, *other) : tree;
+}
+
+} // namespace quib

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <simdjson.h>
+
+namespace quib {
+
+/// Reads a whole text, valid to its last byte and nested however deep, into the parser's tree. A
+/// byte order mark is skipped. A number beyond any double is an empty object in the tree.
+simdjson::simdjson_result<simdjson::dom::element> parseJson(simdjson::dom::parser& parser,
+                                                            const QByteArray& bytes);
+
+} // namespace quib
