@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 
+#include <filesystem>
 #include <optional>
 
 namespace quib {
@@ -16,7 +17,7 @@ std::optional<QByteArray> encodeQuibData(const QuibData& data);
 /// malformed id, date or status makes the whole file unreadable. Of repeated keys the first counts.
 std::optional<QuibData> decodeQuibData(const QByteArray& bytes);
 
-/// The same of a file; absent too when it cannot be read.
-std::optional<QuibData> loadQuibData(const QString& path);
+/// The same of a file; absent too when it can't be read, or is larger than any workspace.
+std::optional<QuibData> loadQuibData(const std::filesystem::path& path);
 
 } // namespace quib

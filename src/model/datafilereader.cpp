@@ -3,10 +3,9 @@
 #include "model/json.h"
 #include "model/utf8.h"
 #include "model/uuidtext.h"
+#include "model/wholefile.h"
 
-#include <QFile>
-
-#include <algorithm>
+#include <new>
 
 namespace quib {
 
@@ -14,7 +13,7 @@ namespace {
 
 namespace dom = simdjson::dom;
 
-constexpr auto Padding = static_cast<qsizetype>(simdjson::SIMDJSON_PADDING);
+constexpr auto LargestFile = qsizetype(512) * 1024 * 1024; // Two million entries.
 
 // Each readValue() puts a value of exactly its type into the last argument, or says false.
 
@@ -158,17 +157,14 @@ std::optional<QuibData> decodeQuibData(const QByteArray& bytes)
     return isRead ? std::optional(std::move(data)) : std::nullopt;
 }
 
-std::optional<QuibData> loadQuibData(const QString& path)
+std::optional<QuibData> loadQuibData(const std::filesystem::path& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        return {};
+    try {
+        const auto bytes = wholeFile(path, LargestFile);
+        return bytes ? decodeQuibData(*bytes) : std::nullopt;
+    } catch (const std::bad_alloc&) {
+        return std::nullopt; // Less memory is to be had than the file needs.
     }
-    QByteArray bytes;
-    bytes.reserve(file.size() + Padding); // Spares the parser a copy of it all.
-    bytes.resize(file.size());
-    bytes.resize(std::max<qint64>(file.read(bytes.data(), bytes.size()), 0));
-    return decodeQuibData(bytes);
 }
 
 } // namespace quib

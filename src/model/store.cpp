@@ -4,6 +4,7 @@
 #include "model/datafile.h"
 #include "model/datafolder.h"
 #include "model/fileaddress.h"
+#include "model/nativepath.h"
 #include "model/sampledata.h"
 
 #include <algorithm>
@@ -41,7 +42,7 @@ Store::Store(Surroundings surroundings, QObject* parent)
 {
     const auto path = dataFile();
     removeLeftovers(path);
-    auto loaded = loadQuibData(path);
+    auto loaded = loadQuibData(nativePath(path));
     m_data = loaded ? *std::move(loaded)
                     : sampleData(m_surroundings.clock(), m_surroundings.findApplication);
     entriesWereReplaced();

@@ -2,10 +2,11 @@
 
 #include "model/atomicfile.h"
 #include "model/datafolder.h"
+#include "model/nativepath.h"
+#include "model/wholefile.h"
 #include "shortcuts/startertext.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -14,18 +15,15 @@ namespace quib {
 
 namespace {
 
-constexpr auto LargestFile
-    = qint64(16) * 1024 * 1024; // No hand writes as much; more may be endless.
+constexpr auto LargestFile = qsizetype(16) * 1024 * 1024; // No hand writes as much.
 
 const auto Problem = u"shortcuts.json has a typo, so these are the last working buttons. Check for "
                      "a missing comma or quote."_s;
 
 std::optional<ShortcutConfig> load(const QString& path)
 {
-    QFile file(path);
-    const bool isFile = QFileInfo(path).isFile() && file.size() <= LargestFile;
-    return isFile && file.open(QIODevice::ReadOnly) ? decodeShortcuts(file.readAll())
-                                                    : std::nullopt;
+    const auto bytes = wholeFile(nativePath(path), LargestFile);
+    return bytes ? decodeShortcuts(*bytes) : std::nullopt;
 }
 
 } // namespace

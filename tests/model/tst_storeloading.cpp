@@ -5,6 +5,10 @@
 #include <QFileInfo>
 #include <QTest>
 
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using quib::Store;
@@ -15,6 +19,29 @@ namespace {
 struct Start {
     HandClock hands;
     Store store{{.clock = hands.clock(), .schedule = hands.scheduler()}};
+};
+
+/// A hundred megabytes more than the process has now, for as long as this lives.
+class LittleMemory {
+public:
+    LittleMemory()
+    {
+        QFile pages(u"/proc/self/statm"_s);
+        const bool isKnown
+            = pages.open(QIODevice::ReadOnly) && ::getrlimit(RLIMIT_AS, &m_before) == 0;
+        auto little = m_before;
+        little.rlim_cur = pages.readLine().split(' ').first().toULong() * pageSize() + 100'000'000;
+        if (!isKnown || ::setrlimit(RLIMIT_AS, &little) != 0) {
+            qFatal("memory can't be limited here");
+        }
+    }
+    ~LittleMemory() { ::setrlimit(RLIMIT_AS, &m_before); }
+    Q_DISABLE_COPY_MOVE(LittleMemory)
+
+private:
+    static rlim_t pageSize() { return static_cast<rlim_t>(::sysconf(_SC_PAGESIZE)); }
+
+    rlimit m_before{};
 };
 
 } // namespace
@@ -32,6 +59,10 @@ private Q_SLOTS:
     void loading_announcesAndSavesNothing();
     void folderInTheWay_isNoReasonToFail();
     void dataFolderThatCanNotBeMade_isNoReasonToFail();
+    void fileOfATerabyte_isUnreadable_data();
+    void fileOfATerabyte_isUnreadable();
+    void tooLittleMemory_isNoReasonToFail();
+    void pipeInTheWay_isNotWaitedFor();
     void leftovers_areRemovedAtStart();
     void findApplication_isNotAskedWhenThereIsData();
 };
@@ -152,6 +183,58 @@ void StoreLoadingTest::dataFolderThatCanNotBeMade_isNoReasonToFail()
     QCOMPARE(start.store.data().clients.size(), 3);
     QCOMPARE(start.store.notes(), u"kept in memory"_s);
     QVERIFY(QFileInfo(inTheWay).isFile());
+}
+
+void StoreLoadingTest::fileOfATerabyte_isUnreadable_data()
+{
+    QTest::addColumn<qint64>("size");
+
+    QTest::addRow("a gigabyte") << (qint64(1) << 30);
+    QTest::addRow("a terabyte") << (qint64(1) << 40);
+}
+
+void StoreLoadingTest::fileOfATerabyte_isUnreadable()
+{
+    QFETCH(qint64, size);
+    const DataFolderForTest folder;
+    QFile file(folder.file());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    if (!file.resize(size)) {
+        QSKIP("no file can be as large here");
+    }
+
+    const Start start;
+
+    QCOMPARE(start.store.data().clients.size(), 3);
+    QCOMPARE(QFileInfo(folder.file()).size(), size);
+}
+
+void StoreLoadingTest::tooLittleMemory_isNoReasonToFail()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    QSKIP("the sanitizer ends what finds no memory");
+#endif
+    const DataFolderForTest folder;
+    QFile file(folder.file());
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(400'000'000));
+
+    std::optional<Start> start;
+    {
+        const LittleMemory little;
+        start.emplace();
+    }
+
+    QCOMPARE(start->store.data().clients.size(), 3);
+}
+
+void StoreLoadingTest::pipeInTheWay_isNotWaitedFor()
+{
+    const DataFolderForTest folder;
+    QCOMPARE(::mkfifo(QFile::encodeName(folder.file()).constData(), 0600), 0);
+
+    const Start start; // Runs into the time limit where it waits for a writer.
+
+    QCOMPARE(start.store.data().clients.size(), 3);
 }
 
 void StoreLoadingTest::leftovers_areRemovedAtStart()

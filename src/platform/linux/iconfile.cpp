@@ -1,7 +1,8 @@
 #include "platform/linux/iconfile.h"
 
+#include "model/nativepath.h"
+#include "model/wholefile.h"
 #include "platform/linux/harmlesssvg.h"
-#include "platform/linux/keyfile.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -88,7 +89,7 @@ bool isMarkup(const QByteArray& bytes)
 
 QImage readIcon(const QString& path, int pixels)
 {
-    const auto bytes = smallFile(path, LargestFile);
+    const auto bytes = wholeFile(nativePath(path), LargestFile);
     if (!bytes || isPacked(*bytes)) {
         return {};
     }

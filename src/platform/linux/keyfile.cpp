@@ -1,30 +1,20 @@
 #include "platform/linux/keyfile.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include "model/nativepath.h"
+#include "model/wholefile.h"
 
 namespace quib {
 
 namespace {
 
-constexpr qint64 LargestKeyFile = 1'000'000;
+constexpr qsizetype LargestKeyFile = 1'000'000;
 
 } // namespace
-
-std::optional<QByteArray> smallFile(const QString& path, qint64 largest)
-{
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
-        return std::nullopt;
-    }
-    auto bytes = file.read(largest + 1); // Its size may be a lie.
-    return bytes.size() <= largest ? std::optional(std::move(bytes)) : std::nullopt;
-}
 
 KeyFile::KeyFile(const QString& path)
     : m_file(g_key_file_new())
 {
-    const auto bytes = smallFile(path, LargestKeyFile).value_or(QByteArray());
+    const auto bytes = wholeFile(nativePath(path), LargestKeyFile).value_or(QByteArray());
     g_key_file_load_from_data(m_file.get(), bytes.constData(), static_cast<gsize>(bytes.size()),
                               G_KEY_FILE_NONE, nullptr);
 }

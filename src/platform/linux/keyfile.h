@@ -2,16 +2,10 @@
 
 #include "platform/linux/gowned.h"
 
-#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
-#include <optional>
-
 namespace quib {
-
-/// All of a regular file; absent when it is none, can't be read or is larger than that.
-std::optional<QByteArray> smallFile(const QString& path, qint64 largest);
 
 /// The groups and keys of a desktop entry, or of the index of a theme. A file that is none has
 /// none.

@@ -1,8 +1,9 @@
 #include "platform/linux/sessionentry.h"
 
+#include "model/nativepath.h"
+#include "model/wholefile.h"
 #include "platform/linux/gowned.h"
 
-#include <QFile>
 #include <QStringList>
 
 #include <optional>
@@ -16,14 +17,16 @@ namespace {
 
 constexpr auto Group = G_KEY_FILE_DESKTOP_GROUP;
 constexpr auto GnomeKey = "X-GNOME-Autostart-enabled";
+constexpr qsizetype LargestEntry = 1'000'000;
 
 /// Absent when there is no such file, or it is none of this form.
 GKeyFileOwned readFile(const QString& path)
 {
     GKeyFileOwned file(g_key_file_new());
-    const auto name = QFile::encodeName(path);
-    const bool isRead
-        = g_key_file_load_from_file(file.get(), name.constData(), G_KEY_FILE_NONE, nullptr) == TRUE;
+    const auto bytes = wholeFile(nativePath(path), LargestEntry);
+    const bool isRead = bytes
+        && g_key_file_load_from_data(file.get(), bytes->constData(),
+                                     static_cast<gsize>(bytes->size()), G_KEY_FILE_NONE, nullptr);
     return isRead ? std::move(file) : nullptr;
 }
 

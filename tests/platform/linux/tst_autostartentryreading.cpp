@@ -20,6 +20,7 @@ private Q_SLOTS:
     void isEnabled_linkToNoFile_doesNotCount();
     void isEnabled_whatSomeSessionsPassOver_isNot_data();
     void isEnabled_whatSomeSessionsPassOver_isNot();
+    void isEnabled_fileOfATerabyte_isNot();
     void isEnabled_relativeConfigFolder_isPassedOver();
 
 private:
@@ -129,6 +130,17 @@ void AutostartEntryReadingTest::isEnabled_whatSomeSessionsPassOver_isNot()
     QVERIFY(entry.enable());
 
     QVERIFY(entry.isEnabled());
+}
+
+void AutostartEntryReadingTest::isEnabled_fileOfATerabyte_isNot()
+{
+    m_desk->putEntry(u"config"_s, "[Desktop Entry]\nType=Application\nName=Quib\nExec=true\n");
+    QVERIFY(AutostartEntry().isEnabled());
+    if (!QFile::resize(m_desk->userFile(), qint64(1) << 40)) {
+        QSKIP("no file can be as large here");
+    }
+
+    QVERIFY(!AutostartEntry().isEnabled());
 }
 
 void AutostartEntryReadingTest::isEnabled_relativeConfigFolder_isPassedOver()
