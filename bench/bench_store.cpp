@@ -2,6 +2,7 @@
 
 #include "model/atomicfile.h"
 #include "model/datafile.h"
+#include "model/nativepath.h"
 #include "model/store.h"
 
 #include <QFile>
@@ -39,9 +40,10 @@ private:
 void replace(benchmark::State& state)
 {
     const QTemporaryDir folder(QStringLiteral("./bench_store"));
+    const auto path = quib::nativePath(folder.filePath(QStringLiteral("data.json")));
     const auto bytes = bytesOf(state);
     for (auto _ : state) {
-        quib::replaceFile(folder.filePath(QStringLiteral("data.json")), bytes);
+        quib::replaceFile(path, bytes);
     }
 }
 BENCHMARK(replace)->Apply(entryCounts)->UseRealTime();

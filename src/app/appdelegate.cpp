@@ -57,6 +57,7 @@ QRectF AppDelegate::collapsedRect() const
 
 void AppDelegate::applicationDidFinishLaunching()
 {
+    Store::removeLeftovers();
     Shortcuts::shared().reload();
     m_panel = std::make_unique<NotchPanel>(viewContext(), *m_platform.panelHost);
     layout();

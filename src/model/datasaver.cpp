@@ -3,6 +3,7 @@
 #include "model/atomicfile.h"
 #include "model/datafile.h"
 #include "model/datafolder.h"
+#include "model/nativepath.h"
 
 #include <chrono>
 
@@ -17,7 +18,7 @@ constexpr auto Debounce = 400ms;
 bool write(const QuibData& data)
 {
     const auto bytes = encodeQuibData(data);
-    return bytes && replaceFile(dataFile(), *bytes);
+    return bytes && replaceFile(nativePath(dataFile()), *bytes);
 }
 
 } // namespace

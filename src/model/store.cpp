@@ -1,9 +1,9 @@
 #include "model/store.h"
 
-#include "model/atomicfile.h"
 #include "model/datafile.h"
 #include "model/datafolder.h"
 #include "model/fileaddress.h"
+#include "model/leftovers.h"
 #include "model/nativepath.h"
 #include "model/sampledata.h"
 
@@ -40,9 +40,7 @@ Store::Store(Surroundings surroundings, QObject* parent)
     , m_surroundings(std::move(surroundings))
     , m_saver(m_surroundings.schedule)
 {
-    const auto path = dataFile();
-    removeLeftovers(path);
-    auto loaded = loadQuibData(nativePath(path));
+    auto loaded = loadQuibData(nativePath(dataFile()));
     m_data = loaded ? *std::move(loaded)
                     : sampleData(m_surroundings.clock(), m_surroundings.findApplication);
     entriesWereReplaced();
@@ -197,6 +195,11 @@ void Store::setNotes(const QString& notes)
     }
     m_data.notes = notes;
     announce(&Store::notesChanged);
+}
+
+void Store::removeLeftovers()
+{
+    quib::removeLeftovers(nativePath(dataFile()));
 }
 
 void Store::scheduleSave()

@@ -90,6 +90,8 @@ public:
     /// Where the timesheet was written; absent when it could not be.
     std::optional<QUrl> exportTimesheet() const;
 
+    /// Removes what saves that were killed have left. For the one program that uses the folder.
+    static void removeLeftovers();
     void scheduleSave();
     /// Writes at once what is not on disk yet; waits for a write in progress first.
     void saveNow();

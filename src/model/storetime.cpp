@@ -1,4 +1,5 @@
 #include "model/atomicfile.h"
+#include "model/nativepath.h"
 #include "model/store.h"
 #include "model/timesheet.h"
 
@@ -77,8 +78,8 @@ std::optional<QUrl> Store::exportTimesheet() const
         return {};
     }
     const auto path = *folder + u'/' + timesheetName(now, m_surroundings.locale);
-    return replaceFile(path, timesheetCsv(m_data, now)) ? std::optional(QUrl::fromLocalFile(path))
-                                                        : std::nullopt;
+    const bool isWritten = replaceFile(nativePath(path), timesheetCsv(m_data, now));
+    return isWritten ? std::optional(QUrl::fromLocalFile(path)) : std::nullopt;
 }
 
 bool Store::endRunningEntry()

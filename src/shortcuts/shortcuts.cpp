@@ -43,7 +43,7 @@ void Shortcuts::reload()
 {
     const auto path = file();
     if (!QFileInfo::exists(path)) {
-        replaceFile(path, starterShortcuts());
+        replaceFile(nativePath(path), starterShortcuts());
     }
     if (const auto config = load(path)) {
         setGroups(config->groups);

@@ -1,4 +1,5 @@
 #include "model/atomicfile.h"
+#include "model/nativepath.h"
 #include "support/writefile.h"
 
 #include <QDir>
@@ -7,13 +8,18 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
-using quib::removeLeftovers;
-using quib::replaceFile;
+using quib::nativePath;
 
 namespace {
+
+bool replaceFile(const QString& path, const QByteArray& bytes)
+{
+    return quib::replaceFile(nativePath(path), bytes);
+}
 
 /// A folder with files, read and written by name.
 class Files {
@@ -81,14 +87,10 @@ private Q_SLOTS:
     void replaceFile_missingFolder_saysFalse();
     void replaceFile_folderInTheWay_saysFalse();
     void replaceFile_keepsTheMode();
+    void replaceFile_whatIsNoFile_saysFalse();
     void replaceFile_writesThroughALink();
     void replaceFile_writesThroughALinkToNothing();
     void replaceFile_fullDisk_leavesTheOldFile();
-    void removeLeftovers_onlyOfItsForm_data();
-    void removeLeftovers_onlyOfItsForm();
-    void removeLeftovers_leavesLinksAndFolders();
-    void removeLeftovers_leavesFilesOfOthers();
-    void removeLeftovers_behindALink_areBesideTheTarget();
 };
 
 void AtomicFileTest::replaceFile_writesAllBytes_data()
@@ -150,6 +152,21 @@ void AtomicFileTest::replaceFile_keepsTheMode()
     QCOMPARE(QFile::permissions(files.path(u"data.json"_s)), ownerOnly);
 }
 
+void AtomicFileTest::replaceFile_whatIsNoFile_saysFalse()
+{
+    const Files files;
+    const auto path = files.path(u"data.json"_s);
+    QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    QVERIFY(QFile::link(path, files.path(u"link"_s)));
+    QVERIFY(QFile::link(u"circle"_s, files.path(u"circle"_s)));
+
+    QVERIFY(!replaceFile(path, "new"));
+    QVERIFY(!replaceFile(files.path(u"link"_s), "new"));
+    QVERIFY(!replaceFile(files.path(u"circle"_s), "new"));
+
+    QCOMPARE(files.names(), (QStringList{u"circle"_s, u"data.json"_s, u"link"_s}));
+}
+
 void AtomicFileTest::replaceFile_writesThroughALink()
 {
     const Files files;
@@ -192,75 +209,6 @@ void AtomicFileTest::replaceFile_fullDisk_leavesTheOldFile()
     QCOMPARE(QDir(disk.path({})).entryList(QDir::Files | QDir::Hidden),
              QStringList{u"data.json"_s});
     QVERIFY(replaceFile(path, "fits again"));
-}
-
-void AtomicFileTest::removeLeftovers_onlyOfItsForm_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("removed");
-
-    QTest::addRow("six letters drawn at random") << u"data.json.kQzPwe"_s << true;
-    QTest::addRow("a small letter among capitals") << u"data.json.QQZpWE"_s << true;
-    QTest::addRow("the file itself") << u"data.json"_s << false;
-    QTest::addRow("a copy that somebody made") << u"data.json.backup"_s << false;
-    QTest::addRow("a copy with a capital") << u"data.json.Backup"_s << false;
-    QTest::addRow("a copy in capitals") << u"data.json.BACKUP"_s << false;
-    QTest::addRow("five letters") << u"data.json.kQzPw"_s << false;
-    QTest::addRow("seven letters") << u"data.json.kQzPwef"_s << false;
-    QTest::addRow("a digit") << u"data.json.kQzPw1"_s << false;
-    QTest::addRow("a letter beyond ASCII") << u"data.json.kQzPwé"_s << false;
-    QTest::addRow("another file's") << u"shortcuts.json.kQzPwe"_s << false;
-    QTest::addRow("something in front") << u"my.data.json.kQzPwe"_s << false;
-    QTest::addRow("another dot") << u"data.json.old.kQzPwe"_s << false;
-}
-
-void AtomicFileTest::removeLeftovers_onlyOfItsForm()
-{
-    QFETCH(QString, name);
-    QFETCH(bool, removed);
-    const Files files;
-    files.put(name, "x");
-
-    removeLeftovers(files.path(u"data.json"_s));
-
-    QCOMPARE(!QFile::exists(files.path(name)), removed);
-}
-
-void AtomicFileTest::removeLeftovers_leavesLinksAndFolders()
-{
-    const Files files;
-    files.put(u"precious"_s, "x");
-    QVERIFY(QFile::link(files.path(u"precious"_s), files.path(u"data.json.kQzPwe"_s)));
-    QVERIFY(QDir().mkpath(files.path(u"data.json.pQzPwe"_s)));
-
-    removeLeftovers(files.path(u"data.json"_s));
-
-    QCOMPARE(files.names().size(), 3);
-}
-
-void AtomicFileTest::removeLeftovers_leavesFilesOfOthers()
-{
-    const Files files;
-    files.put(u"data.json.kQzPwe"_s, "x");
-    if (::chown(QFile::encodeName(files.path(u"data.json.kQzPwe"_s)).constData(), 1, 1) != 0) {
-        QSKIP("a file can be given away by root only");
-    }
-
-    removeLeftovers(files.path(u"data.json"_s));
-
-    QVERIFY(QFile::exists(files.path(u"data.json.kQzPwe"_s)));
-}
-
-void AtomicFileTest::removeLeftovers_behindALink_areBesideTheTarget()
-{
-    const Files files;
-    QVERIFY(QDir().mkpath(files.path(u"elsewhere"_s)));
-    files.put(u"elsewhere/real.json.kQzPwe"_s, "x");
-    QVERIFY(QFile::link(u"elsewhere/real.json"_s, files.path(u"data.json"_s)));
-
-    removeLeftovers(files.path(u"data.json"_s));
-
-    QVERIFY(!QFile::exists(files.path(u"elsewhere/real.json.kQzPwe"_s)));
 }
 
 QTEST_GUILESS_MAIN(AtomicFileTest)

@@ -63,7 +63,7 @@ private Q_SLOTS:
     void fileOfATerabyte_isUnreadable();
     void tooLittleMemory_isNoReasonToFail();
     void pipeInTheWay_isNotWaitedFor();
-    void leftovers_areRemovedAtStart();
+    void loading_removesNothing();
     void findApplication_isNotAskedWhenThereIsData();
 };
 
@@ -237,15 +237,17 @@ void StoreLoadingTest::pipeInTheWay_isNotWaitedFor()
     QCOMPARE(start.store.data().clients.size(), 3);
 }
 
-void StoreLoadingTest::leftovers_areRemovedAtStart()
+void StoreLoadingTest::loading_removesNothing()
 {
     const DataFolderForTest folder;
-    QFile leftover(folder.file() + u".kQzPwe"_s);
-    QVERIFY(leftover.open(QIODevice::WriteOnly));
+    const auto leftover = writeFile(folder.path() + u"/.korvel-quib-2147483647-0123456789abcdef"_s,
+                                    "x"); // Of a dead process.
 
     const Start start;
+    QVERIFY(QFile::exists(leftover));
 
-    QVERIFY(!leftover.exists());
+    Store::removeLeftovers();
+    QVERIFY(!QFile::exists(leftover));
 }
 
 void StoreLoadingTest::findApplication_isNotAskedWhenThereIsData()

@@ -1,6 +1,7 @@
 #include "platform/linux/autostartentry.h"
 
 #include "model/atomicfile.h"
+#include "model/nativepath.h"
 #include "platform/linux/gowned.h"
 #include "platform/linux/sessionentry.h"
 
@@ -111,7 +112,7 @@ bool write(const QString& path, const QByteArray& entry)
     if (QFileInfo(path).isSymLink() && !QFile::remove(path)) {
         return false;
     }
-    return QDir().mkpath(QFileInfo(path).path()) && replaceFile(path, entry);
+    return QDir().mkpath(QFileInfo(path).path()) && replaceFile(nativePath(path), entry);
 }
 
 bool remove(const QString& path)
