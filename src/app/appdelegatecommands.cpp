@@ -107,7 +107,8 @@ void AppDelegate::toggleLogin() const
 
 void AppDelegate::editShortcuts()
 {
-    Shortcuts::edit([this](const QString& file) { m_platform.opener->openInTextEditor(file); });
+    Shortcuts::edit(
+        [this](const std::filesystem::path& file) { m_platform.opener->openInTextEditor(file); });
 }
 
 void AppDelegate::showData() const

@@ -1,6 +1,7 @@
 #include "integrations/actions.h"
 
 #include "integrations/opener.h"
+#include "model/nativepath.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -106,7 +107,7 @@ void Actions::open(const QString& target)
         return;
     }
     if (location->isLocalFile()) {
-        m_opener.openPath(location->toLocalFile());
+        m_opener.openPath(nativePath(location->toLocalFile()));
     } else {
         m_opener.openAddress(*location);
     }
@@ -115,7 +116,7 @@ void Actions::open(const QString& target)
 void Actions::openFile(const QString& path)
 {
     if (isPath(path) && path.startsWith(u'/')) {
-        m_opener.openPath(path);
+        m_opener.openPath(nativePath(path));
     }
 }
 

@@ -1,7 +1,7 @@
 #include "model/datafolder.h"
 
-#include <QDir>
-#include <QFile>
+#include "model/nativepath.h"
+
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -12,28 +12,29 @@ namespace {
 
 constexpr auto Override = "QUIB_DATA_DIR";
 
-QString folderPath()
+std::filesystem::path folderPath()
 {
     if (!qEnvironmentVariableIsSet(Override)) {
         const auto home = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-        return home + u"/KorvelQuib"_s;
+        return nativePath(home + u"/KorvelQuib"_s);
     }
-    const auto path = QFile::decodeName(qgetenv(Override));
-    return path.isEmpty() ? u"."_s : path;
+    const auto path = qgetenv(Override);
+    return path.isEmpty() ? "." : path.toStdString();
 }
 
 } // namespace
 
-QString dataFolder()
+std::filesystem::path dataFolder()
 {
     auto path = folderPath();
-    QDir().mkpath(path);
+    std::error_code error;
+    std::filesystem::create_directories(path, error);
     return path;
 }
 
-QString dataFile()
+std::filesystem::path dataFile()
 {
-    return QDir(dataFolder()).filePath(u"data.json"_s);
+    return dataFolder() / "data.json";
 }
 
 } // namespace quib

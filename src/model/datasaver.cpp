@@ -3,7 +3,6 @@
 #include "model/atomicfile.h"
 #include "model/datafile.h"
 #include "model/datafolder.h"
-#include "model/nativepath.h"
 
 #include <chrono>
 
@@ -18,7 +17,7 @@ constexpr auto Debounce = 400ms;
 bool write(const QuibData& data)
 {
     const auto bytes = encodeQuibData(data);
-    return bytes && replaceFile(nativePath(dataFile()), *bytes);
+    return bytes && replaceFile(dataFile(), *bytes);
 }
 
 } // namespace

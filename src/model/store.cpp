@@ -4,7 +4,6 @@
 #include "model/datafolder.h"
 #include "model/fileaddress.h"
 #include "model/leftovers.h"
-#include "model/nativepath.h"
 #include "model/sampledata.h"
 
 #include <algorithm>
@@ -40,13 +39,13 @@ Store::Store(Surroundings surroundings, QObject* parent)
     , m_surroundings(std::move(surroundings))
     , m_saver(m_surroundings.schedule)
 {
-    auto loaded = loadQuibData(nativePath(dataFile()));
+    auto loaded = loadQuibData(dataFile());
     m_data = loaded ? *std::move(loaded)
                     : sampleData(m_surroundings.clock(), m_surroundings.findApplication);
     entriesWereReplaced();
 }
 
-QString Store::folder()
+std::filesystem::path Store::folder()
 {
     return dataFolder();
 }
@@ -199,7 +198,7 @@ void Store::setNotes(const QString& notes)
 
 void Store::removeLeftovers()
 {
-    quib::removeLeftovers(nativePath(dataFile()));
+    quib::removeLeftovers(dataFile());
 }
 
 void Store::scheduleSave()

@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QUrl>
 
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -44,7 +45,7 @@ public:
 
     /// The data folder, made with its parents each time it is asked for; a failure to make it shows
     /// in the use of it.
-    static QString folder();
+    static std::filesystem::path folder();
 
     QDateTime now() const { return m_surroundings.clock(); }
     const UserLocale& locale() const { return m_surroundings.locale; }

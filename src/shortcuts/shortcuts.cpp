@@ -2,12 +2,8 @@
 
 #include "model/atomicfile.h"
 #include "model/datafolder.h"
-#include "model/nativepath.h"
 #include "model/wholefile.h"
 #include "shortcuts/startertext.h"
-
-#include <QDir>
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -20,9 +16,15 @@ constexpr auto LargestFile = qsizetype(16) * 1024 * 1024; // No hand writes as m
 const auto Problem = u"shortcuts.json has a typo, so these are the last working buttons. Check for "
                      "a missing comma or quote."_s;
 
-std::optional<ShortcutConfig> load(const QString& path)
+bool isThere(const std::filesystem::path& path)
 {
-    const auto bytes = wholeFile(nativePath(path), LargestFile);
+    std::error_code error;
+    return std::filesystem::exists(path, error);
+}
+
+std::optional<ShortcutConfig> load(const std::filesystem::path& path)
+{
+    const auto bytes = wholeFile(path, LargestFile);
     return bytes ? decodeShortcuts(*bytes) : std::nullopt;
 }
 
@@ -34,16 +36,16 @@ Shortcuts& Shortcuts::shared()
     return shortcuts;
 }
 
-QString Shortcuts::file()
+std::filesystem::path Shortcuts::file()
 {
-    return QDir(dataFolder()).filePath(u"shortcuts.json"_s);
+    return dataFolder() / "shortcuts.json";
 }
 
 void Shortcuts::reload()
 {
     const auto path = file();
-    if (!QFileInfo::exists(path)) {
-        replaceFile(nativePath(path), starterShortcuts());
+    if (!isThere(path)) {
+        replaceFile(path, starterShortcuts());
     }
     if (const auto config = load(path)) {
         setGroups(config->groups);
@@ -56,10 +58,11 @@ void Shortcuts::reload()
     setProblem(Problem);
 }
 
-void Shortcuts::edit(const std::function<void(const QString& file)>& openInTextEditor)
+void Shortcuts::edit(const std::function<void(const std::filesystem::path& file)>& openInTextEditor)
 {
     shared().reload();
-    openInTextEditor(QFileInfo(file()).absoluteFilePath());
+    std::error_code error;
+    openInTextEditor(std::filesystem::absolute(file(), error));
 }
 
 void Shortcuts::setGroups(const QList<ShortcutGroup>& groups)

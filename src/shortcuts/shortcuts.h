@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+#include <filesystem>
 #include <functional>
 
 namespace quib {
@@ -18,7 +19,7 @@ public:
 
     /// The one of the process, made when first asked for.
     static Shortcuts& shared();
-    static QString file();
+    static std::filesystem::path file();
 
     /// The last buttons that worked; empty before the first reload.
     const QList<ShortcutGroup>& groups() const { return m_groups; }
@@ -28,7 +29,8 @@ public:
     /// Reads the file anew, written first where there is none.
     Q_INVOKABLE void reload();
     /// Reloads the shared ones, so that there is a file, and has it opened.
-    static void edit(const std::function<void(const QString& file)>& openInTextEditor);
+    static void
+    edit(const std::function<void(const std::filesystem::path& file)>& openInTextEditor);
 
 Q_SIGNALS:
     void groupsChanged();

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void login_changedElsewhere_isCheckedWhenTheMenuOpens();
     void editShortcuts_writesTheFileAndOpensIt();
     void showData_opensTheDataFolder();
+    void folderThatIsNoText_isOpenedAsItStands();
     void quit_endsTheEventLoop();
 
     void pick_startsWhereItIsTold();
@@ -214,6 +215,21 @@ void AppDelegateCommandsTest::showData_opensTheDataFolder()
     choose(u"Show Data Folder"_s);
 
     QCOMPARE(m_shell->opener.asked, QStringList{u"open "_s + m_folder->path()});
+}
+
+void AppDelegateCommandsTest::folderThatIsNoText_isOpenedAsItStands()
+{
+    const auto folder = QFile::encodeName(m_folder->path()) + "/caf\xe9";
+    qputenv("QUIB_DATA_DIR", folder);
+
+    choose(u"Show Data Folder"_s);
+    choose(u"Edit Shortcuts…"_s);
+
+    const auto& opened = m_shell->opener.paths;
+    QCOMPARE(opened.size(), 2U);
+    QCOMPARE(opened[0].native(), folder.toStdString());
+    QCOMPARE(opened[1].native(), (folder + "/shortcuts.json").toStdString());
+    QVERIFY(std::filesystem::remove_all(opened[0]) > 1); // Which Qt could not.
 }
 
 void AppDelegateCommandsTest::quit_endsTheEventLoop()

@@ -1,4 +1,5 @@
 #include "model/datafolder.h"
+#include "model/nativepath.h"
 #include "model/store.h"
 
 #include <QDir>
@@ -6,9 +7,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 using quib::dataFile;
 using quib::dataFolder;
+using quib::nativePath;
 
 namespace {
 
@@ -46,6 +51,7 @@ private Q_SLOTS:
     void chosenFolder_leavesTheDataHomeAlone();
     void chosenFolder_isTakenAsItStands_data();
     void chosenFolder_isTakenAsItStands();
+    void bytesThatAreNoText_areAName();
     void folder_isMadeAgainWhenAskedFor();
     void fileInTheWay_isNoReasonToFail();
     void storesFolder_isTheSame();
@@ -55,9 +61,9 @@ void DataFolderTest::withoutChoice_isInTheDataHome()
 {
     const World world;
 
-    QCOMPARE(dataFolder(), world.home.filePath(u"KorvelQuib"_s));
+    QCOMPARE(dataFolder(), nativePath(world.home.filePath(u"KorvelQuib"_s)));
     QVERIFY(QDir(world.home.filePath(u"KorvelQuib"_s)).exists());
-    QCOMPARE(dataFile(), world.home.filePath(u"KorvelQuib/data.json"_s));
+    QCOMPARE(dataFile(), nativePath(world.home.filePath(u"KorvelQuib/data.json"_s)));
 }
 
 void DataFolderTest::chosenFolder_isMadeWithItsParents()
@@ -66,7 +72,7 @@ void DataFolderTest::chosenFolder_isMadeWithItsParents()
     const auto path = world.home.filePath(u"a/b ü/c"_s);
     qputenv("QUIB_DATA_DIR", QFile::encodeName(path));
 
-    QCOMPARE(dataFolder(), path);
+    QCOMPARE(dataFolder(), nativePath(path));
     QVERIFY(QDir(path).exists());
 }
 
@@ -102,17 +108,35 @@ void DataFolderTest::chosenFolder_isTakenAsItStands()
     const World world;
     qputenv("QUIB_DATA_DIR", value);
 
-    QCOMPARE(dataFolder(), folder);
-    QCOMPARE(QDir::cleanPath(QDir().absoluteFilePath(dataFile())), QDir().absoluteFilePath(file));
-    QVERIFY(QDir(dataFolder()).exists());
+    QCOMPARE(dataFolder(), nativePath(folder));
+    QCOMPARE(QDir::cleanPath(QDir().absoluteFilePath(QFile::decodeName(dataFile().c_str()))),
+             QDir().absoluteFilePath(file));
+    QVERIFY(std::filesystem::is_directory(dataFolder()));
+}
+
+void DataFolderTest::bytesThatAreNoText_areAName()
+{
+    const World world;
+    const auto name = "caf\xe9 \xff\xfe"_ba;
+    qputenv("QUIB_DATA_DIR", name);
+
+    QCOMPARE(dataFolder().native(), name.toStdString());
+    QCOMPARE(dataFile().native(), (name + "/data.json").toStdString());
+
+    struct stat facts { };
+    QCOMPARE(::stat(name.constData(), &facts), 0);
+    QVERIFY(S_ISDIR(facts.st_mode));
+    const std::filesystem::directory_iterator found(".");
+    QCOMPARE(std::distance(begin(found), end(found)), 1);
+    QCOMPARE(::rmdir(name.constData()), 0); // Which Qt could not.
 }
 
 void DataFolderTest::folder_isMadeAgainWhenAskedFor()
 {
     const World world;
-    QVERIFY(QDir(dataFolder()).removeRecursively());
+    QVERIFY(std::filesystem::remove_all(dataFolder()) > 0);
 
-    QVERIFY(QDir(dataFolder()).exists());
+    QVERIFY(std::filesystem::is_directory(dataFolder()));
 }
 
 void DataFolderTest::fileInTheWay_isNoReasonToFail()
@@ -122,7 +146,7 @@ void DataFolderTest::fileInTheWay_isNoReasonToFail()
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
 
-    QCOMPARE(dataFolder(), path);
+    QCOMPARE(dataFolder(), nativePath(path));
     QVERIFY(file.exists());
 }
 

@@ -32,7 +32,7 @@ void putFiles(const Day& day, const QString& folder)
     qputenv("QUIB_DATA_DIR", QFile::encodeName(folder));
     writeFile(folder + u"/data.json"_s, quib::encodeQuibData(day.data).value());
     for (const auto& version : day.shortcuts) {
-        writeFile(quib::Shortcuts::file(), version);
+        writeFile(folder + u"/shortcuts.json"_s, version);
         quib::Shortcuts::shared().reload();
     }
 }

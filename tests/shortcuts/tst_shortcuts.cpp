@@ -1,5 +1,6 @@
 #include "shortcuts/shortcuts.h"
 
+#include "model/nativepath.h"
 #include "shortcuts/startertext.h"
 #include "support/datafolderfortest.h"
 #include "support/writefile.h"
@@ -268,15 +269,15 @@ void ShortcutsTest::sameFileAgain_announcesNothing()
 
 void ShortcutsTest::edit_writesAMissingFileAndOpensIt()
 {
-    QString opened;
+    std::filesystem::path opened;
     bool wasThere = false;
 
-    Shortcuts::edit([&](const QString& path) {
+    Shortcuts::edit([&](const std::filesystem::path& path) {
         opened = path;
-        wasThere = QFileInfo::exists(path);
+        wasThere = std::filesystem::exists(path);
     });
 
-    QCOMPARE(opened, file());
+    QCOMPARE(opened, nativePath(file()));
     QVERIFY(wasThere);
     QCOMPARE(Shortcuts::shared().groups().size(), 2);
 }

@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <utility>
+#include <vector>
 
 /// One screen with a bar of 30 points at its top, unless a test says otherwise.
 class FakeScreenSource final : public quib::ScreenSource {
@@ -61,7 +62,7 @@ private:
 
 class FakeSingleInstance final : public quib::SingleInstance {
 public:
-    bool claim(const QString& /*dataFolder*/) override { return true; }
+    bool claim(const std::filesystem::path& /*dataFolder*/) override { return true; }
 };
 
 class FakeSessionLock final : public quib::SessionLock {
@@ -105,8 +106,13 @@ public:
 class FakeOpener final : public quib::Opener {
 public:
     QStringList asked;
+    std::vector<std::filesystem::path> paths; ///< As they stand, also where they are no text.
 
-    void openPath(const QString& path) override { asked << QStringLiteral("open ") + path; }
+    void openPath(const std::filesystem::path& path) override
+    {
+        asked << QStringLiteral("open ") + QString::fromStdString(path.native());
+        paths.push_back(path);
+    }
     void openAddress(const QUrl& address) override
     {
         asked << QStringLiteral("browse ") + QString::fromLatin1(address.toEncoded());
@@ -116,7 +122,11 @@ public:
         asked << QStringLiteral("open %1 with first of %2")
                      .arg(path, candidates.join(QLatin1Char('|')));
     }
-    void openInTextEditor(const QString& path) override { asked << QStringLiteral("edit ") + path; }
+    void openInTextEditor(const std::filesystem::path& path) override
+    {
+        asked << QStringLiteral("edit ") + QString::fromStdString(path.native());
+        paths.push_back(path);
+    }
     void reveal(const QString& path) override { asked << QStringLiteral("reveal ") + path; }
 };
 

@@ -2,6 +2,8 @@
 
 #include <QObject>
 
+#include <filesystem>
+
 namespace quib {
 
 /// One running program for each data folder. Implemented once per platform.
@@ -12,7 +14,7 @@ public:
     /// True when this process is the only one for the folder, now and until it ends, as far as can
     /// be told without waiting. Otherwise the one that runs already has been told to open its
     /// panel. Called once.
-    virtual bool claim(const QString& dataFolder) = 0;
+    virtual bool claim(const std::filesystem::path& dataFolder) = 0;
 
 Q_SIGNALS:
     /// Another start asked for the panel.

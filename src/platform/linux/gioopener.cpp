@@ -1,5 +1,6 @@
 #include "platform/linux/gioopener.h"
 
+#include "model/nativepath.h"
 #include "platform/linux/giolaunch.h"
 
 #include <QDBusMessage>
@@ -22,6 +23,11 @@ namespace {
 
 constexpr auto FileManagerName = "org.freedesktop.FileManager1"_L1;
 constexpr auto FileManagerPath = "/org/freedesktop/FileManager1"_L1;
+
+QByteArray bytesOf(const std::filesystem::path& path)
+{
+    return QByteArray::fromStdString(path.native());
+}
 
 QDBusMessage showItems(const QString& path)
 {
@@ -49,9 +55,9 @@ GioOpener::~GioOpener()
     }
 }
 
-void GioOpener::openPath(const QString& path)
+void GioOpener::openPath(const std::filesystem::path& path)
 {
-    inBackground([path = QFile::encodeName(path)] { launchPath(path); });
+    inBackground([path = bytesOf(path)] { launchPath(path); });
 }
 
 void GioOpener::openAddress(const QUrl& address)
@@ -67,9 +73,9 @@ void GioOpener::openWithFirst(const QString& path, const QStringList& candidates
     inBackground([path = QFile::encodeName(path), names] { launchWithFirst(path, names); });
 }
 
-void GioOpener::openInTextEditor(const QString& path)
+void GioOpener::openInTextEditor(const std::filesystem::path& path)
 {
-    inBackground([path = QFile::encodeName(path)] { launchInTextEditor(path); });
+    inBackground([path = bytesOf(path)] { launchInTextEditor(path); });
 }
 
 void GioOpener::reveal(const QString& path)
@@ -92,7 +98,7 @@ void GioOpener::reveal(const QString& path)
 
 void GioOpener::openFolderOf(const QString& path)
 {
-    openPath(QFileInfo(path).path());
+    openPath(nativePath(QFileInfo(path).path()));
 }
 
 void GioOpener::inBackground(std::function<void()> work)

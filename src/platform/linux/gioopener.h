@@ -31,10 +31,10 @@ public:
     GioOpener(const GioOpener&) = delete;
     GioOpener& operator=(const GioOpener&) = delete;
 
-    void openPath(const QString& path) override;
+    void openPath(const std::filesystem::path& path) override;
     void openAddress(const QUrl& address) override;
     void openWithFirst(const QString& path, const QStringList& candidates) override;
-    void openInTextEditor(const QString& path) override;
+    void openInTextEditor(const std::filesystem::path& path) override;
     void reveal(const QString& path) override;
 
 private:

@@ -1,10 +1,10 @@
 #include "platform/linux/instancename.h"
 
+#include "model/nativepath.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QStandardPaths>
-
-#include <filesystem>
 
 using namespace Qt::StringLiterals;
 
@@ -15,34 +15,35 @@ namespace {
 constexpr auto ApplicationName = "org.korvel.Quib"_L1;
 
 /// Without links and dots, also where the last folders do not exist yet.
-QByteArray canonicalPath(const QString& folder)
+std::filesystem::path canonicalPath(const std::filesystem::path& folder)
 {
-    const auto absolute = QFile::encodeName(QDir::cleanPath(QDir(folder).absolutePath()));
     std::error_code error;
-    const auto path = std::filesystem::weakly_canonical(absolute.toStdString(), error);
-    return error ? absolute : QByteArray::fromStdString(path.string());
+    const auto absolute = std::filesystem::absolute(folder, error);
+    const auto path = std::filesystem::weakly_canonical(absolute, error);
+    const auto found = error ? absolute.lexically_normal() : path;
+    return found.has_filename() ? found : found.parent_path(); // There may be a slash behind it.
 }
 
-QString defaultFolder()
+std::filesystem::path defaultFolder()
 {
     const auto chosen = qEnvironmentVariable("XDG_DATA_HOME");
     const auto dataHome
         = QDir::isAbsolutePath(chosen) ? chosen : QDir::homePath() + "/.local/share"_L1;
-    return dataHome + "/KorvelQuib"_L1;
+    return nativePath(dataHome + "/KorvelQuib"_L1);
 }
 
 } // namespace
 
-QString instanceName(const QString& dataFolder)
+QString instanceName(const std::filesystem::path& dataFolder)
 {
     const auto isDefault = canonicalPath(dataFolder) == canonicalPath(defaultFolder());
     return isDefault ? QString(ApplicationName) : lockName(dataFolder);
 }
 
-QString lockName(const QString& dataFolder)
+QString lockName(const std::filesystem::path& dataFolder)
 {
-    const auto hash
-        = QCryptographicHash::hash(canonicalPath(dataFolder), QCryptographicHash::Sha256);
+    const auto path = QByteArray::fromStdString(canonicalPath(dataFolder).native());
+    const auto hash = QCryptographicHash::hash(path, QCryptographicHash::Sha256);
     // No part of a bus name begins with a digit.
     return ApplicationName + ".d"_L1 + QString::fromLatin1(hash.toHex().left(16));
 }

@@ -22,7 +22,7 @@ LinuxInstance::LinuxInstance(std::shared_ptr<SessionBus> bus)
     connect(&m_service, &ActivationService::claimed, this, &LinuxInstance::takeAnswer);
 }
 
-bool LinuxInstance::claim(const QString& dataFolder)
+bool LinuxInstance::claim(const std::filesystem::path& dataFolder)
 {
     m_name = instanceName(dataFolder);
     m_lock = std::make_unique<InstanceLock>(lockName(dataFolder));

@@ -15,7 +15,7 @@ class LinuxInstance final : public SingleInstance {
 public:
     explicit LinuxInstance(std::shared_ptr<SessionBus> bus);
 
-    bool claim(const QString& dataFolder) override;
+    bool claim(const std::filesystem::path& dataFolder) override;
 
 private:
     bool claimByNameAlone();

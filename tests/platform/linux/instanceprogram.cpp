@@ -13,7 +13,7 @@ int main(int argc, char* argv[])
                      [&out] { out << "activated" << Qt::endl; });
     QObject::connect(&instance, &quib::SingleInstance::superseded,
                      [&out] { out << "superseded" << Qt::endl; });
-    if (!instance.claim(QCoreApplication::arguments().at(1))) {
+    if (!instance.claim(argv[1])) {
         out << "refused" << Qt::endl;
         return 0;
     }

@@ -1,3 +1,4 @@
+#include "model/nativepath.h"
 #include "platform/linux/autostartentry.h"
 #include "platform/linux/connectedbus.h"
 #include "platform/linux/gioopener.h"
@@ -24,13 +25,13 @@ QString obey(GioOpener& opener, const QStringList& line)
 {
     const auto command = line.value(0);
     if (command == u"openPath"_s) {
-        opener.openPath(line.value(1));
+        opener.openPath(nativePath(line.value(1)));
     } else if (command == u"openAddress"_s) {
         opener.openAddress(QUrl(line.value(1)));
     } else if (command == u"openWithFirst"_s) {
         opener.openWithFirst(line.value(1), line.mid(2));
     } else if (command == u"openInTextEditor"_s) {
-        opener.openInTextEditor(line.value(1));
+        opener.openInTextEditor(nativePath(line.value(1)));
     } else if (command == u"reveal"_s) {
         opener.reveal(line.value(1));
     } else if (command == u"startsAtLogin"_s) {

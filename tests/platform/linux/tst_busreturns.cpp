@@ -1,3 +1,4 @@
+#include "model/nativepath.h"
 #include "platform/linux/connectedbus.h"
 #include "platform/linux/instancename.h"
 #include "platform/linux/linuxinstance.h"
@@ -171,8 +172,8 @@ void BusReturnsTest::portal_isAskedAnew()
 void BusReturnsTest::instance_takesItsNameAnew()
 {
     LinuxInstance instance(m_bus);
-    QVERIFY(instance.claim(m_folder.path()));
-    const auto name = instanceName(m_folder.path());
+    QVERIFY(instance.claim(nativePath(m_folder.path())));
+    const auto name = instanceName(nativePath(m_folder.path()));
     QVERIFY(hasOwner(name));
 
     bringBack();
@@ -190,11 +191,11 @@ void BusReturnsTest::instance_claimedWithoutABus_takesItsNameOnceItComes()
     m_private->die();
     QTRY_VERIFY(!m_bus->isConnected());
     LinuxInstance instance(m_bus);
-    QVERIFY(instance.claim(m_folder.path()));
+    QVERIFY(instance.claim(nativePath(m_folder.path())));
 
     QVERIFY(m_private->start());
 
-    QTRY_VERIFY(hasOwner(instanceName(m_folder.path())));
+    QTRY_VERIFY(hasOwner(instanceName(nativePath(m_folder.path()))));
 }
 
 QTEST_GUILESS_MAIN(BusReturnsTest)

@@ -1,3 +1,4 @@
+#include "model/nativepath.h"
 #include "platform/linux/instancename.h"
 
 #include <QDir>
@@ -26,7 +27,7 @@ void InstanceNameTest::isPlainForTheUsersOwnFolder()
 {
     qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder.filePath(u"data"_s)));
 
-    const auto name = instanceName(m_folder.filePath(u"data/KorvelQuib"_s));
+    const auto name = instanceName(nativePath(m_folder.filePath(u"data/KorvelQuib"_s)));
 
     qunsetenv("XDG_DATA_HOME");
     QCOMPARE(name, u"org.korvel.Quib"_s);
@@ -34,7 +35,7 @@ void InstanceNameTest::isPlainForTheUsersOwnFolder()
 
 void InstanceNameTest::otherFolder_isAValidBusName()
 {
-    const auto name = instanceName(m_folder.filePath(u"wörk & play"_s));
+    const auto name = instanceName(nativePath(m_folder.filePath(u"wörk & play"_s)));
 
     QVERIFY2(QRegularExpression(u"^org\\.korvel\\.Quib\\.d[0-9a-f]{16}$"_s).match(name).hasMatch(),
              qPrintable(name));
@@ -45,14 +46,15 @@ void InstanceNameTest::isTheSameHoweverThePathIsSpelt()
 {
     QVERIFY(QDir(m_folder.path()).mkdir(u"real"_s));
     QVERIFY(QFile::link(m_folder.filePath(u"real"_s), m_folder.filePath(u"link"_s)));
-    const auto name = instanceName(m_folder.filePath(u"real/new"_s));
+    const auto name = instanceName(nativePath(m_folder.filePath(u"real/new"_s)));
 
-    QCOMPARE(instanceName(m_folder.filePath(u"real/new/"_s)), name);
-    QCOMPARE(instanceName(m_folder.filePath(u"real/../real//new"_s)), name);
-    QCOMPARE(instanceName(m_folder.filePath(u"link/new"_s)), name);
-    QCOMPARE(instanceName(QDir::current().relativeFilePath(m_folder.filePath(u"real/new"_s))),
+    QCOMPARE(instanceName(nativePath(m_folder.filePath(u"real/new/"_s))), name);
+    QCOMPARE(instanceName(nativePath(m_folder.filePath(u"real/../real//new"_s))), name);
+    QCOMPARE(instanceName(nativePath(m_folder.filePath(u"link/new"_s))), name);
+    QCOMPARE(instanceName(
+                 nativePath(QDir::current().relativeFilePath(m_folder.filePath(u"real/new"_s)))),
              name);
-    QVERIFY(instanceName(m_folder.filePath(u"real/newer"_s)) != name);
+    QVERIFY(instanceName(nativePath(m_folder.filePath(u"real/newer"_s))) != name);
 }
 
 QTEST_GUILESS_MAIN(InstanceNameTest)

@@ -1,3 +1,4 @@
+#include "model/nativepath.h"
 #include "platform/linux/instancename.h"
 #include "support/sendsignal.h"
 
@@ -258,7 +259,7 @@ void LinuxInstanceTest::claim_otherFolderForLocks_isSuperseded()
     environment.insert(u"XDG_RUNTIME_DIR"_s, folder(u"elsewhere"_s));
     QVERIFY(QDir().mkpath(folder(u"elsewhere"_s)));
     QVERIFY(QFile::setPermissions(folder(u"elsewhere"_s), QFile::Permissions(0x7000)));
-    QTRY_VERIFY(isOnBus(lockName(folder(u"work"_s))));
+    QTRY_VERIFY(isOnBus(lockName(nativePath(folder(u"work"_s)))));
 
     Start second(folder(u"work"_s), environment);
 
