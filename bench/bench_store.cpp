@@ -43,7 +43,7 @@ void replace(benchmark::State& state)
     const auto path = quib::nativePath(folder.filePath(QStringLiteral("data.json")));
     const auto bytes = bytesOf(state);
     for (auto _ : state) {
-        quib::replaceFile(path, bytes);
+        quib::replaceFile(path, bytes, quib::NewFile::Private);
     }
 }
 BENCHMARK(replace)->Apply(entryCounts)->UseRealTime();

@@ -24,6 +24,15 @@ std::optional<mode_t> modeOf(const std::filesystem::path& path)
     return ::lstat(path.c_str(), &facts) == 0 ? std::optional(facts.st_mode) : std::nullopt;
 }
 
+/// Absent where the umask decides.
+std::optional<mode_t> modeFor(std::optional<mode_t> old, NewFile kind)
+{
+    if (old) {
+        return *old & Permissions;
+    }
+    return kind == NewFile::Private ? std::optional(OwnersAlone) : std::nullopt;
+}
+
 /// A rename outlives a loss of power only once its folder is on disk.
 void syncFolder(const std::filesystem::path& folder)
 {
@@ -33,7 +42,7 @@ void syncFolder(const std::filesystem::path& folder)
 
 } // namespace
 
-bool replaceFile(const std::filesystem::path& path, const QByteArray& bytes)
+bool replaceFile(const std::filesystem::path& path, const QByteArray& bytes, NewFile kind)
 {
     const auto target = linkTarget(path);
     const auto old = modeOf(target);
@@ -41,9 +50,10 @@ bool replaceFile(const std::filesystem::path& path, const QByteArray& bytes)
         return false;
     }
     const auto folder = target.parent_path();
-    TemporaryFile file(folder, old ? OwnersAlone : Everybodys);
-    if (old) {
-        file.setMode(*old & Permissions);
+    const auto mode = modeFor(old, kind);
+    TemporaryFile file(folder, mode ? OwnersAlone : Everybodys);
+    if (mode) {
+        file.setMode(*mode);
     }
     if (!file.write(bytes) || !file.reachesDisk() || !file.takePlaceOf(target)) {
         return false;

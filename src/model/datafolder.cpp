@@ -1,6 +1,7 @@
 #include "model/datafolder.h"
 
 #include "model/nativepath.h"
+#include "model/privatefolder.h"
 
 #include <QStandardPaths>
 
@@ -27,8 +28,7 @@ std::filesystem::path folderPath()
 std::filesystem::path dataFolder()
 {
     auto path = folderPath();
-    std::error_code error;
-    std::filesystem::create_directories(path, error);
+    makePrivateFolder(path);
     return path;
 }
 

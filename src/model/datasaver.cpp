@@ -17,7 +17,7 @@ constexpr auto Debounce = 400ms;
 bool write(const QuibData& data)
 {
     const auto bytes = encodeQuibData(data);
-    return bytes && replaceFile(dataFile(), *bytes);
+    return bytes && replaceFile(dataFile(), *bytes, NewFile::Private);
 }
 
 } // namespace

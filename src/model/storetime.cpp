@@ -78,7 +78,7 @@ std::optional<QUrl> Store::exportTimesheet() const
         return {};
     }
     const auto path = *folder + u'/' + timesheetName(now, m_surroundings.locale);
-    const bool isWritten = replaceFile(nativePath(path), timesheetCsv(m_data, now));
+    const bool isWritten = replaceFile(nativePath(path), timesheetCsv(m_data, now), NewFile::Usual);
     return isWritten ? std::optional(QUrl::fromLocalFile(path)) : std::nullopt;
 }
 

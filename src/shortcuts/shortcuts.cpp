@@ -45,7 +45,7 @@ void Shortcuts::reload()
 {
     const auto path = file();
     if (!isThere(path)) {
-        replaceFile(path, starterShortcuts());
+        replaceFile(path, starterShortcuts(), NewFile::Private);
     }
     if (const auto config = load(path)) {
         setGroups(config->groups);

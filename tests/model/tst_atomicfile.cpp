@@ -1,5 +1,7 @@
 #include "model/atomicfile.h"
 #include "model/nativepath.h"
+#include "support/modeof.h"
+#include "support/umask.h"
 #include "support/writefile.h"
 
 #include <QDir>
@@ -13,12 +15,13 @@
 
 using namespace Qt::StringLiterals;
 using quib::nativePath;
+using quib::NewFile;
 
 namespace {
 
 bool replaceFile(const QString& path, const QByteArray& bytes)
 {
-    return quib::replaceFile(nativePath(path), bytes);
+    return quib::replaceFile(nativePath(path), bytes, NewFile::Private);
 }
 
 /// A folder with files, read and written by name.
@@ -86,6 +89,9 @@ private Q_SLOTS:
     void replaceFile_leavesNothingBeside();
     void replaceFile_missingFolder_saysFalse();
     void replaceFile_folderInTheWay_saysFalse();
+    void newFile_hasItsMode_data();
+    void newFile_hasItsMode();
+    void replaceFile_keepsTheMode_data();
     void replaceFile_keepsTheMode();
     void replaceFile_whatIsNoFile_saysFalse();
     void replaceFile_writesThroughALink();
@@ -139,17 +145,59 @@ void AtomicFileTest::replaceFile_folderInTheWay_saysFalse()
     QCOMPARE(files.names(), QStringList{u"data.json"_s});
 }
 
+void AtomicFileTest::newFile_hasItsMode_data()
+{
+    QTest::addColumn<int>("umask");
+    QTest::addColumn<QByteArray>("ifPrivate");
+    QTest::addColumn<QByteArray>("asUsual");
+
+    QTest::addRow("lets everybody") << 0 << "0600"_ba
+                                    << "0666"_ba;
+    QTest::addRow("as is usual") << 022 << "0600"_ba
+                                 << "0644"_ba;
+    QTest::addRow("lets nobody else") << 077 << "0600"_ba
+                                      << "0600"_ba;
+    QTest::addRow("lets nobody at all") << 0777 << "0600"_ba
+                                        << "00"_ba;
+}
+
+void AtomicFileTest::newFile_hasItsMode()
+{
+    QFETCH(int, umask);
+    const Files files;
+    {
+        const Umask strict(static_cast<mode_t>(umask));
+        QVERIFY(quib::replaceFile(nativePath(files.path(u"a"_s)), "x", NewFile::Private));
+        QVERIFY(quib::replaceFile(nativePath(files.path(u"b"_s)), "x", NewFile::Usual));
+    }
+
+    QTEST(modeOf(files.path(u"a"_s)), "ifPrivate");
+    QTEST(modeOf(files.path(u"b"_s)), "asUsual");
+}
+
+void AtomicFileTest::replaceFile_keepsTheMode_data()
+{
+    QTest::addColumn<int>("mode");
+
+    for (const auto mode : {0600, 0644, 0640, 0664, 0666, 0700, 0755}) {
+        QTest::addRow("%o", static_cast<unsigned>(mode)) << mode;
+    }
+}
+
 void AtomicFileTest::replaceFile_keepsTheMode()
 {
+    QFETCH(int, mode);
     const Files files;
+    const auto path = files.path(u"data.json"_s);
     files.put(u"data.json"_s, "old");
-    const auto ownerOnly
-        = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
-    QVERIFY(QFile::setPermissions(files.path(u"data.json"_s), ownerOnly));
+    QCOMPARE(::chmod(QFile::encodeName(path).constData(), static_cast<mode_t>(mode)), 0);
 
-    QVERIFY(replaceFile(files.path(u"data.json"_s), "new"));
+    for (const auto kind : {NewFile::Private, NewFile::Usual}) {
+        const Umask strict(027);
+        QVERIFY(quib::replaceFile(nativePath(path), "new", kind));
 
-    QCOMPARE(QFile::permissions(files.path(u"data.json"_s)), ownerOnly);
+        QCOMPARE(modeOf(path), '0' + QByteArray::number(mode, 8));
+    }
 }
 
 void AtomicFileTest::replaceFile_whatIsNoFile_saysFalse()

@@ -1,6 +1,8 @@
 #include "model/datafolder.h"
 #include "model/nativepath.h"
 #include "model/store.h"
+#include "support/modeof.h"
+#include "support/umask.h"
 
 #include <QDir>
 #include <QFile>
@@ -52,6 +54,9 @@ private Q_SLOTS:
     void chosenFolder_isTakenAsItStands_data();
     void chosenFolder_isTakenAsItStands();
     void bytesThatAreNoText_areAName();
+    void newFolders_areTheUsersAlone_data();
+    void newFolders_areTheUsersAlone();
+    void folderThatIsThere_keepsItsMode();
     void folder_isMadeAgainWhenAskedFor();
     void fileInTheWay_isNoReasonToFail();
     void storesFolder_isTheSame();
@@ -129,6 +134,41 @@ void DataFolderTest::bytesThatAreNoText_areAName()
     const std::filesystem::directory_iterator found(".");
     QCOMPARE(std::distance(begin(found), end(found)), 1);
     QCOMPARE(::rmdir(name.constData()), 0); // Which Qt could not.
+}
+
+void DataFolderTest::newFolders_areTheUsersAlone_data()
+{
+    QTest::addColumn<int>("umask");
+
+    for (const auto umask : {0, 022, 077, 0777}) {
+        QTest::addRow("umask %o", static_cast<unsigned>(umask)) << umask;
+    }
+}
+
+void DataFolderTest::newFolders_areTheUsersAlone()
+{
+    QFETCH(int, umask);
+    const World world;
+    qputenv("QUIB_DATA_DIR", "some/where");
+    {
+        const Umask any(static_cast<mode_t>(umask));
+        dataFolder();
+    }
+
+    QCOMPARE(modeOf(u"some"_s), "0700"_ba);
+    QCOMPARE(modeOf(u"some/where"_s), "0700"_ba);
+}
+
+void DataFolderTest::folderThatIsThere_keepsItsMode()
+{
+    const World world;
+    QCOMPARE(::mkdir("shared", 0700), 0);
+    QCOMPARE(::chmod("shared", 0775), 0);
+    qputenv("QUIB_DATA_DIR", "shared");
+
+    dataFolder();
+
+    QCOMPARE(modeOf(u"shared"_s), "0775"_ba);
 }
 
 void DataFolderTest::folder_isMadeAgainWhenAskedFor()

@@ -1,6 +1,8 @@
 #include "model/datafile.h"
 #include "model/store.h"
 #include "support/datafolderfortest.h"
+#include "support/modeof.h"
+#include "support/umask.h"
 
 #include <QDir>
 #include <QProcess>
@@ -69,6 +71,8 @@ private Q_SLOTS:
     void killedAnywhere_neverTearsTheFile();
     void failingCall_leavesTheOldFile_data();
     void failingCall_leavesTheOldFile();
+    void leftover_isTheUsersAlone_data();
+    void leftover_isTheUsersAlone();
     void nextStart_removesWhatAKilledSaveLeft();
 };
 
@@ -151,6 +155,30 @@ void SaveKilledTest::failingCall_leavesTheOldFile()
     QVERIFY(saveUnderStrace(injection, folder.path() + u"/log"_s));
 
     QCOMPARE(notesIn(folder), OldNotes);
+}
+
+void SaveKilledTest::leftover_isTheUsersAlone_data()
+{
+    QTest::addColumn<QString>("call");
+
+    for (const auto* call : {"flock", "fchmod", "write", "fsync", "rename"}) {
+        QTest::addRow("%s", call) << QString::fromLatin1(call);
+    }
+}
+
+void SaveKilledTest::leftover_isTheUsersAlone()
+{
+    QFETCH(QString, call);
+    const DataFolderForTest folder; // Without a file in it: there is no mode to keep.
+    {
+        const Umask lax(0);
+        QVERIFY(
+            saveUnderStrace(u"%1:signal=SIGKILL:when=1"_s.arg(call), folder.path() + u"/log"_s));
+    }
+
+    const auto left = leftoversIn(folder);
+    QCOMPARE(left.size(), 1);
+    QCOMPARE(modeOf(folder.path() + u'/' + left.first()), "0600"_ba);
 }
 
 void SaveKilledTest::nextStart_removesWhatAKilledSaveLeft()

@@ -2,6 +2,7 @@
 
 #include "model/atomicfile.h"
 #include "model/nativepath.h"
+#include "model/privatefolder.h"
 #include "platform/linux/gowned.h"
 #include "platform/linux/sessionentry.h"
 
@@ -112,7 +113,8 @@ bool write(const QString& path, const QByteArray& entry)
     if (QFileInfo(path).isSymLink() && !QFile::remove(path)) {
         return false;
     }
-    return QDir().mkpath(QFileInfo(path).path()) && replaceFile(nativePath(path), entry);
+    const auto file = nativePath(path);
+    return makePrivateFolder(file.parent_path()) && replaceFile(file, entry, NewFile::Usual);
 }
 
 bool remove(const QString& path)

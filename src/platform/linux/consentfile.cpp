@@ -1,8 +1,11 @@
 #include "platform/linux/consentfile.h"
 
+#include "model/atomicfile.h"
+#include "model/nativepath.h"
+#include "model/privatefolder.h"
+
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 
@@ -36,12 +39,9 @@ std::optional<bool> readConsent()
 
 void writeConsent(bool isGranted)
 {
-    QDir().mkpath(QFileInfo(consentFile()).path());
-    QSaveFile file(consentFile());
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(isGranted ? Yes : No);
-        file.commit();
-    }
+    const auto path = nativePath(consentFile());
+    makePrivateFolder(path.parent_path());
+    replaceFile(path, isGranted ? Yes : No, NewFile::Private);
 }
 
 } // namespace quib

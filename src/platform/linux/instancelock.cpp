@@ -1,5 +1,7 @@
 #include "platform/linux/instancelock.h"
 
+#include "model/privatefolder.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -34,7 +36,7 @@ QByteArray runtimeFolder()
         return given;
     }
     auto own = QFile::encodeName(QDir::tempPath() + "/quib-"_L1 + QString::number(geteuid()));
-    mkdir(own.constData(), S_IRWXU);
+    makePrivateFolder(own.toStdString());
     return isPrivate(own) ? own : QByteArray();
 }
 
@@ -122,6 +124,7 @@ void InstanceLock::listen()
     if (bind(m_socket, general(*address), sizeof *address) != 0) {
         return;
     }
+    chmod(address->sun_path, S_IRUSR | S_IWUSR); // A strict umask locks out the user's next start.
     m_notifier = std::make_unique<QSocketNotifier>(m_socket, QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &InstanceLock::readKnocks);
 }

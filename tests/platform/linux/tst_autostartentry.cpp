@@ -1,4 +1,6 @@
 #include "autostartdesk.h"
+#include "support/modeof.h"
+#include "support/umask.h"
 
 #include <QStandardPaths>
 
@@ -22,6 +24,7 @@ private Q_SLOTS:
     void enable_again_isStillEnabled();
     void enable_overALink_leavesItsTarget();
     void enable_fails_data();
+    void enable_entryIsForTheDesktopToRead();
     void enable_fails();
     void enable_folderThatCanNotBeWritten_fails();
     void disable_removesOurFile();
@@ -123,6 +126,18 @@ void AutostartEntryTest::enable_fails_data()
     QTest::addRow("a file in place of the folder above") << u"config"_s << QString();
     QTest::addRow("a folder in place of the entry")
         << QString() << u"config/autostart/org.korvel.Quib.desktop"_s;
+}
+
+void AutostartEntryTest::enable_entryIsForTheDesktopToRead()
+{
+    AutostartEntry entry(m_desk->install(u"quib"_s));
+    {
+        const Umask usual(022);
+        QVERIFY(entry.enable());
+    }
+
+    QCOMPARE(modeOf(m_desk->userFile()), "0644"_ba);
+    QCOMPARE(modeOf(m_desk->path(u"config/autostart"_s)), "0700"_ba);
 }
 
 void AutostartEntryTest::enable_fails()

@@ -1,7 +1,10 @@
 #include "platform/linux/consentfile.h"
 #include "platform/linux/permissiondesk.h"
+#include "support/modeof.h"
+#include "support/umask.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <csignal>
 
@@ -19,6 +22,7 @@ private Q_SLOTS:
     void read_hungStore_blocksNothing();
     void read_unreadableFile_isUndecided_data();
     void read_unreadableFile_isUndecided();
+    void file_isTheUsersAlone();
     void ask_hungStore_isAnswered();
     void ask_noStore_isKeptInAFile_data();
     void ask_noStore_isKeptInAFile();
@@ -104,6 +108,18 @@ void CalendarPermissionTest::read_unreadableFile_isUndecided()
     file.close();
 
     QCOMPARE(session.read(), CalendarAuthorization::NotDetermined);
+}
+
+void CalendarPermissionTest::file_isTheUsersAlone()
+{
+    const PermissionDesk session;
+    {
+        const Umask lax(0);
+        writeConsent(true);
+    }
+
+    QCOMPARE(modeOf(consentFile()), "0600"_ba);
+    QCOMPARE(modeOf(QFileInfo(consentFile()).path()), "0700"_ba);
 }
 
 void CalendarPermissionTest::ask_hungStore_isAnswered()
