@@ -26,7 +26,8 @@ AppDelegate::AppDelegate(Platform platform, Clock clock, Scheduler schedule)
                .findApplication =
                    [this](const QString& name) {
                        return m_platform.applications->applicationNamed(name);
-                   }})
+                   },
+               .enterBackground = m_platform.enterBackground})
     , m_media(*m_platform.player, std::move(schedule))
     , m_calendar(m_platform.calendar.get(), std::move(clock))
     , m_actions(*m_platform.opener)

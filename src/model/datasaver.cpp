@@ -22,11 +22,11 @@ bool write(const QuibData& data)
 
 } // namespace
 
-DataSaver::DataSaver(Scheduler schedule)
+DataSaver::DataSaver(Scheduler schedule, std::function<void()> enterBackground)
     : m_schedule(std::move(schedule))
+    , m_enterBackground(std::move(enterBackground))
 {
     m_queue.setMaxThreadCount(1);
-    m_queue.setThreadPriority(QThread::LowPriority);
 }
 
 void DataSaver::scheduleSave(const QuibData& data)
@@ -48,6 +48,7 @@ void DataSaver::startWriting(const QuibData& data)
 {
     m_queue.clear(); // What still waits is older.
     m_queue.start([this, data, revision = m_wanted] {
+        m_enterBackground(); // Each time: a thread that rests for long is replaced by a new one.
         if (write(data)) {
             m_saved = revision;
         }

@@ -6,6 +6,7 @@
 #include <QThreadPool>
 
 #include <atomic>
+#include <functional>
 
 namespace quib {
 
@@ -13,7 +14,8 @@ namespace quib {
 /// Says nothing of a failure, but keeps it in mind: the next change and saveNow() try again.
 class DataSaver {
 public:
-    explicit DataSaver(Scheduler schedule);
+    /// The thread that writes in the background does the second first.
+    DataSaver(Scheduler schedule, std::function<void()> enterBackground);
 
     /// Has this data written unless newer data comes first.
     void scheduleSave(const QuibData& data);
@@ -29,6 +31,7 @@ private:
     void finishWriting(); ///< A write in progress ends; one that waits for it never starts.
 
     Scheduler m_schedule;
+    std::function<void()> m_enterBackground;
     std::unique_ptr<QObject> m_pending;
     Revision m_wanted = 0;
     std::atomic<Revision> m_saved = 0; ///< Set by whichever thread has written.

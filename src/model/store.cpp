@@ -37,7 +37,7 @@ qsizetype rowOf(const QList<Record>& records, const QUuid& id)
 Store::Store(Surroundings surroundings, QObject* parent)
     : QObject(parent)
     , m_surroundings(std::move(surroundings))
-    , m_saver(m_surroundings.schedule)
+    , m_saver(m_surroundings.schedule, m_surroundings.enterBackground)
 {
     auto loaded = loadQuibData(dataFile());
     m_data = loaded ? *std::move(loaded)

@@ -25,6 +25,8 @@ struct StoreSurroundings {
     /// build the sample data.
     std::function<std::optional<QString>(const QString& name)> findApplication;
     UserLocale locale = UserLocale::fromEnvironment();
+    /// Makes the calling thread one of utility priority: the one that saves.
+    std::function<void()> enterBackground = [] {};
 };
 
 /// The one owner of the workspace, on the main thread. Every operation changes it in one step,

@@ -16,6 +16,7 @@
 #include "integrations/opener.h"
 #include "integrations/playerlink.h"
 
+#include <functional>
 #include <memory>
 
 namespace quib {
@@ -39,6 +40,8 @@ struct Platform {
     std::unique_ptr<FilePicker> filePicker;
     /// Ends the event loop in order when the system asks the process to end.
     std::unique_ptr<QObject> quitSignals;
+    /// Makes the calling thread, not the main one, one of utility priority.
+    std::function<void()> enterBackground = [] {};
 };
 
 /// True when there is a desktop to show a panel on. Needs no application object.

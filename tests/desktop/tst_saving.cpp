@@ -2,8 +2,10 @@
 #include "support/sendsignal.h"
 
 #include <QDir>
+#include <QHash>
 #include <QTest>
 
+#include <algorithm>
 #include <csignal>
 
 using namespace Qt::StringLiterals;
@@ -20,6 +22,7 @@ private Q_SLOTS:
     void firstStart_isInTheUsersDataHome();
     void unreadableFile_survivesStartAndEnd();
     void dataFolderRemoved_isMadeAgain();
+    void writingInTheBackground_yieldsToTheOthers();
 };
 
 namespace {
@@ -43,6 +46,22 @@ void addTask(const Desk& desk, const QString& title)
     QTRY_VERIFY(!showsAThirdTask(desk));
     desk.key(u"Return"_s);
     QTRY_VERIFY(showsAThirdTask(desk));
+}
+
+/// By their numbers, as the system has it; that of the main thread is the process's.
+QHash<qint64, int> nicenessOfThreads(const QProcess& quib)
+{
+    QHash<qint64, int> found;
+    const QDir threads(u"/proc/%1/task"_s.arg(quib.processId()));
+    for (const auto& thread : threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile facts(threads.filePath(thread + u"/stat"_s));
+        if (facts.open(QIODevice::ReadOnly)) {
+            const auto line = facts.readAll();
+            const auto behindTheName = line.mid(line.lastIndexOf(')') + 2).split(' ');
+            found.insert(thread.toLongLong(), behindTheName.value(16).toInt());
+        }
+    }
+    return found;
 }
 
 void end(QProcess& quib, int signal)
@@ -141,6 +160,26 @@ void SavingTest::dataFolderRemoved_isMadeAgain()
     desk.key(u"Return"_s);
 
     QTRY_COMPARE(desk.savedTasks().value(0), u"After"_s);
+}
+
+void SavingTest::writingInTheBackground_yieldsToTheOthers()
+{
+    Desk desk;
+    const auto quib = desk.startQuib();
+    const auto before = nicenessOfThreads(*quib);
+    const auto usual = before.value(quib->processId());
+    if (usual >= 10) {
+        QSKIP("everything here yields as much already");
+    }
+    QCOMPARE(before.values().count(usual), before.size());
+
+    addTask(desk, u"Saved"_s);
+    QTRY_COMPARE(desk.savedTasks().value(0), u"Saved"_s);
+
+    auto after = nicenessOfThreads(*quib).values(); // The one that wrote rests for a while.
+    std::ranges::sort(after);
+    QCOMPARE(after.count(usual), after.size() - 1);
+    QVERIFY(after.last() > usual);
 }
 
 QTEST_GUILESS_MAIN(SavingTest)

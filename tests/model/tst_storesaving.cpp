@@ -3,6 +3,9 @@
 
 #include <QDir>
 #include <QTest>
+#include <QThread>
+
+#include <atomic>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -52,6 +55,7 @@ private Q_SLOTS:
     void folderRemovedMeanwhile_isMadeAgain();
     void scheduleSave_writesWithoutAChange();
     void storeGone_writesNoMore();
+    void threadThatSaves_entersTheBackground();
 };
 
 void StoreSavingTest::change_isWritten400MillisecondsLater()
@@ -253,6 +257,26 @@ void StoreSavingTest::storeGone_writesNoMore()
 
     QCOMPARE(hands.ran, 0);
     QVERIFY(!QFile::exists(folder.file()));
+}
+
+void StoreSavingTest::threadThatSaves_entersTheBackground()
+{
+    const DataFolderForTest folder;
+    HandClock hands;
+    std::atomic<QThread*> entered = nullptr;
+    std::atomic<bool> wasWritten = false;
+    Store store({.clock = hands.clock(), .schedule = hands.scheduler(), .enterBackground = [&] {
+                     entered = QThread::currentThread();
+                     wasWritten = QFile::exists(folder.file());
+                 }});
+
+    store.setNotes(u"new"_s);
+    hands.advance(400ms);
+
+    QTRY_COMPARE(notesOnDisk(folder), u"new"_s);
+    QVERIFY(entered != nullptr);
+    QVERIFY(entered != QThread::currentThread());
+    QVERIFY(!wasWritten);
 }
 
 QTEST_GUILESS_MAIN(StoreSavingTest)

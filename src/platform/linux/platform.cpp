@@ -1,6 +1,7 @@
 #include "platform/platform.h"
 
 #include "platform/linux/autostartentry.h"
+#include "platform/linux/background.h"
 #include "platform/linux/desktoplock.h"
 #include "platform/linux/diskprobe.h"
 #include "platform/linux/edscalendarstore.h"
@@ -73,6 +74,7 @@ Platform makePlatform()
     platform.statusItem = std::make_unique<StatusNotifier>(bus);
     platform.loginItem = std::make_unique<AutostartEntry>();
     platform.quitSignals = std::make_unique<QuitSignals>();
+    platform.enterBackground = enterBackground;
     awaitReaders(*bus);
     return platform;
 }
