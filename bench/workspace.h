@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/quibdata.h"
+#include "model/utc.h"
 
 #include <benchmark/benchmark.h>
 
@@ -13,7 +14,7 @@ inline quib::QuibData workspaceOf(qsizetype entryCount)
                              .name = QStringLiteral("Client %1").arg(number),
                              .hourlyRate = 30.0 + number});
     }
-    const QDateTime last(QDate(2026, 3, 2), QTime(9, 0), Qt::UTC);
+    const QDateTime last(QDate(2026, 3, 2), QTime(9, 0), quib::Utc);
     for (qsizetype row = 0; row < entryCount; ++row) {
         const auto start = last.addSecs(-3600 * row);
         data.entries.append({.id = QUuid::createUuid(),

@@ -1,5 +1,7 @@
 #include "model/icutext.h"
 
+#include "model/utc.h"
+
 #include <unicode/simpletz.h>
 
 namespace quib::icutext {
@@ -11,7 +13,7 @@ std::unique_ptr<icu::TimeZone> timeZone(const QTimeZone& zone)
     if (*known != icu::TimeZone::getUnknown()) {
         return known;
     }
-    const auto offset = zone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(0, Qt::UTC));
+    const auto offset = zone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(0, Utc));
     return std::make_unique<icu::SimpleTimeZone>(offset * U_MILLIS_PER_SECOND, name);
 }
 

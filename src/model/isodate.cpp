@@ -1,5 +1,7 @@
 #include "model/isodate.h"
 
+#include "model/utc.h"
+
 #include <chrono>
 
 namespace quib {
@@ -87,7 +89,7 @@ std::optional<QDateTime> parseIsoDate(std::string_view text)
         return {};
     }
     const milliseconds sinceEpoch = sys_days{date}.time_since_epoch() + hour + minute + second;
-    return QDateTime::fromMSecsSinceEpoch(sinceEpoch.count(), Qt::UTC);
+    return QDateTime::fromMSecsSinceEpoch(sinceEpoch.count(), Utc);
 }
 
 } // namespace quib

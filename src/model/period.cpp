@@ -1,6 +1,7 @@
 #include "model/period.h"
 
 #include "model/icutext.h"
+#include "model/utc.h"
 
 #include <unicode/calendar.h>
 
@@ -43,7 +44,7 @@ std::optional<QDateTime> momentOf(const icu::Calendar& calendar)
     UErrorCode error = U_ZERO_ERROR;
     const auto time = calendar.getTime(error);
     return U_SUCCESS(error)
-        ? std::optional(QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(time), Qt::UTC))
+        ? std::optional(QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(time), Utc))
         : std::nullopt;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/clock.h"
+#include "model/utc.h"
 
 #include <QObject>
 #include <QPointer>
@@ -59,7 +60,7 @@ private:
     void restart();
 
     Clock m_clock = systemClock;
-    QDateTime m_since = QDateTime::fromMSecsSinceEpoch(0, Qt::UTC);
+    QDateTime m_since = QDateTime::fromMSecsSinceEpoch(0, Utc);
     QDateTime m_now = m_clock(); ///< So that a first look reads no empty time.
     std::chrono::milliseconds m_interval{1000};
     std::chrono::milliseconds m_elapsed{0};

@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QJsonArray>
 #include <QTest>
+#include <QTimeZone>
 
 #include <utility>
 
@@ -58,7 +59,7 @@ public:
     void turnToJustBeforeMidnight()
     {
         const auto now = QDateTime::currentDateTimeUtc();
-        turn(now.secsTo(now.date().addDays(1).startOfDay(Qt::UTC)) - 5);
+        turn(now.secsTo(now.date().addDays(1).startOfDay(QTimeZone::utc())) - 5);
     }
 
     void startRunningSince(const QDateTime& start) const

@@ -142,7 +142,7 @@ void WorkingDayTest::runningEntryOfTheLastTime_isKeptFromHalfAMinuteOn()
     QFETCH(int, kept);
     Desk desk;
     const auto now = QDateTime::currentSecsSinceEpoch(); // Files hold whole seconds.
-    const auto began = QDateTime::fromSecsSinceEpoch(now - ageAtStart, Qt::UTC);
+    const auto began = QDateTime::fromSecsSinceEpoch(now - ageAtStart).toUTC();
     desk.writeData(workspace({entry(Bakery, began.toString(Qt::ISODate), {})}));
     const auto quib = desk.startQuib();
     QTRY_COMPARE(desk.pixel(LeftWing), QColor(Qt::black));

@@ -1,4 +1,5 @@
 #include "integrations/calendarfixture.h"
+#include "model/utc.h"
 
 #include <QScopeGuard>
 #include <QTest>
@@ -83,7 +84,7 @@ void CalendarDayTest::reload_afterMidnight_readsTheNewDay()
 void CalendarDayTest::reload_timeZoneChanges_readsTheNewDay()
 {
     CalendarFixture f;
-    f.hands.now = QDateTime(QDate(2026, 3, 2), QTime(12, 0), Qt::UTC);
+    f.hands.now = QDateTime(QDate(2026, 3, 2), QTime(12, 0), Utc);
     f.zone = QTimeZone("Europe/London");
     f.grant();
     f.answer({});
@@ -91,8 +92,8 @@ void CalendarDayTest::reload_timeZoneChanges_readsTheNewDay()
     f.zone = QTimeZone("Asia/Tokyo");
     f.controller.reload();
 
-    QCOMPARE(f.store.readings.at(0).from, QDateTime(QDate(2026, 3, 2), QTime(0, 0), Qt::UTC));
-    QCOMPARE(f.store.readings.at(1).from, QDateTime(QDate(2026, 3, 1), QTime(15, 0), Qt::UTC));
+    QCOMPARE(f.store.readings.at(0).from, QDateTime(QDate(2026, 3, 2), QTime(0, 0), Utc));
+    QCOMPARE(f.store.readings.at(1).from, QDateTime(QDate(2026, 3, 1), QTime(15, 0), Utc));
 }
 
 void CalendarDayTest::reload_unknownTimeZone_isTheLocalDay()
@@ -104,8 +105,8 @@ void CalendarDayTest::reload_unknownTimeZone_isTheLocalDay()
 
     f.grant();
 
-    QCOMPARE(f.store.readings.at(0).from, QDateTime(QDate(2026, 3, 1), QTime(15, 0), Qt::UTC));
-    QCOMPARE(f.store.readings.at(0).to, QDateTime(QDate(2026, 3, 2), QTime(15, 0), Qt::UTC));
+    QCOMPARE(f.store.readings.at(0).from, QDateTime(QDate(2026, 3, 1), QTime(15, 0), Utc));
+    QCOMPARE(f.store.readings.at(0).to, QDateTime(QDate(2026, 3, 2), QTime(15, 0), Utc));
 }
 
 void CalendarDayTest::reload_keepsTheEventsUntilTheAnswer()

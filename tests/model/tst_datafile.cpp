@@ -1,5 +1,7 @@
 #include "model/datafile.h"
 
+#include "model/utc.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
@@ -11,11 +13,12 @@ using namespace Qt::StringLiterals;
 using quib::decodeQuibData;
 using quib::encodeQuibData;
 using quib::QuibData;
+using quib::Utc;
 
 namespace {
 
 const QUuid ClientId(u"6f1c0a2e-93b4-4d57-8e21-0c5d7a9b1f34"_s);
-const QDateTime Morning(QDate(2026, 3, 2), QTime(9, 0), Qt::UTC);
+const QDateTime Morning(QDate(2026, 3, 2), QTime(9, 0), Utc);
 
 QuibData oneOfEach()
 {
@@ -206,8 +209,7 @@ void DataFileTest::rateThatIsNotFinite_isNotWritten()
 void DataFileTest::dateOutsideTheForm_isNotWritten()
 {
     QVERIFY(!encodeQuibData({.tasks = {{.id = ClientId, .created = QDateTime()}}}));
-    QVERIFY(
-        !encodeQuibData({.entries = {{.start = QDateTime(QDate(12000, 1, 1), QTime(), Qt::UTC)}}}));
+    QVERIFY(!encodeQuibData({.entries = {{.start = QDateTime(QDate(12000, 1, 1), QTime(), Utc)}}}));
 }
 
 void DataFileTest::fractionOfASecond_isCutOff()

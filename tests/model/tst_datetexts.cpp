@@ -1,15 +1,17 @@
 #include "model/datetexts.h"
 
+#include "model/utc.h"
 #include "support/travel.h"
 
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 using quib::DateTexts;
+using quib::Utc;
 
 namespace {
 
-const QDateTime Sunday(QDate(2026, 11, 15), QTime(9, 41), Qt::UTC);
+const QDateTime Sunday(QDate(2026, 11, 15), QTime(9, 41), Utc);
 
 /// "2026-11-15" by the user's calendar.
 QString numericDay(const QByteArray& locale, const QDateTime& moment,

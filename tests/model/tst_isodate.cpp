@@ -1,11 +1,14 @@
 #include "model/isodate.h"
 
+#include "model/utc.h"
+
 #include <QTest>
 #include <QTimeZone>
 
 using namespace Qt::StringLiterals;
 using quib::isoDate;
 using quib::parseIsoDate;
+using quib::Utc;
 
 namespace {
 
@@ -41,21 +44,21 @@ void IsoDateTest::moment_isWrittenInUtcWithWholeSeconds_data()
     QTest::addColumn<QByteArray>("text");
 
     const QDate day(2026, 3, 2);
-    QTest::addRow("UTC") << QDateTime(day, QTime(9, 15), Qt::UTC) << "2026-03-02T09:15:00Z"_ba;
+    QTest::addRow("UTC") << QDateTime(day, QTime(9, 15), Utc) << "2026-03-02T09:15:00Z"_ba;
     QTest::addRow("the second below")
-        << QDateTime(day, QTime(23, 59, 59, 999), Qt::UTC) << "2026-03-02T23:59:59Z"_ba;
+        << QDateTime(day, QTime(23, 59, 59, 999), Utc) << "2026-03-02T23:59:59Z"_ba;
     QTest::addRow("the second below, before 1970")
-        << QDateTime::fromMSecsSinceEpoch(-1, Qt::UTC) << "1969-12-31T23:59:59Z"_ba;
+        << QDateTime::fromMSecsSinceEpoch(-1, Utc) << "1969-12-31T23:59:59Z"_ba;
     QTest::addRow("another zone") << QDateTime(day, QTime(1, 0), QTimeZone(7200))
                                   << "2026-03-01T23:00:00Z"_ba;
-    QTest::addRow("a leap day") << QDateTime(QDate(2024, 2, 29), QTime(0, 0), Qt::UTC)
+    QTest::addRow("a leap day") << QDateTime(QDate(2024, 2, 29), QTime(0, 0), Utc)
                                 << "2024-02-29T00:00:00Z"_ba;
     QTest::addRow("the last year")
-        << QDateTime(QDate(9999, 12, 31), QTime(0, 0), Qt::UTC) << "9999-12-31T00:00:00Z"_ba;
+        << QDateTime(QDate(9999, 12, 31), QTime(0, 0), Utc) << "9999-12-31T00:00:00Z"_ba;
     QTest::addRow("the year 10000")
-        << QDateTime(QDate(10000, 1, 1), QTime(0, 0), Qt::UTC) << QByteArray();
+        << QDateTime(QDate(10000, 1, 1), QTime(0, 0), Utc) << QByteArray();
     QTest::addRow("before all years")
-        << QDateTime(QDate(-2, 1, 1), QTime(0, 0), Qt::UTC) << QByteArray();
+        << QDateTime(QDate(-2, 1, 1), QTime(0, 0), Utc) << QByteArray();
     QTest::addRow("no moment") << QDateTime() << QByteArray();
 }
 
@@ -73,9 +76,9 @@ void IsoDateTest::text_isReadExactly_data()
     QTest::addColumn<QDateTime>("moment");
 
     QTest::addRow("a moment") << "2026-03-02T09:15:01Z"_ba
-                              << QDateTime(QDate(2026, 3, 2), QTime(9, 15, 1), Qt::UTC);
+                              << QDateTime(QDate(2026, 3, 2), QTime(9, 15, 1), Utc);
     QTest::addRow("a leap day") << "2000-02-29T23:59:59Z"_ba
-                                << QDateTime(QDate(2000, 2, 29), QTime(23, 59, 59), Qt::UTC);
+                                << QDateTime(QDate(2000, 2, 29), QTime(23, 59, 59), Utc);
 }
 
 void IsoDateTest::text_isReadExactly()
@@ -131,7 +134,7 @@ void IsoDateTest::otherForms_areNoDate()
 void IsoDateTest::everyDay_isReadBack()
 {
     for (QDate day(1890, 1, 1); day.year() < 2110; day = day.addDays(1)) {
-        const auto noon = QDateTime(day, QTime(12, 34, 56), Qt::UTC);
+        const auto noon = QDateTime(day, QTime(12, 34, 56), Utc);
 
         QCOMPARE(textOf(noon), noon.toString(Qt::ISODate).toLatin1());
         QCOMPARE(parsed(textOf(noon)), std::optional(noon));

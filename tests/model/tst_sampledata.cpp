@@ -1,5 +1,7 @@
 #include "model/sampledata.h"
 
+#include "model/utc.h"
+
 #include <QDir>
 #include <QSet>
 #include <QTemporaryDir>
@@ -7,10 +9,11 @@
 
 using namespace Qt::StringLiterals;
 using quib::sampleData;
+using quib::Utc;
 
 namespace {
 
-const QDateTime Now(QDate(2026, 3, 2), QTime(9, 0), Qt::UTC);
+const QDateTime Now(QDate(2026, 3, 2), QTime(9, 0), Utc);
 const auto NoFolder = u"/nonexistent"_s;
 
 std::optional<QString> nothing(const QString& /*name*/)

@@ -1,16 +1,18 @@
 #include "model/timesheet.h"
 
+#include "model/utc.h"
 #include "support/travel.h"
 
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 using quib::timesheetCsv;
+using quib::Utc;
 
 namespace {
 
 const QUuid Bloom(u"6f1c0a2e-93b4-4d57-8e21-0c5d7a9b1f34"_s);
-const QDateTime Nine(QDate(2026, 3, 2), QTime(9, 0), Qt::UTC);
+const QDateTime Nine(QDate(2026, 3, 2), QTime(9, 0), Utc);
 constexpr auto Header = "client,start,end,hours,rate,amount,note";
 
 quib::QuibData oneEntry(const quib::Client& client, const quib::TimeEntry& entry)

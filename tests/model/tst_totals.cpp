@@ -1,5 +1,7 @@
 #include "model/totals.h"
 
+#include "model/utc.h"
+
 #include <QTest>
 
 #include <optional>
@@ -16,7 +18,7 @@ QUuid idOf(int number)
 /// Monday, so many minutes after eight.
 QDateTime monday(int minutes)
 {
-    return QDateTime(QDate(2026, 3, 2), QTime(8, 0), Qt::UTC).addSecs(minutes * 60LL);
+    return QDateTime(QDate(2026, 3, 2), QTime(8, 0), quib::Utc).addSecs(minutes * 60LL);
 }
 
 quib::TimeEntry entry(const std::optional<QUuid>& client, int start, std::optional<int> end)

@@ -2,13 +2,14 @@
 
 #include "integrations/calendarentry.h"
 #include "model/quibdata.h"
+#include "model/utc.h"
 
 #include <QByteArrayList>
 
 #include <optional>
 
 /// The moment of every picture, a Wednesday.
-inline const QDateTime Now{QDate(2026, 11, 18), QTime(14, 37, 12), Qt::UTC};
+inline const QDateTime Now{QDate(2026, 11, 18), QTime(14, 37, 12), quib::Utc};
 
 /// What a panel has to show.
 struct Day {

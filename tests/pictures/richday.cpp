@@ -1,8 +1,10 @@
+#include "model/utc.h"
 #include "pictures/daymaking.h"
 
 using namespace Qt::StringLiterals;
 using namespace daymaking;
 using quib::ClientStatus;
+using quib::Utc;
 
 namespace {
 
@@ -128,8 +130,8 @@ Day richDay(const QString& folder)
                         meeting(u"Dentist"_s, 115, 30, 0xef4444),
                         meeting(u"Evening class: lettering"_s, 260, 90, 0xf5c542),
                         quib::CalendarEntry{.title = u"Ada on holiday"_s,
-                                            .start = {QDate(2026, 11, 18), QTime(), Qt::UTC},
-                                            .end = {QDate(2026, 11, 19), QTime(), Qt::UTC},
+                                            .start = {QDate(2026, 11, 18), QTime(), Utc},
+                                            .end = {QDate(2026, 11, 19), QTime(), Utc},
                                             .isAllDay = true,
                                             .color = 0x38bdf8}},
     };

@@ -2,6 +2,7 @@
 
 #include "model/clock.h"
 #include "model/scheduler.h"
+#include "model/utc.h"
 
 #include <QPointer>
 
@@ -12,7 +13,7 @@
 /// Time that a test turns by hand: a clock, and a scheduler whose work falls due in advance().
 class HandClock {
 public:
-    QDateTime now{QDate(2026, 3, 2), QTime(9, 0), Qt::UTC}; ///< A Monday.
+    QDateTime now{QDate(2026, 3, 2), QTime(9, 0), quib::Utc}; ///< A Monday.
     int scheduled = 0; ///< How often work was put in, cancelled work too.
     int ran = 0; ///< How often work was run.
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/store.h"
+#include "model/utc.h"
 
 #include <QTemporaryDir>
 
@@ -35,7 +36,7 @@ struct Workspace {
                            .title = title,
                            .clientID = client,
                            .done = done,
-                           .created = QDateTime::fromSecsSinceEpoch(0, Qt::UTC)});
+                           .created = QDateTime::fromSecsSinceEpoch(0, quib::Utc)});
         store->setData(data);
         return id;
     }

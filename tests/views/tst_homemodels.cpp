@@ -1,3 +1,4 @@
+#include "model/utc.h"
 #include "views/eventlistmodel.h"
 #include "views/launchlistmodel.h"
 #include "views/opentasklistmodel.h"
@@ -15,6 +16,7 @@ using quib::CalendarController;
 using quib::EventListModel;
 using quib::LaunchListModel;
 using quib::OpenTaskListModel;
+using quib::Utc;
 
 /// The lists of the home tab.
 class HomeModelsTest : public QObject {
@@ -152,7 +154,7 @@ void HomeModelsTest::application_storeGoneMeanwhile_isDropped()
 
 void HomeModelsTest::events_changeRowByRow()
 {
-    const QDateTime now(QDate(2026, 3, 2), QTime(9, 0), Qt::UTC);
+    const QDateTime now(QDate(2026, 3, 2), QTime(9, 0), Utc);
     const auto event = [&](const QString& title, int minutes) {
         return quib::CalendarEntry{.id = title,
                                    .title = title,

@@ -1,3 +1,4 @@
+#include "model/utc.h"
 #include "support/notestab.h"
 #include "support/toldtext.h"
 
@@ -206,7 +207,7 @@ void NotesViewTest::stamp_goesToTheEndOnALineOfItsOwn()
 void NotesViewTest::stamp_isInTheUsersTimeAndSaved()
 {
     NotesTab tab;
-    tab.hands.now = QDateTime(QDate(2026, 11, 15), QTime(21, 41), Qt::UTC);
+    tab.hands.now = QDateTime(QDate(2026, 11, 15), QTime(21, 41), quib::Utc);
 
     tab.stamp();
     tab.store().saveNow();

@@ -1,7 +1,9 @@
+#include "model/utc.h"
 #include "support/timetab.h"
 
 using namespace Qt::StringLiterals;
 using quib::ClientStatus;
+using quib::Utc;
 
 /// Whatever the texts and numbers of the time tab are, they stay in their places.
 class TimeViewRoomTest : public QObject {
@@ -45,7 +47,7 @@ void TimeViewRoomTest::longNamesAndNotes_stayInTheirCards()
 
 void TimeViewRoomTest::longestClock_staysInItsCard()
 {
-    m_tab->running(QDateTime({1, 1, 1}, {0, 0}, Qt::UTC).secsTo(m_tab->hands.now));
+    m_tab->running(QDateTime({1, 1, 1}, {0, 0}, Utc).secsTo(m_tab->hands.now));
     settle();
 
     QCOMPARE(m_tab->text(u"clock"_s).size(), u"17750000:00:00"_s.size());
@@ -86,7 +88,7 @@ void TimeViewRoomTest::hugeTotal_leavesRoomForTheAmount()
     for (int i = 0; i < 2000; ++i) {
         data.entries.append({.id = QUuid::createUuid(),
                              .start = m_tab->hands.now,
-                             .end = QDateTime({9999, 12, 31}, {0, 0}, Qt::UTC)});
+                             .end = QDateTime({9999, 12, 31}, {0, 0}, Utc)});
     }
     m_tab->store().setData(data);
     settle();

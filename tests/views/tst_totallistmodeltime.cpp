@@ -1,3 +1,4 @@
+#include "model/utc.h"
 #include "support/report.h"
 
 #include <QSignalSpy>
@@ -5,6 +6,7 @@
 
 using namespace Qt::StringLiterals;
 using quib::TotalListModel;
+using quib::Utc;
 
 using Period = TotalListModel::Period;
 
@@ -85,7 +87,7 @@ void TotalListModelTimeTest::since_isTheUsersOwn()
 void TotalListModelTimeTest::month_onTheFirstDaysOfAWeekThatBeganBefore()
 {
     Report report;
-    report.hands.now = QDateTime({2026, 4, 30}, {12, 0}, Qt::UTC); // A Thursday.
+    report.hands.now = QDateTime({2026, 4, 30}, {12, 0}, Utc); // A Thursday.
     report.entry(-24 * 10, -24 * 10 + 2);
     report.entry(-2, -1);
     QCOMPARE(report.model.totalSeconds(), 3600.0);

@@ -1,3 +1,4 @@
+#include "model/utc.h"
 #include "support/timetab.h"
 
 #include "brand/brand.h"
@@ -7,6 +8,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using quib::Brand;
 using quib::Tab;
+using quib::Utc;
 
 /// The time per client as its user meets it.
 class TotalsCardTest : public QObject {
@@ -125,7 +127,7 @@ void TotalsCardTest::amountsReadFromTheRight_areTextsOfTheirOwn()
 
 void TotalsCardTest::weekThatBeganInThePreviousMonth_countsMoreThanTheMonth()
 {
-    m_tab->hands.now = QDateTime({2026, 4, 1}, {12, 0}, Qt::UTC);
+    m_tab->hands.now = QDateTime({2026, 4, 1}, {12, 0}, Utc);
     const auto cafe = m_tab->client(u"Café"_s);
     m_tab->entry(3600, cafe);
     m_tab->entry(36 * 3600, cafe); // Since midnight of the 31st of March.
@@ -140,9 +142,9 @@ void TotalsCardTest::weekThatBeganInThePreviousMonth_countsMoreThanTheMonth()
 /// Of a week that goes on in the next month.
 void TotalsCardTest::firstDayOfAWeek_countsLessThanTheMonth()
 {
-    m_tab->hands.now = QDateTime({2026, 3, 28}, {20, 0}, Qt::UTC);
+    m_tab->hands.now = QDateTime({2026, 3, 28}, {20, 0}, Utc);
     m_tab->entry(2 * 3600);
-    m_tab->hands.now = QDateTime({2026, 3, 29}, {12, 0}, Qt::UTC); // A Sunday.
+    m_tab->hands.now = QDateTime({2026, 3, 29}, {12, 0}, Utc); // A Sunday.
     m_tab->entry(3600);
     QCOMPARE(m_tab->text(u"total"_s), u"1h 0m"_s);
 
@@ -194,7 +196,7 @@ void TotalsCardTest::refresh_keepsTheRows()
 
 void TotalsCardTest::period_isChosenByPointerAndKeys()
 {
-    m_tab->hands.now = QDateTime({2026, 4, 30}, {12, 0}, Qt::UTC);
+    m_tab->hands.now = QDateTime({2026, 4, 30}, {12, 0}, Utc);
     auto data = m_tab->store().data();
     const auto before = m_tab->hands.now.addDays(-20);
     data.entries = {{.id = QUuid::createUuid(), .start = before, .end = before.addSecs(7200)}};
