@@ -13,6 +13,7 @@ private Q_SLOTS:
 
     void empty_invitesAndHasNothingToClear();
     void files_areShownNewestFirst();
+    void tiles_standInTheMiddle();
     void clear_emptiesTheShelfAtOnce();
     void missingFile_isDimmedUntilItComesBack();
     void missingFile_canBeTakenAway();
@@ -50,6 +51,16 @@ void ShelfViewTest::files_areShownNewestFirst()
 
     QCOMPARE(m_shelf->shownNames(), (QStringList{u"/"_s, u"folder"_s, u"first.png"_s}));
     QVERIFY(m_shelf->tile(0)->x() < m_shelf->tile(1)->x());
+}
+
+void ShelfViewTest::tiles_standInTheMiddle()
+{
+    m_shelf->fill(3);
+
+    for (int number = 0; number < 3; ++number) {
+        QCOMPARE(inScene(m_shelf->tile(number)).center().y(),
+                 inScene(m_shelf->list()).center().y());
+    }
 }
 
 void ShelfViewTest::clear_emptiesTheShelfAtOnce()

@@ -27,7 +27,6 @@ SidewaysList {
         required property int index
 
         objectName: "item"
-        y: (root.height - height) / 2
         icons: root.icons
         editing: root.editing
 

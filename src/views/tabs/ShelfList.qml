@@ -39,7 +39,6 @@ SidewaysList {
         required property int index
 
         objectName: "tile"
-        y: (root.height - height) / 2
         icons: root.icons
         files: root.files
         isMotionReduced: root.isMotionReduced
