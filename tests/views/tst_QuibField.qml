@@ -95,6 +95,18 @@ TestCase {
         verify(input(made).activeFocus);
     }
 
+    function test_thePaddingBelongsToTheText() {
+        const made = createTemporaryObject(field, testCase, { text: "Corner Cafe" });
+        made.forceActiveFocus(Qt.TabFocusReason);
+        mouseDrag(made, 2, 13, 146, 0);
+        compare(input(made).selectedText, "Corner Cafe");
+        mouseClick(made, 2, 13);
+        compare(input(made).selectedText, "");
+        compare(input(made).cursorPosition, 0);
+        mouseDoubleClickSequence(made, 146, 13);
+        compare(input(made).selectedText, "Cafe");
+    }
+
     function test_clickLandsOnTheRightCharacter_data() {
         return [0, 1, 4, 8, 12].map(position => ({ tag: position, position: position }));
     }

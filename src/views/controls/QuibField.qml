@@ -42,6 +42,17 @@ FocusScope {
         return !root.isEditing && root.visible && root.Window.active;
     }
 
+    // Of what is drawn at half its size.
+    function positionAt(mouse) {
+        return input.positionAt(2 * (mouse.x - root.horizontalPadding), 2 * mouse.y);
+    }
+
+    function press(mouse) {
+        input.forceActiveFocus(Qt.MouseFocusReason);
+        keyboard.take(Qt.MouseFocusReason);
+        input.cursorPosition = root.positionAt(mouse);
+    }
+
     // Stands in the text as one step that can be undone: moving the cursor ends a step.
     function paste(line) {
         if (root.readOnly || line === "") {
@@ -89,6 +100,15 @@ FocusScope {
     }
 
     // The text is cut off at the padding, but a press in the padding is a press on the text.
+    MouseArea {
+        anchors.fill: parent
+        preventStealing: true
+
+        onPressed: mouse => root.press(mouse)
+        onPositionChanged: mouse => input.moveCursorSelection(root.positionAt(mouse), TextInput.SelectCharacters)
+        onDoubleClicked: input.selectWord()
+    }
+
     Item {
         id: opening
 
@@ -96,12 +116,6 @@ FocusScope {
         width: root.width - 2 * root.horizontalPadding
         height: root.height
         clip: true
-        containmentMask: Item {
-            parent: opening
-            x: -root.horizontalPadding
-            width: root.width
-            height: root.height
-        }
 
         TextInput {
             id: input
@@ -123,7 +137,7 @@ FocusScope {
             Accessible.role: Accessible.EditableText
             Accessible.name: root.placeholder
 
-            containmentMask: Item {
+            containmentMask: Item { // The panel asks whether a press was on it.
                 parent: input
                 x: -2 * root.horizontalPadding
                 width: root.width * 2
@@ -144,19 +158,16 @@ FocusScope {
                     root.paste(PastedLine.ofClipboard());
                 }
             }
+        }
+    }
 
-            MouseArea {
-                x: -2 * root.horizontalPadding
-                width: root.width * 2
-                height: root.height * 2
-                acceptedButtons: Qt.MiddleButton
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.MiddleButton
 
-                onPressed: mouse => {
-                    input.forceActiveFocus(Qt.MouseFocusReason);
-                    input.cursorPosition = input.positionAt(mouse.x - 2 * root.horizontalPadding, mouse.y);
-                    root.paste(PastedLine.ofSelection());
-                }
-            }
+        onPressed: mouse => {
+            root.press(mouse);
+            root.paste(PastedLine.ofSelection());
         }
     }
 
