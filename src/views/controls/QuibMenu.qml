@@ -54,12 +54,20 @@ T.Popup {
     }
 
     onAboutToShow: root.begin()
-    onClosed: root.focusedBefore?.forceActiveFocus(root.hadRing ? Qt.TabFocusReason : Qt.PopupFocusReason)
+    onClosed: root.giveBack(root.hadRing ? Qt.TabFocusReason : Qt.PopupFocusReason)
 
     function begin() {
         root.focusedBefore = FocusedItem.in(root.parent.Window.window);
         root.hadRing = (root.focusedBefore as PlainButton)?.visualFocus ?? false;
         (root.contentItem as MenuList).begin(root.startIndex);
+    }
+
+    function giveBack(reason) {
+        root.focusedBefore?.forceActiveFocus(reason);
+        const button = root.focusedBefore as PlainButton;
+        if (button) {
+            button.focusReason = reason; // The popup may have given it the focus without.
+        }
     }
 
     // Closed first: what is chosen may open something of its own.
