@@ -1,5 +1,6 @@
 #include "views/pulse.h"
 
+#include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -20,7 +21,8 @@ private Q_SLOTS:
 namespace {
 
 struct Shown {
-    QQuickItem item;
+    QQuickWindow window;
+    QQuickItem item{window.contentItem()}; // What stands in no window is out of sight.
     Pulse pulse{&item};
     QSignalSpy levels{&pulse, &Pulse::levelChanged};
 
