@@ -31,10 +31,8 @@ QImage OffscreenPanel::picture()
         return {};
     }
     m_control.polishItems();
-    m_control.beginFrame();
     m_control.sync();
-    m_control.render();
-    m_control.endFrame();
+    m_control.render(); // Frames are begun and ended on graphics devices only.
     return m_picture;
 }
 

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QImage>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -32,6 +33,7 @@ private:
 void SnapshotTest::initTestCase()
 {
     qputenv("QUIB_DATA_DIR", m_data.path().toLocal8Bit());
+    QTest::failOnWarning(QRegularExpression(u"QQuick"_s));
     FakeShell shell;
     quib::AppDelegate delegate(std::move(shell.platform));
     shell.calendar.authorizations.front()(quib::CalendarAuthorization::NotDetermined);
