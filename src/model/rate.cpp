@@ -42,7 +42,9 @@ std::optional<QString> withoutBlanks(QString text)
 QString asTyped(QString text, const QLocale& locale)
 {
     text.replace(u'\u2212', u'-');
-    return locale.groupSeparator() == u"’"_s ? text.replace(u'\'', u'’') : text;
+    const auto grouping = locale.groupSeparator();
+    const bool isApostrophe = grouping == u"’"_s || grouping == u"'"_s;
+    return isApostrophe ? text.replace(u'\'', grouping).replace(u'’', grouping) : text;
 }
 
 std::optional<double> numberIn(const QString& text, const QLocale& locale)
