@@ -84,7 +84,9 @@ void MoneyTest::largeAmount_isGroupedAsInTheCountry()
     QFETCH(QByteArray, locale);
     QFETCH(QString, text);
 
-    QCOMPARE(quib::formatMoney(1e7, {.money = locale}), text);
+    auto formatted = quib::formatMoney(1e7, {.money = locale});
+
+    QCOMPARE(formatted.replace(u'\'', u'’'), text); // Newer locale data have the plain apostrophe.
 }
 
 void MoneyTest::halves_areRoundedToEven_data()
