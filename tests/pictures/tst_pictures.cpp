@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QImageWriter>
 #include <QPainter>
+#include <QSysInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -29,6 +30,12 @@ const QDir Kept(QStringLiteral(QUIB_KEPT_PICTURES));
 constexpr QRectF AroundTheNotch(160, 0, 440, 60);
 const QColor LightDesktop = QColorConstants::Svg::whitesmoke;
 const QColor DarkDesktop = QColorConstants::Svg::darkslategray;
+
+/// Other versions of the fonts, of the icons and of Qt draw otherwise.
+bool drawsAsKept()
+{
+    return QSysInfo::productType() == u"debian"_s && QSysInfo::productVersion() == u"12"_s;
+}
 
 bool isHere(const Scene& scene)
 {
@@ -122,6 +129,9 @@ void PicturesTest::picture_isAsItWasKept()
     const auto drawn = draw(scene);
 
     QVERIFY2(!drawn.isNull(), "It does not come to rest.");
+    if (!drawsAsKept()) {
+        QSKIP("drawn, but compared on Debian 12 only: other fonts, icons and Qt draw otherwise");
+    }
     if (qEnvironmentVariableIsSet("QUIB_KEEP_PICTURES")) {
         save(simplified(drawn), Kept.filePath(scene.file()));
         return;
