@@ -1,8 +1,10 @@
 #include "support/clientbook.h"
 
+#include "brand/brand.h"
 #include "views/noclient.h"
 
 using namespace Qt::StringLiterals;
+using quib::Brand;
 using quib::Tab;
 
 /// How a client goes: by two clicks, or from elsewhere.
@@ -14,6 +16,7 @@ private Q_SLOTS:
     void cleanup() { m_book.reset(); }
 
     void firstClick_arms();
+    void armedButton_isRedUnderThePointer();
     void secondClick_deletes();
     void armedButton_restsForAnotherClient();
     void armedButton_restsWhenShownAnew_data();
@@ -45,6 +48,22 @@ void ClientDeletionTest::firstClick_arms()
     QCOMPARE(textOf(remove, "symbol"), u"trash.fill"_s);
     QCOMPARE(textOf(remove, "help"), u"Click again to delete"_s);
     QCOMPARE(m_book->store().data().clients.size(), 2);
+}
+
+void ClientDeletionTest::armedButton_isRedUnderThePointer()
+{
+    const auto shownColor
+        = [this] { return colorOf(ShownPanel::find(m_book->item(u"delete"_s), u"symbol"_s)); };
+    m_book->select(m_book->cafe);
+    m_book->settle();
+    m_book->move(m_book->item(u"status"_s)); // The first move only brings the pointer.
+    m_book->move(m_book->item(u"delete"_s));
+    QTRY_COMPARE(shownColor(), QColor(Qt::white));
+
+    m_book->click(m_book->item(u"delete"_s));
+
+    QVERIFY(m_book->item(u"delete"_s)->property("hovered").toBool());
+    QCOMPARE(shownColor(), Brand::red());
 }
 
 void ClientDeletionTest::secondClick_deletes()

@@ -13,6 +13,7 @@ PlainButton {
     property string symbol
     property real size: 12
     property color tint: Brand.muted
+    property color hoverTint: "white"
 
     padding: 7
     Accessible.name: root.help
@@ -29,6 +30,6 @@ PlainButton {
         name: root.symbol
         size: root.size
         weight: Font.DemiBold
-        color: root.hovered ? "white" : root.tint
+        color: root.hovered ? root.hoverTint : root.tint
     }
 }

@@ -164,6 +164,7 @@ FocusScope {
                 symbol: root.confirmDelete ? "trash.fill" : "trash"
                 size: 12
                 tint: root.confirmDelete ? Brand.red : Brand.muted2
+                hoverTint: root.confirmDelete ? Brand.red : "white" // The pointer that armed it is still there.
                 help: root.confirmDelete ? "Click again to delete" : "Delete client"
 
                 onClicked: root.confirmOrDelete()
