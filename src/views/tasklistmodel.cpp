@@ -39,11 +39,19 @@ void TaskListModel::setFilter(const QUuid& filter)
     Q_EMIT filterChanged();
 }
 
-void TaskListModel::addTask(const QString& title, const QUuid& client)
+int TaskListModel::addTask(const QString& title, const QUuid& client)
 {
-    if (m_store) {
-        m_store->addTask(title, clientOrNone(client));
+    if (!m_store) {
+        return -1;
     }
+    const auto& tasks = m_store->data().tasks;
+    const auto before = tasks.size();
+    m_store->addTask(title, clientOrNone(client));
+    if (tasks.size() == before) {
+        return -1;
+    }
+    const auto row = std::ranges::find(m_tasks, tasks.front().id, &TaskRecord::id);
+    return row == m_tasks.end() ? -1 : static_cast<int>(row - m_tasks.begin());
 }
 
 int TaskListModel::rowCount(const QModelIndex& parent) const

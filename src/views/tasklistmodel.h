@@ -46,8 +46,9 @@ public:
     /// Borrowed: the rows are empty once the store is gone.
     void setStore(Store* store);
     void setFilter(const QUuid& filter);
-    /// A new task in the store, of a client or of none.
-    Q_INVOKABLE void addTask(const QString& title, const QUuid& client);
+    /// A new task in the store, of a client or of none. Its row; -1 where none came or it is not
+    /// shown.
+    Q_INVOKABLE int addTask(const QString& title, const QUuid& client);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

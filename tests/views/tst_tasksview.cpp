@@ -22,6 +22,9 @@ private Q_SLOTS:
     void newTask_goesToTheChosenClient();
     void newTask_goesToTheFilteredClient();
     void newTask_chosenClientCountsMoreThanTheFiltered();
+    void newTask_isBroughtIntoSight();
+    void newTask_thatIsNotShown_leavesTheListWhereItIs_data();
+    void newTask_thatIsNotShown_leavesTheListWhereItIs();
     void chosenClient_isKeptForTheNextTask();
     void chips_areThoseOfClientsWithTasks();
     void chip_filtersAndStaysSelected();
@@ -31,8 +34,25 @@ private Q_SLOTS:
     void names_tellWhatPressingDoes();
 
 private:
+    /// More tasks than fit, and the list at its end.
+    void fillAndScroll(const QUuid& client);
+    double listPosition() { return numberOf(m_tab->item(u"list"_s), "contentY"); }
+
     std::unique_ptr<TasksTab> m_tab;
 };
+
+void TasksViewTest::fillAndScroll(const QUuid& client)
+{
+    auto data = m_tab->store().data();
+    for (int number = 0; number < 40; ++number) {
+        data.tasks.append({.id = QUuid::createUuid(),
+                           .title = u"Task %1"_s.arg(number),
+                           .clientID = client,
+                           .created = m_tab->hands.now});
+    }
+    m_tab->store().setData(data);
+    QMetaObject::invokeMethod(m_tab->item(u"list"_s), "positionViewAtEnd");
+}
 
 void TasksViewTest::empty_saysNothingToDo()
 {
@@ -103,6 +123,42 @@ void TasksViewTest::newTask_chosenClientCountsMoreThanTheFiltered()
 
     QCOMPARE(m_tab->store().data().tasks.front().clientID, bloom);
     QCOMPARE(m_tab->shownTitles(), QStringList{u"Old"_s});
+}
+
+void TasksViewTest::newTask_isBroughtIntoSight()
+{
+    fillAndScroll(m_tab->workspace.client(u"Café"_s));
+
+    m_tab->add(u"Call"_s);
+
+    const auto* row = m_tab->row(0);
+    QVERIFY(row);
+    QCOMPARE(textOf(m_tab->part(0, u"title"_s)), u"Call"_s);
+    QVERIFY(m_tab->rect(u"list"_s).contains(inScene(row)));
+}
+
+void TasksViewTest::newTask_thatIsNotShown_leavesTheListWhereItIs_data()
+{
+    QTest::addColumn<QString>("title");
+
+    QTest::addRow("blank") << u"  "_s;
+    QTest::addRow("of another client") << u"Call"_s;
+}
+
+void TasksViewTest::newTask_thatIsNotShown_leavesTheListWhereItIs()
+{
+    QFETCH(const QString, title);
+    const auto cafe = m_tab->workspace.client(u"Café"_s);
+    auto* view = m_tab->item(u"tasksView"_s);
+    view->setProperty("filter", cafe);
+    view->setProperty("newClient", m_tab->workspace.client(u"Bloom"_s));
+    fillAndScroll(cafe);
+    const auto before = listPosition();
+    QVERIFY(before > 100);
+
+    m_tab->add(title);
+
+    QCOMPARE(listPosition(), before);
 }
 
 void TasksViewTest::chosenClient_isKeptForTheNextTask()

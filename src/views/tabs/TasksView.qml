@@ -17,7 +17,7 @@ FocusScope {
     property uuid newClient: NoClient.id
 
     function addTask() {
-        tasks.addTask(field.text, root.newClient === NoClient.id ? root.filter : root.newClient);
+        list.reveal(tasks.addTask(field.text, root.newClient === NoClient.id ? root.filter : root.newClient));
         field.text = "";
         field.forceActiveFocus();
     }
@@ -85,6 +85,8 @@ FocusScope {
     }
 
     TaskList {
+        id: list
+
         objectName: "list"
         anchors.left: parent.left
         anchors.right: parent.right
