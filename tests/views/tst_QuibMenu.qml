@@ -241,10 +241,10 @@ TestCase {
         menu.open();
         tryVerify(() => menu.opened);
         const place = menu.contentItem.mapToItem(testCase, -menu.leftPadding, -menu.topPadding);
-        verify(place.x >= 30, place.x);
-        verify(place.x + menu.width <= 730);
+        verify(place.x >= 38 + 8, place.x); // The body of the card, and a gap.
+        verify(place.x + menu.width <= 722 - 8, place.x + menu.width);
         verify(place.y >= 0);
-        verify(place.y + menu.height <= 290, place.y + menu.height);
+        verify(place.y + menu.height <= 290 - 8, place.y + menu.height);
         keyClick(Qt.Key_End);
         compare(list(menu).currentIndex, 199);
         verify(list(menu).contentY > 4000);

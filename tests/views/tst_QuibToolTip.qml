@@ -40,8 +40,8 @@ TestCase {
         tip.open();
         tryVerify(() => tip.opened);
         const place = tip.contentItem.mapToItem(testCase, -tip.leftPadding, -tip.topPadding);
-        verify(place.x >= 30 && place.x + tip.width <= 730, place.x);
-        verify(place.y >= 0 && place.y + tip.height <= 290, place.y);
+        verify(place.x >= 38 + 8 && place.x + tip.width <= 722 - 8, place.x); // The body of the card, and a gap.
+        verify(place.y >= 0 && place.y + tip.height <= 290 - 8, place.y);
     }
 
     function test_aLongTextIsElided() {

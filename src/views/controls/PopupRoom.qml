@@ -3,11 +3,13 @@ pragma Singleton
 import QtQuick
 
 /*!
-    How far popups stay from the edges of the window. The card, of which nothing is seen or clicked
-    outside, ends 30 points from the sides and 40 from the bottom, and its corners are round.
+    How far popups stay from the edges of the window. The body of the card, of which nothing is seen
+    outside, begins 38 points from the sides, at the top of the window, and ends 40 points above its
+    bottom in round corners: so there is a gap to each edge.
 */
 QtObject {
-    property real left: 38
-    property real right: 38
+    property real left: 46
+    property real right: 46
+    property real top: 4
     property real bottom: 48
 }

@@ -31,7 +31,7 @@ T.Popup {
     width: Math.max(200, parent.width)
     implicitHeight: Math.min(240, implicitContentHeight + topPadding + bottomPadding)
     padding: 4
-    topMargin: 4
+    topMargin: PopupRoom.top
     leftMargin: PopupRoom.left
     rightMargin: PopupRoom.right
     bottomMargin: PopupRoom.bottom
@@ -40,6 +40,7 @@ T.Popup {
     dim: false
 
     background: ContinuousRectangle {
+        objectName: "popup"
         radius: 10
         color: Brand.popup
         strokeColor: Brand.white(0.12)

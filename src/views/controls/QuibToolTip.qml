@@ -16,13 +16,14 @@ T.ToolTip {
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     horizontalPadding: 8
     verticalPadding: 4
-    topMargin: 0
+    topMargin: PopupRoom.top
     leftMargin: PopupRoom.left
     rightMargin: PopupRoom.right
     bottomMargin: PopupRoom.bottom
     delay: 600
 
     background: ContinuousRectangle {
+        objectName: "popup"
         radius: 6
         color: Brand.popup
         strokeColor: Brand.white(0.12)
