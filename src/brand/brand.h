@@ -21,6 +21,7 @@ class Brand : public QObject {
     Q_PROPERTY(QColor muted READ muted CONSTANT)
     Q_PROPERTY(QColor muted2 READ muted2 CONSTANT)
     Q_PROPERTY(QColor card READ card CONSTANT)
+    Q_PROPERTY(QColor cardSurface READ cardSurface CONSTANT)
     Q_PROPERTY(QColor cardStroke READ cardStroke CONSTANT)
     Q_PROPERTY(QColor popup READ popup CONSTANT)
     Q_PROPERTY(QColor gold READ gold CONSTANT)
@@ -34,6 +35,8 @@ public:
     static QColor muted() { return {168, 164, 184}; }
     static QColor muted2() { return {122, 117, 136}; }
     static QColor card() { return QColor::fromRgbF(1, 1, 1, 0.055F); }
+    /// What a card looks like on the panel's black, for what covers it.
+    static QColor cardSurface() { return {14, 14, 14}; }
     static QColor cardStroke() { return QColor::fromRgbF(1, 1, 1, 0.07F); }
     /// What lies over the card and its texts, and so lets nothing through.
     static QColor popup() { return {30, 27, 38}; }

@@ -34,12 +34,31 @@ TestCase {
         }
     }
 
+    function init() {
+        mouseMove(testCase, 190, 190);
+    }
+
     function test_showsWhileTheListIsScrolledAndThenFades() {
         const view = createTemporaryObject(list, testCase);
         verify(!view.thumb.visible);
-        mouseWheel(view, 50, 50, 0, -120);
+        view.flick(0, -1000);
         tryVerify(() => view.thumb.visible && view.thumb.opacity > 0.5);
         tryVerify(() => !view.thumb.visible);
+    }
+
+    function test_showsWhileThePointerIsOverTheList() {
+        const view = createTemporaryObject(list, testCase);
+        mouseMove(view, 50, 50);
+        tryVerify(() => view.thumb.opacity === 1);
+        mouseMove(testCase, 190, 190);
+        tryVerify(() => !view.thumb.visible);
+    }
+
+    function test_ofALongListItEndsWithIt() {
+        const view = createTemporaryObject(list, testCase, { model: 1000 });
+        view.positionViewAtEnd();
+        compare(view.thumb.height, 16);
+        compare(view.thumb.y + view.thumb.height, 100);
     }
 
     function test_standsWhereTheListIs() {

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
+import Quib.Brand
 import Quib.Views
 
 /*!
@@ -24,13 +25,13 @@ ListView {
         required property int index
         required property var model
 
-        readonly property var entry: model.modelData ?? model
+        readonly property var entry: model.modelData ?? model // Null while a row goes.
 
         width: root.width
-        title: entry.title ?? ""
-        symbol: entry.symbol ?? ""
-        checked: entry.checked ?? false
-        isSeparator: entry.separator ?? false
+        title: entry?.title ?? ""
+        symbol: entry?.symbol ?? ""
+        checked: entry?.checked ?? false
+        isSeparator: entry?.separator ?? false
         isHighlighted: root.currentIndex === index
 
         onHoveredChanged: root.follow(index, hovered)
@@ -70,7 +71,7 @@ ListView {
             root.currentIndex += direction;
         }
         root.currentIndex = root.currentItem ? root.currentIndex : before;
-        root.positionViewAtIndex(root.currentIndex, ListView.Contain);
+        edges.revealRow(root.currentIndex);
     }
 
     function activates(key) {
@@ -85,7 +86,11 @@ ListView {
         }
     }
 
-    ScrollThumb {
+    ScrollEdges {
+        id: edges
+
         flickable: root
+        surface: Brand.popup
+        thumbMargin: -6 // Beside the list the menu ends.
     }
 }

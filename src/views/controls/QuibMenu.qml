@@ -47,6 +47,7 @@ T.Popup {
     }
 
     contentItem: MenuList {
+        objectName: "menuList"
         focus: true
         model: root.model
         Accessible.role: Accessible.PopupMenu

@@ -8,6 +8,8 @@ import Quib.Views
 ListView {
     id: root
 
+    property color surface: "black" // What the list lies on.
+
     readonly property bool overflows: root.contentHeight > root.height
 
     function scrollTo(y) {
@@ -34,8 +36,9 @@ ListView {
         event.accepted = false;
     }
 
-    ScrollThumb {
+    ScrollEdges {
         flickable: root
+        surface: root.surface
     }
 
     // Beside the list, which cuts off what stands out of it.

@@ -9,6 +9,8 @@ import Quib.Views
 ListView {
     id: root
 
+    property color surface: "black" // What the list lies on.
+
     signal stepped(by: int) // Rows, by a key; perhaps beyond the ends.
     signal emptied(reason: int) // The row with the focus is gone, and no other is there.
 
@@ -22,8 +24,7 @@ ListView {
     Keys.onPressed: event => root.stepByKey(event)
 
     function reveal(row) {
-        root.positionViewAtIndex(row, ListView.Contain);
-        root.forceLayout(); // It may have been too far away to be there.
+        edges.revealRow(row);
     }
 
     // For rows to which the focus comes.
@@ -71,5 +72,12 @@ ListView {
     function rowsInSight() {
         const row = root.currentItem ? root.currentItem.height + root.spacing : root.height;
         return Math.max(1, Math.floor(root.height / row));
+    }
+
+    ScrollEdges {
+        id: edges
+
+        flickable: root
+        surface: root.surface
     }
 }

@@ -6,7 +6,7 @@ import Quib.Views
 
 /*!
     Items side by side, made by a delegate that is a SidewaysItem. One is the stop of the keyboard, and
-    arrows and ends lead to the others. Where more of them lie out of sight the row fades away.
+    arrows and ends lead to the others.
 */
 FocusScope {
     id: root
@@ -19,7 +19,6 @@ FocusScope {
     property real room: 6 // Rings and badges stand out of the items.
     property bool showsAdded: false // Brings what is added at the end into sight.
 
-    readonly property real fadeWidth: 24
     readonly property int count: list.count
     readonly property Item currentItem: list.currentItem
 
@@ -51,15 +50,7 @@ FocusScope {
     }
 
     function reveal(row) {
-        list.positionViewAtIndex(row, ListView.Contain);
-        list.forceLayout(); // It may have been too far away to be there.
-        const item = list.itemAtIndex(row);
-        if (item) {
-            const before = row === 0 ? root.room : root.fadeWidth;
-            const after = row === list.count - 1 ? root.room : root.fadeWidth;
-            list.contentX = Math.max(item.x + item.width + after - list.width,
-                                     Math.min(list.contentX, item.x - before));
-        }
+        edges.revealRow(row);
     }
 
     function step(by) {
@@ -120,34 +111,9 @@ FocusScope {
         }
     }
 
-    Fade {
-        objectName: "moreBefore"
-        anchors.left: list.left
-        visible: !list.atXBeginning
-    }
+    ScrollEdges {
+        id: edges
 
-    Fade {
-        objectName: "moreAfter"
-        anchors.right: list.right
-        visible: !list.atXEnd
-        rotation: 180
-    }
-
-    // To the panel's black.
-    component Fade: Rectangle {
-        width: root.fadeWidth
-        height: root.height
-        gradient: Gradient {
-            orientation: Gradient.Horizontal
-
-            GradientStop {
-                position: 0
-                color: "black"
-            }
-            GradientStop {
-                position: 1
-                color: "transparent"
-            }
-        }
+        flickable: list
     }
 }

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
+import Quib.Brand
 import Quib.Views
 
 /*!
@@ -25,7 +26,7 @@ Card {
         const row = clients.rowOf(root.selection);
         if (row >= 0) {
             list.currentIndex = row;
-            list.positionViewAtIndex(row, ListView.Contain);
+            list.reveal(row);
         }
     }
 
@@ -77,6 +78,7 @@ Card {
             anchors.fill: parent
             anchors.topMargin: add.height + 4
             focus: true
+            surface: Brand.cardSurface
             spacing: 2
             Accessible.name: "Clients"
 
@@ -97,10 +99,6 @@ Card {
                     root.chosen(clientID);
                     root.focusRow(Qt.MouseFocusReason);
                 }
-            }
-
-            ScrollThumb {
-                flickable: list
             }
         }
     }

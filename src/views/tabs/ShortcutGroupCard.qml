@@ -28,8 +28,7 @@ FocusScope {
         const row = grid.currentIndex + by;
         if (row >= 0 && row < grid.count) {
             grid.currentIndex = row;
-            grid.positionViewAtIndex(row, GridView.Contain);
-            grid.forceLayout(); // It may have been too far away to be there.
+            edges.revealRow(row);
             (grid.currentItem as ShortcutCell).focusButton();
         }
     }
@@ -107,11 +106,18 @@ FocusScope {
             onOpened: root.opened(url)
         }
 
-        onActiveFocusChanged: if (activeFocus) positionViewAtIndex(currentIndex, GridView.Contain)
+        onActiveFocusChanged: if (activeFocus) edges.revealRow(currentIndex)
 
         Keys.onLeftPressed: root.step(-1)
         Keys.onRightPressed: root.step(1)
         Keys.onUpPressed: root.step(-root.columns)
         Keys.onDownPressed: root.step(root.columns)
+    }
+
+    ScrollEdges {
+        id: edges
+
+        flickable: grid
+        hasThumb: false
     }
 }

@@ -85,10 +85,6 @@ FocusScope {
         flickableDirection: Flickable.HorizontalFlick
         interactive: contentWidth > width + 0.5
 
-        function reveal(box) {
-            contentX = Math.max(box.x + box.width - width, Math.min(contentX, box.x));
-        }
-
         SidewaysWheel {
             flickable: boxes
             enabled: boxes.interactive
@@ -112,11 +108,17 @@ FocusScope {
                     focus: index === 0
                     icons: root.icons
 
-                    onActiveFocusChanged: if (activeFocus) boxes.reveal(this)
+                    onActiveFocusChanged: if (activeFocus) edges.reveal(this)
                     onOpened: url => root.actions.open(url)
                     onEditClicked: root.commands.editShortcuts()
                 }
             }
         }
+    }
+
+    ScrollEdges {
+        id: edges
+
+        flickable: boxes
     }
 }

@@ -31,8 +31,7 @@ Item {
     }
 
     function focusChip(row) {
-        chips.positionViewAtIndex(row, ListView.Contain);
-        chips.forceLayout(); // It may have been too far away to be there.
+        edges.revealRow(row);
         const chip = (chips.itemAtIndex(row) ?? allChip) as FilterChip;
         chip.forceActiveFocus(Qt.TabFocusReason);
         chip.focusReason = Qt.TabFocusReason; // The list may have given it the focus without.
@@ -96,12 +95,18 @@ Item {
             focusPolicy: selected || activeFocus ? Qt.TabFocus : Qt.NoFocus
 
             onClicked: root.chosen(clientID)
-            onActiveFocusChanged: if (activeFocus) chips.positionViewAtIndex(index, ListView.Contain)
+            onActiveFocusChanged: if (activeFocus) edges.revealRow(index)
         }
 
         SidewaysWheel {
             flickable: chips
         }
+    }
+
+    ScrollEdges {
+        id: edges
+
+        flickable: chips
     }
 
     PlainButton {

@@ -31,10 +31,6 @@ RowList {
         onDeleted: root.replace(index, () => root.store.deleteTask(taskID))
     }
 
-    ScrollThumb {
-        flickable: root
-    }
-
     QuibText {
         objectName: "nothing"
         anchors.horizontalCenter: parent.horizontalCenter

@@ -100,6 +100,7 @@ FocusScope {
                 width: parent.width
                 visible: root.isGranted && events.count > 0
                 focus: list.visible && list.overflows
+                surface: Brand.cardSurface
                 spacing: 6
                 model: events
                 Accessible.name: "Today's events"

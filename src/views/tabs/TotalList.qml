@@ -18,6 +18,7 @@ Item {
 
         objectName: "list"
         anchors.fill: parent
+        surface: Brand.cardSurface
         spacing: 8
         model: root.totals
         Accessible.name: "Time per client"
