@@ -165,7 +165,7 @@ void AppDelegate::followExpansion()
     }
     host.setInputRegion({});
     m_media.stopPolling();
-    host.giveBackKeyboard(std::exchange(m_endingClick, std::nullopt));
+    giveBackKeyboard();
 }
 
 /// Nobody but the user sees the card. What was to stay open does so again after the unlocking.
@@ -188,11 +188,18 @@ void AppDelegate::followDesktop()
 
 void AppDelegate::globalClick(quint32 time)
 {
-    if (!decideClick(tickAt(m_platform.pointer->state()))) {
+    switch (decideClick(tickAt(m_platform.pointer->state()))) {
+    case ClickAction::None: return;
+    case ClickAction::Collapse:
+        m_endingClick = time;
+        collapse(true);
+        return;
+    case ClickAction::CloseMenu:
+        m_endingClick = time;
+        Q_EMIT clickedElsewhere();
+        m_endingClick.reset();
         return;
     }
-    m_endingClick = time;
-    collapse(true);
 }
 
 void AppDelegate::activate()

@@ -66,7 +66,8 @@ public:
     void quit() override;
     void pick(bool directories, const std::optional<QUrl>& startIn, Completion completion) override;
     QString applicationName(const QString& path) const override;
-    void takeKeyboard() override;
+    bool takeKeyboard() override;
+    void giveBackKeyboard() override;
     void dismiss() override;
     StatusMenu* menu() override { return &m_menu; }
     bool isMenuInStatusBar() const override;

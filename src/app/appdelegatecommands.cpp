@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QPointer>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace quib {
@@ -146,9 +148,14 @@ QString AppDelegate::applicationName(const QString& path) const
     return m_platform.applications->nameOf(path);
 }
 
-void AppDelegate::takeKeyboard()
+bool AppDelegate::takeKeyboard()
 {
-    m_platform.panelHost->takeKeyboard();
+    return m_platform.panelHost->takeKeyboard();
+}
+
+void AppDelegate::giveBackKeyboard()
+{
+    m_platform.panelHost->giveBackKeyboard(std::exchange(m_endingClick, std::nullopt));
 }
 
 void AppDelegate::dismiss()

@@ -56,6 +56,10 @@ FocusScope {
         }
     }
 
+    CardMenus {
+        commands: root.commands
+    }
+
     CardKeys {
         model: root.model
 
@@ -170,7 +174,6 @@ FocusScope {
                 actions: root.actions
                 icons: root.icons
                 files: root.files
-                commands: root.commands
                 isMotionReduced: root.model.isMotionReduced
             }
         }

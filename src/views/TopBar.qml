@@ -38,7 +38,6 @@ Item {
 
     function openMenu(x) {
         root.commands.menu.open(); // Brings its check marks up to date.
-        root.commands.takeKeyboard();
         menu.x = x;
         menu.open();
     }

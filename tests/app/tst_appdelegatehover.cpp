@@ -37,6 +37,7 @@ private Q_SLOTS:
     void pinTakenAway_collapsesAfterTheUsualDelay();
     void runningTimer_widensTheHitArea();
     void clickElsewhere_collapsesAtTheNextTurn();
+    void clickElsewhere_whilePinned_isToldToTheViews();
     void clickInTheCard_leavesItOpen();
     void pointerBackBeforeTheCollapse_forgetsTheClick();
     void dismiss_collapsesAndGivesTheKeyboardBack();
@@ -158,6 +159,20 @@ void AppDelegateHoverTest::clickElsewhere_collapsesAtTheNextTurn()
     QVERIFY(!model.isExpanded());
     QCOMPARE(m_quib->shell.asked,
              (QStringList{u"let clicks through"_s, u"give back keyboard 4711"_s}));
+}
+
+void AppDelegateHoverTest::clickElsewhere_whilePinned_isToldToTheViews()
+{
+    auto& delegate = m_quib->launched();
+    delegate.openQuib();
+    m_quib->shell.asked.clear();
+    connect(&delegate, &quib::Commands::clickedElsewhere, this,
+            [&delegate] { delegate.giveBackKeyboard(); });
+
+    move(u"oxcxox"_s); // The second click is in the card.
+
+    QCOMPARE(m_quib->shell.asked,
+             QStringList(2, u"give back keyboard 4711"_s)); // With the stamp of the click.
 }
 
 void AppDelegateHoverTest::clickInTheCard_leavesItOpen()

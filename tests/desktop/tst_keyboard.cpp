@@ -18,6 +18,8 @@ private Q_SLOTS:
     void clickElsewhere_givesTheKeyboardToTheClickedWindow();
     void halfTypedText_survivesACollapse();
     void menu_isUsableByKeyboard();
+    void menuOpenedByPointer_isLeftByEscape();
+    void menu_isLeftByAClickElsewhereWhilePinned();
     void keyHeldDown_pressesOnce();
 };
 
@@ -31,6 +33,23 @@ struct ListeningDesk : Desk {
 
     qsizetype keysBeneath() { return heard.count("KeyPress event"); }
 };
+
+constexpr QPoint ClientPicker{1058, 60};
+constexpr QPoint AtTheMenusEdge{936, 100};
+
+bool isMenuOpen(const Desk& desk)
+{
+    return desk.pixel(AtTheMenusEdge) == QColor(30, 27, 38);
+}
+
+/// By the pointer alone.
+void openTheMenuOfClients(const Desk& desk)
+{
+    desk.openWithPointer();
+    desk.showTab(3);
+    desk.click(ClientPicker);
+    QTRY_VERIFY(isMenuOpen(desk));
+}
 
 void goToTheTaskField(const Desk& desk)
 {
@@ -153,6 +172,38 @@ void KeyboardTest::menu_isUsableByKeyboard()
     const auto data = desk.data();
     const auto task = data.value("tasks"_L1)[0];
     QCOMPARE(task["clientID"_L1], data.value("clients"_L1)[0]["id"_L1]);
+}
+
+/// What is typed before and after goes on to the window beneath.
+void KeyboardTest::menuOpenedByPointer_isLeftByEscape()
+{
+    ListeningDesk desk;
+    openTheMenuOfClients(desk);
+    desk.heard.forget();
+
+    desk.key(u"Escape"_s);
+    QTRY_VERIFY(!isMenuOpen(desk));
+    QVERIFY(desk.isExpanded());
+    QCOMPARE(desk.keysBeneath(), 0);
+    desk.key(u"a"_s);
+
+    QTRY_COMPARE(desk.keysBeneath(), 1);
+}
+
+void KeyboardTest::menu_isLeftByAClickElsewhereWhilePinned()
+{
+    ListeningDesk desk;
+    desk.openWithPointer();
+    desk.click(Desk::Pin);
+    openTheMenuOfClients(desk);
+
+    desk.click(Desk::FarAway);
+    QTRY_VERIFY(!isMenuOpen(desk));
+    QVERIFY(desk.isExpanded());
+    desk.heard.forget();
+    desk.key(u"a"_s);
+
+    QTRY_COMPARE(desk.keysBeneath(), 1);
 }
 
 /// Where each press would take away another item of the quick-launch strip.

@@ -13,6 +13,7 @@ public:
     QList<Completion> choices;
     quib::StatusMenu statusMenu;
     bool inStatusBar = true;
+    bool hasKeyboard = false; ///< Before it is taken.
 
     void pick(bool directories, const std::optional<QUrl>& startIn, Completion completion) override
     {
@@ -25,7 +26,12 @@ public:
     {
         return QStringLiteral("the application at ") + path;
     }
-    void takeKeyboard() override { asked << QStringLiteral("take keyboard"); }
+    bool takeKeyboard() override
+    {
+        asked << QStringLiteral("take keyboard");
+        return !hasKeyboard;
+    }
+    void giveBackKeyboard() override { asked << QStringLiteral("give back keyboard"); }
     void expand(bool toShelf) override
     {
         asked << (toShelf ? QStringLiteral("expand to the shelf") : QStringLiteral("expand"));

@@ -50,7 +50,11 @@ public:
     }
     void setVisibleShape(const QPainterPath& visible) override { shape = visible; }
     void orderFront() override { m_asked << QStringLiteral("order front"); }
-    void takeKeyboard() override { m_asked << QStringLiteral("take keyboard"); }
+    bool takeKeyboard() override
+    {
+        m_asked << QStringLiteral("take keyboard");
+        return true;
+    }
     void giveBackKeyboard(std::optional<quint32> click) override
     {
         m_asked << QStringLiteral("give back keyboard %1").arg(click.value_or(0));

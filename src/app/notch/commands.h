@@ -30,8 +30,10 @@ public:
         = 0;
     /// What the application at a full path is called, in the user's language.
     virtual QString applicationName(const QString& path) const = 0;
-    /// Gives the panel the keyboard, for an edit that a control starts.
-    Q_INVOKABLE virtual void takeKeyboard() = 0;
+    /// Gives the panel the keyboard, for an edit that a control starts. False where it has it
+    /// already.
+    Q_INVOKABLE virtual bool takeKeyboard() = 0;
+    Q_INVOKABLE virtual void giveBackKeyboard() = 0;
     /// Opens the card, on the shelf if wanted.
     Q_INVOKABLE virtual void expand(bool toShelf) = 0;
     /// Closes the card, unless it is pinned or a dialog holds it open.
@@ -45,6 +47,8 @@ public:
 
 Q_SIGNALS:
     void isMenuInStatusBarChanged();
+    /// By the left button, on something else than the card, which is kept open.
+    void clickedElsewhere();
 };
 
 } // namespace quib

@@ -29,9 +29,12 @@ HoverAction decideHover(const HoverTick& tick)
     return tick.buttonHeld ? HoverAction::ExpandToShelf : HoverAction::Expand;
 }
 
-bool decideClick(const HoverTick& tick)
+ClickAction decideClick(const HoverTick& tick)
 {
-    return tick.expanded && !tick.keptOpen && !tick.pointerInside;
+    if (!tick.expanded || tick.pointerInside) {
+        return ClickAction::None;
+    }
+    return tick.keptOpen ? ClickAction::CloseMenu : ClickAction::Collapse;
 }
 
 } // namespace quib

@@ -18,7 +18,9 @@ enum class HoverAction { None, Expand, ExpandToShelf, ScheduleCollapse, CancelCo
 /// The one thing to do about a tick. Pure: the caller owns the clock, the pointer and the panel.
 HoverAction decideHover(const HoverTick& tick);
 
-/// Whether a left click, seen on `tick`, closes the card at once. The button says nothing here.
-bool decideClick(const HoverTick& tick);
+enum class ClickAction { None, Collapse, CloseMenu };
+
+/// What to do at once about a left click, seen on `tick`. The button says nothing here.
+ClickAction decideClick(const HoverTick& tick);
 
 } // namespace quib

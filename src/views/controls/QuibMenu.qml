@@ -56,12 +56,18 @@ T.Popup {
     }
 
     onAboutToShow: root.begin()
-    onClosed: root.giveBack(root.hadRing ? Qt.TabFocusReason : Qt.PopupFocusReason)
+    onClosed: root.end()
 
     function begin() {
         root.focusedBefore = FocusedItem.in(root.parent.Window.window);
         root.hadRing = (root.focusedBefore as PlainButton)?.visualFocus ?? false;
         (root.contentItem as MenuList).begin(root.startIndex);
+        OpenMenu.menu = root;
+    }
+
+    function end() {
+        root.giveBack(root.hadRing ? Qt.TabFocusReason : Qt.PopupFocusReason);
+        OpenMenu.menu = null;
     }
 
     function giveBack(reason) {

@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-import Quib.Notch
 import Quib.Views
 
 /*!
@@ -16,7 +15,6 @@ SidewaysList {
     required property Actions actions
     required property IconSource icons
     required property FileProbe files
-    required property Commands commands
     required property bool isMotionReduced
 
     signal removed(itemID: uuid)
@@ -75,7 +73,6 @@ SidewaysList {
 
         function openFor(tile, place) {
             const here = root.mapFromItem(tile, place);
-            root.commands.takeKeyboard(); // Or Escape would go elsewhere.
             menu.path = tile.path;
             menu.x = here.x;
             menu.y = here.y;

@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 import Quib.Brand
-import Quib.Notch
 import Quib.Views
 
 /*!
@@ -16,7 +15,6 @@ FocusScope {
     required property Actions actions
     required property IconSource icons
     required property FileProbe files
-    required property Commands commands
     required property bool isMotionReduced
 
     ShelfListModel {
@@ -80,7 +78,6 @@ FocusScope {
         actions: root.actions
         icons: root.icons
         files: root.files
-        commands: root.commands
         isMotionReduced: root.isMotionReduced
 
         onRemoved: itemID => root.store.removeFromShelf(itemID)

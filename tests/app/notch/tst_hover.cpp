@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+using quib::ClickAction;
 using quib::HoverAction;
 using quib::HoverTick;
 
@@ -59,26 +60,29 @@ void HoverTest::tick()
 void HoverTest::click_data()
 {
     QTest::addColumn<HoverTick>("tick");
-    QTest::addColumn<bool>("closes");
+    QTest::addColumn<ClickAction>("action");
 
-    QTest::addRow("collapsed") << HoverTick{.buttonHeld = true} << false;
+    QTest::addRow("collapsed") << HoverTick{.buttonHeld = true} << ClickAction::None;
     QTest::addRow("in the card") << HoverTick{.pointerInside = true,
                                               .buttonHeld = true,
                                               .expanded = true}
-                                 << false;
-    QTest::addRow("elsewhere") << HoverTick{.buttonHeld = true, .expanded = true} << true;
+                                 << ClickAction::None;
+    QTest::addRow("elsewhere") << HoverTick{.buttonHeld = true, .expanded = true}
+                               << ClickAction::Collapse;
     QTest::addRow("elsewhere, kept open")
-        << HoverTick{.buttonHeld = true, .expanded = true, .keptOpen = true} << false;
+        << HoverTick{.buttonHeld = true, .expanded = true, .keptOpen = true}
+        << ClickAction::CloseMenu;
     QTest::addRow("elsewhere, collapse pending")
-        << HoverTick{.buttonHeld = true, .expanded = true, .collapsePending = true} << true;
+        << HoverTick{.buttonHeld = true, .expanded = true, .collapsePending = true}
+        << ClickAction::Collapse;
 }
 
 void HoverTest::click()
 {
     QFETCH(HoverTick, tick);
-    QFETCH(bool, closes);
+    QFETCH(ClickAction, action);
 
-    QCOMPARE(quib::decideClick(tick), closes);
+    QCOMPARE(quib::decideClick(tick), action);
 }
 
 QTEST_APPLESS_MAIN(HoverTest)

@@ -33,13 +33,15 @@ KeyboardLoan::KeyboardLoan()
     qApp->installNativeEventFilter(this);
 }
 
-void KeyboardLoan::take(xcb_window_t window)
+bool KeyboardLoan::take(xcb_window_t window)
 {
     const auto lender = focusedWindow();
     // Now, not when Qt last heard of anything: another program may have had the focus since.
-    if (lender != window && focus(window, XCB_CURRENT_TIME)) {
-        m_lender = lender;
+    if (lender == window || !focus(window, XCB_CURRENT_TIME)) {
+        return false;
     }
+    m_lender = lender;
+    return true;
 }
 
 void KeyboardLoan::giveBack(xcb_window_t window, std::optional<quint32> click) const

@@ -15,7 +15,8 @@ class KeyboardLoan final : private QAbstractNativeEventFilter {
 public:
     KeyboardLoan();
 
-    void take(xcb_window_t window);
+    /// False where the window has it already, or can not have it.
+    bool take(xcb_window_t window);
     /// Where `window` has it, however that came about: other programs give the keyboard back to
     /// whom they took it from. It goes to the last lender, or to where the pointer is once that has
     /// gone. `click` is the stamp of the click that ended the loan; 0 where its time is not known.

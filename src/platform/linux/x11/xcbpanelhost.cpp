@@ -97,12 +97,9 @@ void XcbPanelHost::orderFront()
     }
 }
 
-void XcbPanelHost::takeKeyboard()
+bool XcbPanelHost::takeKeyboard()
 {
-    if (nativeWindow() == XCB_NONE) {
-        return;
-    }
-    m_keyboard.take(nativeWindow());
+    return nativeWindow() != XCB_NONE && m_keyboard.take(nativeWindow());
 }
 
 void XcbPanelHost::giveBackKeyboard(std::optional<quint32> click)

@@ -26,7 +26,7 @@ public:
     void setInputRegion(const QRegion& region) override;
     void setVisibleShape(const QPainterPath& shape) override;
     void orderFront() override;
-    void takeKeyboard() override;
+    bool takeKeyboard() override;
     void giveBackKeyboard(std::optional<quint32> click) override;
 
     /// Where clicks stay with the panel, in global points.
