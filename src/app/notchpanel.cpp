@@ -58,10 +58,26 @@ void NotchPanel::followShape(const NotchShape& shape)
     tell();
 }
 
+/// A finger never becomes a mouse before it has reached the items. Some versions of Qt move the
+/// focus when it is lifted.
+bool NotchPanel::event(QEvent* event)
+{
+    const bool isFinger = event->type() == QEvent::TouchBegin || event->type() == QEvent::TouchEnd;
+    if (isFinger) {
+        followPress(static_cast<QTouchEvent*>(event)->points().constFirst().scenePosition());
+    }
+    return QQuickView::event(event);
+}
+
 void NotchPanel::mousePressEvent(QMouseEvent* event)
 {
     QQuickView::mousePressEvent(event);
-    m_press = event->position();
+    followPress(event->position());
+}
+
+void NotchPanel::followPress(QPointF press)
+{
+    m_press = press;
     m_afterPress.start();
 }
 

@@ -42,10 +42,12 @@ public:
     NotchPanel(const ViewContext& context, PanelHost& host);
 
 protected:
+    bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
     void followShape(const NotchShape& shape);
+    void followPress(QPointF press);
     void takeKeyboardForText(QPointF press);
 
     PanelHost& m_host;
