@@ -13,10 +13,12 @@ LastInput::LastInput(QObject* parent)
 
 bool LastInput::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin) {
-        take(true);
-    } else if (event->type() == QEvent::KeyPress) {
-        take(false);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::TouchBegin:
+    case QEvent::Wheel: take(true); break;
+    case QEvent::KeyPress: take(false); break;
+    default: break; // NOLINT: Qt's events are not ours to list
     }
     return QObject::eventFilter(watched, event);
 }

@@ -6,8 +6,8 @@
 
 namespace quib {
 
-/// What the user did last: a press of the pointer or of a key. Rings of the keyboard are seen while
-/// it is not the pointer.
+/// What the user did last: a press or a turn of the wheel, or a key. Rings of the keyboard are seen
+/// while it is not the pointer.
 class LastInput : public QObject {
     Q_OBJECT
     QML_ELEMENT

