@@ -3,6 +3,7 @@
 #include "views/symbolsvg.h"
 
 #include <QHash>
+#include <QPainterPathStroker>
 #include <QTransform>
 
 #include <algorithm>
@@ -137,6 +138,53 @@ QPainterPath noteText(int pixels, double /*line*/)
     return path;
 }
 
+/// Two angles with room between their feet, or they would be a ring. Larger the icon has it.
+QPainterPath upAndDown(int pixels, double /*line*/)
+{
+    if (pixels > 13) {
+        return {};
+    }
+    const double part = pixels / 8.0;
+    QPainterPath up(QPointF(part, 2.4 * part));
+    up.lineTo(4 * part, 0.6 * part);
+    up.lineTo(7 * part, 2.4 * part);
+    QPainterPath both = up;
+    both.addPath(QTransform(1, 0, 0, -1, 0, pixels).map(up));
+    QPainterPathStroker pen;
+    pen.setWidth(1.2 * part);
+    pen.setJoinStyle(Qt::MiterJoin);
+    return pen.createStroke(both);
+}
+
+QPainterPath rectangle(const QRectF& box)
+{
+    QPainterPath path;
+    path.addRect(box);
+    return path;
+}
+
+/// A plus above two links of a chain that lies level: slanting, they would run into one another.
+/// Larger the icon is as clear.
+QPainterPath linkAndPlus(int pixels, double line)
+{
+    if (pixels < 11 || pixels > 20) {
+        return {};
+    }
+    const double pen = std::max(1.0, std::floor(line)); // Or the links would close up.
+    const double side = pen + 2 * std::floor((pixels * 0.42 - pen) / 2);
+    const double edge = (side - pen) / 2; // From there to the line in the middle.
+    const QRectF chain(0, pixels - 1 - side, pixels, side);
+    const QRectF plus(pixels - side, 0, side, side);
+    QPainterPath path;
+    path.addRoundedRect(chain, side / 2, side / 2);
+    path.addRoundedRect(chain.adjusted(pen, pen, -pen, -pen), edge, edge);
+    const double half = pixels / 2.0;
+    path = without(path, rectangle(chain.adjusted(half - pen, 0, pen - half, 0)));
+    path = joined(path, rectangle(chain.adjusted(edge + pen, edge, -edge - pen, -edge)));
+    path = joined(path, rectangle(plus.adjusted(0, edge, 0, -edge)));
+    return joined(path, rectangle(plus.adjusted(edge, 0, -edge, 0)));
+}
+
 QPainterPath frameOutline(Frame frame, double inset)
 {
     const QRectF box(inset, inset, 1 - 2 * inset, 1 - 2 * inset);
@@ -165,8 +213,10 @@ QPainterPath made(const QPainterPath& shape, double extent)
 PixelDrawing pixelDrawing(const QString& name)
 {
     static const QHash<QString, PixelDrawing> drawings{
+        {u"chevron.up.chevron.down"_s, upAndDown},
         {u"circle.hexagongrid"_s, hexagonGrid},
         {u"circle.hexagongrid.fill"_s, filledHexagonGrid},
+        {u"link.badge.plus"_s, linkAndPlus},
         {u"note.text"_s, noteText},
         {u"person.2"_s, twoPersons},
         {u"waveform"_s, waveform},

@@ -89,15 +89,11 @@ std::optional<SymbolShape> drawnShape(PixelDrawing drawing)
 
 std::optional<SymbolShape> simpleShape(const QString& name)
 {
-    const auto drawing = pixelDrawing(name);
-    auto shape = drawnShape(drawing);
+    auto shape = drawnShape(pixelDrawing(name));
     for (const auto& icon : iconsFor(name)) {
         if (!shape) {
             shape = iconShape(icon);
         }
-    }
-    if (shape) {
-        shape->drawing = drawing;
     }
     return shape;
 }
@@ -140,8 +136,14 @@ std::optional<SymbolShape> composedShape(const QString& name)
 
 std::optional<SymbolShape> shapeOf(const QString& name)
 {
-    const auto simple = simpleShape(name);
-    return simple ? simple : composedShape(name);
+    auto shape = simpleShape(name);
+    if (!shape) {
+        shape = composedShape(name);
+    }
+    if (shape) {
+        shape->drawing = pixelDrawing(name);
+    }
+    return shape;
 }
 
 } // namespace

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void weight_leavesFilledSymbolsAlone();
     void homeSymbol_atTwelvePixels_isSevenRings();
     void waveform_atTwelvePixels_isBarsWithGaps();
+    void smallParts_standApart_data();
+    void smallParts_standApart();
     void value_lightsWholeBars_data();
     void value_lightsWholeBars();
     void isKnown_tellsNamesThatMeanSomething();
@@ -186,6 +188,39 @@ void SymbolTest::waveform_atTwelvePixels_isBarsWithGaps()
     const auto image = symbolImage({.name = u"waveform"_s, .size = 12, .weight = 600}, 1);
 
     QVERIFY(countPatches(image) >= 5);
+}
+
+void SymbolTest::smallParts_standApart_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("weight");
+    QTest::addColumn<int>("pixels");
+    QTest::addColumn<int>("parts");
+
+    const auto arrows = u"chevron.up.chevron.down"_s;
+    const auto link = u"link.badge.plus"_s;
+    for (const int pixels : {8, 10, 12, 16}) {
+        QTest::addRow("an arrow up and one down, %d", pixels)
+            << arrows << int(QFont::Normal) << pixels << 2;
+    }
+    for (const int pixels : {12, 15, 18}) {
+        QTest::addRow("two links, what joins them, a plus, %d", pixels)
+            << link << int(QFont::DemiBold) << pixels << 4;
+    }
+}
+
+/// At the sizes of the tabs, in pixels of the scales.
+void SymbolTest::smallParts_standApart()
+{
+    QFETCH(const QString, name);
+    QFETCH(const int, weight);
+    QFETCH(const int, pixels);
+    QFETCH(const int, parts);
+
+    const auto image = symbolImage(
+        {.name = name, .size = double(pixels), .weight = weight, .color = Qt::black}, 1);
+
+    QCOMPARE(countPatches(image), parts);
 }
 
 void SymbolTest::value_lightsWholeBars_data()
