@@ -23,6 +23,7 @@ private Q_SLOTS:
     void events_sayWhenAndHowFarOff();
     void timeZoneChanges_eventsSayWhenThere();
     void distance_countsLive();
+    void distance_keepsItsWidthWhileItCounts();
     void manyEvents_scroll();
 
 private:
@@ -133,6 +134,28 @@ void TodayCardTest::distance_countsLive()
     m_tab->hands.now = m_tab->hands.now.addMSecs(1005);
 
     QTRY_COMPARE(text(row, u"distanceText"_s), u"4 min, 58 sec"_s);
+}
+
+void TodayCardTest::distance_keepsItsWidthWhileItCounts()
+{
+    m_tab.reset();
+    const auto before = QGuiApplication::font();
+    QGuiApplication::setFont(QFont(u"Inter"_s)); // Its digits are not of one width.
+    m_tab = std::make_unique<HomeTab>();
+    m_tab->grant({m_tab->event(u"Call"_s, 15)});
+    auto* row = events().front();
+    const auto start = m_tab->hands.now;
+    QSet<double> widths;
+
+    for (int second = 1; second < 5 * 60; ++second) {
+        turnClock(start.addSecs(second));
+        if (text(row, u"distanceText"_s).size() == u"10 min, 10 sec"_s.size()) {
+            widths << ShownPanel::find(row, u"capsule"_s)->width();
+        }
+    }
+
+    QGuiApplication::setFont(before);
+    QCOMPARE(widths.size(), 1);
 }
 
 void TodayCardTest::manyEvents_scroll()

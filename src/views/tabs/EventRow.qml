@@ -77,14 +77,12 @@ Item {
             color: Qt.alpha(root.eventColor, 0.15)
         }
 
-        QuibText {
+        DistanceText {
             id: distanceText
 
             objectName: "distanceText"
             anchors.centerIn: parent
             text: distance.visible ? Format.timeBetween(root.start, root.now) : ""
-            size: 10
-            weight: Font.Bold
         }
     }
 }
