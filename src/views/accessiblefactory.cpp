@@ -2,6 +2,7 @@
 
 #include "views/accessiblefield.h"
 #include "views/accessibleitem.h"
+#include "views/accessiblewindow.h"
 
 namespace quib {
 
@@ -9,6 +10,9 @@ namespace {
 
 QAccessibleInterface* tell(const QString& /*className*/, QObject* object)
 {
+    if (auto* window = qobject_cast<QQuickWindow*>(object)) {
+        return new AccessibleWindow(*window);
+    }
     auto* item = qobject_cast<QQuickItem*>(object);
     auto* attached = item ? AccessibleItem::attachedTo(*item) : nullptr;
     if (!attached) {

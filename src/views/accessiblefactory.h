@@ -2,7 +2,8 @@
 
 namespace quib {
 
-/// From now on readers are told of items in our way, also of those they know of already.
+/// From now on readers are told of windows and items in our way, also of those they know of
+/// already.
 void installAccessibleFactory();
 
 } // namespace quib

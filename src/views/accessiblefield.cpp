@@ -117,7 +117,7 @@ std::optional<int> AccessibleField::nearestPosition(const QPoint& point) const
 {
     const auto* type = item().metaObject();
     const auto positionAt = type->method(type->indexOfMethod("positionAt(double,double)"));
-    const QRectF place = rect();
+    const QRectF place = wholeRect();
     const auto part = point - place.topLeft();
     int position = 0;
     const bool isTold

@@ -1,6 +1,5 @@
 #include "views/accessibleitem.h"
 
-#include <QQuickWindow>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
@@ -27,20 +26,13 @@ void collectChildren(const QQuickItem& item, QList<QAccessibleInterface*>& found
     }
 }
 
-QList<QAccessibleInterface*> childrenOf(const QQuickItem& item)
-{
-    QList<QAccessibleInterface*> found;
-    collectChildren(item, found);
-    return found;
-}
-
 QRectF sceneRect(const QQuickItem& item)
 {
     return item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
 }
 
-/// Whether an item that clips, or the window, leaves nothing of it to be seen.
-bool isCutOff(const QQuickItem& item)
+/// What items that clip, and the window, leave of it to be seen.
+QRectF partInSight(const QQuickItem& item)
 {
     auto rect = sceneRect(item);
     for (const auto* above = item.parentItem(); above; above = above->parentItem()) {
@@ -48,7 +40,7 @@ bool isCutOff(const QQuickItem& item)
             rect &= sceneRect(*above);
         }
     }
-    return rect.isEmpty();
+    return rect;
 }
 
 bool isControl(const QQuickItem& item)
@@ -66,6 +58,38 @@ QObject* AccessibleItem::attachedTo(const QQuickItem& item)
         }
     }
     return nullptr;
+}
+
+QList<QAccessibleInterface*> AccessibleItem::childrenOf(const QQuickItem& item)
+{
+    QList<QAccessibleInterface*> found;
+    collectChildren(item, found);
+    return found;
+}
+
+QAccessibleInterface* AccessibleItem::focusIn(const QQuickWindow& window)
+{
+    auto* focus = window.activeFocusItem();
+    return focus ? interfaceOf(*focus) : nullptr;
+}
+
+QAccessibleInterface* AccessibleItem::childAt(const QAccessibleInterface& parent, QPoint place)
+{
+    for (int i = parent.childCount() - 1; i >= 0; --i) {
+        auto* found = parent.child(i);
+        if (found->rect().contains(place) && !found->state().invisible) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+QRect AccessibleItem::dots(const QWindow& window, const QRectF& part)
+{
+    const QPointF origin = window.screen()->geometry().topLeft();
+    const auto scale = window.devicePixelRatio();
+    const auto topLeft = (window.mapToGlobal(part.topLeft()) - origin) * scale + origin;
+    return QRectF(topLeft, part.size() * scale).toRect();
 }
 
 AccessibleItem::AccessibleItem(QQuickItem& item, QObject& attached)
@@ -102,13 +126,7 @@ int AccessibleItem::indexOfChild(const QAccessibleInterface* child) const
 
 QAccessibleInterface* AccessibleItem::childAt(int x, int y) const
 {
-    for (int i = childCount() - 1; i >= 0; --i) { // What is drawn last lies on top.
-        auto* found = child(i);
-        if (found->rect().contains(x, y) && !found->state().invisible) {
-            return found;
-        }
-    }
-    return nullptr;
+    return childAt(*this, {x, y});
 }
 
 QAccessibleInterface* AccessibleItem::focusChild() const
@@ -144,7 +162,7 @@ QAccessible::State AccessibleItem::state() const
     state.focused = item().window() && item().window()->activeFocusItem() == &item();
     state.focusable = is("focusable") || item().activeFocusOnTab() || state.focused;
     state.invisible = !item().isVisible() || !item().window() || !item().window()->isVisible();
-    state.offscreen = isCutOff(item());
+    state.offscreen = partInSight(item()).isEmpty();
     return state;
 }
 
@@ -161,7 +179,8 @@ void AccessibleItem::setText(QAccessible::Text /*type*/, const QString& /*text*/
 
 QRect AccessibleItem::rect() const
 {
-    return globalRect({0, 0, item().width(), item().height()});
+    const auto seen = partInSight(item());
+    return seen.isEmpty() ? wholeRect() : globalRect(item().mapRectFromScene(seen));
 }
 
 void* AccessibleItem::interface_cast(QAccessible::InterfaceType type)
@@ -196,14 +215,7 @@ QStringList AccessibleItem::keyBindingsForAction(const QString& /*name*/) const
 QRect AccessibleItem::globalRect(const QRectF& part) const
 {
     const auto* window = item().window();
-    if (!window) {
-        return {};
-    }
-    const auto inScene = item().mapRectToScene(part);
-    const QPointF origin = window->screen()->geometry().topLeft();
-    const auto scale = window->devicePixelRatio();
-    const auto topLeft = (window->mapToGlobal(inScene.topLeft()) - origin) * scale + origin;
-    return QRectF(topLeft, inScene.size() * scale).toRect();
+    return window ? dots(*window, item().mapRectToScene(part)) : QRect();
 }
 
 bool AccessibleItem::is(const char* state) const

@@ -3,16 +3,26 @@
 #include <QAccessibleObject>
 #include <QPointer>
 #include <QQuickItem>
+#include <QQuickWindow>
 
 namespace quib {
 
 /// What readers are told of an item by what QML attaches to it, but of controls by their own
 /// property `role`: Qt 6.4 makes every template a button. Places are those where it is drawn, also
-/// at another scale, and what is scrolled away is not showing.
+/// at another scale, without what lists and fields cut off, and what is scrolled away is not
+/// showing.
 class AccessibleItem : public QAccessibleObject, public QAccessibleActionInterface {
 public:
     /// Null for what nothing is attached to, and for what is ignored.
     static QObject* attachedTo(const QQuickItem& item);
+    /// What is told of below an item, which may be told of itself or not.
+    static QList<QAccessibleInterface*> childrenOf(const QQuickItem& item);
+    /// What is told of the item of a window that has the keyboard; null where there is none.
+    static QAccessibleInterface* focusIn(const QQuickWindow& window);
+    /// The last of them that is shown there, so the one on top; null where there is none.
+    static QAccessibleInterface* childAt(const QAccessibleInterface& parent, QPoint place);
+    /// A part of a window in dots of the screen: Qt 6.4 hands on to readers what it is given.
+    static QRect dots(const QWindow& window, const QRectF& part);
 
     AccessibleItem(QQuickItem& item, QObject& attached);
 
@@ -37,8 +47,10 @@ public:
 
 protected:
     QQuickItem& item() const { return static_cast<QQuickItem&>(*object()); }
-    /// Of a part of the item, in dots of the screen: Qt 6.4 hands on to readers what it is given.
+    /// Of a part of the item, in dots of the screen.
     QRect globalRect(const QRectF& part) const;
+    /// All of it, where it would be drawn if nothing were cut off.
+    QRect wholeRect() const { return globalRect({0, 0, item().width(), item().height()}); }
 
 private:
     bool is(const char* state) const;

@@ -117,7 +117,7 @@ bool isContainer(const Told& thing)
 }
 
 /// What is wrong with what is told of one thing; empty where nothing is.
-QString faultOf(const Told& thing, const QRect& card, const QImage& picture)
+QString faultOf(const Told& thing, const Told& parent, const QRect& card, const QImage& picture)
 {
     if (thing.name.isEmpty() && (thing.is(state::Focusable) || thing.canBePressed())) {
         return u"has no name"_s;
@@ -125,26 +125,35 @@ QString faultOf(const Told& thing, const QRect& card, const QImage& picture)
     if (thing.role.isEmpty() || thing.role == "unknown"_L1) {
         return u"has no role"_s;
     }
-    if (!card.adjusted(-8, -8, 8, 8).intersects(thing.place)) { // Rings stand out of lists.
+    if (!card.contains(thing.place)) {
         return u"is not on the card"_s;
     }
-    if (!isContainer(thing) && !showsSomething(picture, thing.place)) {
+    if (!parent.place.adjusted(-1, -1, 1, 1).contains(thing.place)) { // Less than a dot is rounded.
+        return u"is not within '%1'"_s.arg(parent.name);
+    }
+    const bool isSliver = thing.place.height() < 12; // Of a row that is cut in its padding.
+    if (!isContainer(thing) && !isSliver && !showsSomething(picture, thing.place)) {
         return u"is told where nothing is drawn"_s;
     }
     return {};
 }
 
-QStringList faults(const Told& panel, const QRect& card, const QImage& picture)
+/// Of all that is shown below.
+QStringList faults(const Told& parent, const QRect& card, const QImage& picture)
 {
     QStringList found;
-    for (const auto* thing : panel.shown()) {
-        const auto fault = thing->role == "frame"_L1 ? QString() : faultOf(*thing, card, picture);
+    for (const auto& thing : parent.parts) {
+        const auto fault
+            = thing.is(state::Showing) ? faultOf(thing, parent, card, picture) : QString();
         if (!fault.isEmpty()) {
-            found << u"%1 '%2' at %3,%4 %5"_s.arg(thing->role, thing->name)
-                         .arg(thing->place.x())
-                         .arg(thing->place.y())
+            found << u"%1 '%2' at %3,%4, %5 x %6, %7"_s.arg(thing.role, thing.name)
+                         .arg(thing.place.x())
+                         .arg(thing.place.y())
+                         .arg(thing.place.width())
+                         .arg(thing.place.height())
                          .arg(fault);
         }
+        found << faults(thing, card, picture);
     }
     return found;
 }
