@@ -23,6 +23,18 @@ void selectFirstClient(PanelForPicture& panel)
     panel.click({140, 98});
 }
 
+void armDeletion(PanelForPicture& panel)
+{
+    selectFirstClient(panel);
+    panel.picture(); // The editor finds its place.
+    panel.click({695, 174});
+}
+
+void openMenu(PanelForPicture& panel)
+{
+    panel.click({638, 62});
+}
+
 void editLinks(PanelForPicture& panel)
 {
     panel.click({695, 256});
@@ -73,6 +85,14 @@ QList<Scene> collapsed()
     return scenes;
 }
 
+/// Of more clients than fit.
+Scene menu(double scale)
+{
+    auto scene = open(Tab::Tasks, u"menu"_s, hostileDay, scale);
+    scene.prepare = openMenu;
+    return scene;
+}
+
 QList<Scene> elsewhere()
 {
     auto light = open(Tab::Time, u"light desktop"_s, emptyDay);
@@ -81,7 +101,9 @@ QList<Scene> elsewhere()
     camera.prepare = underACamera;
     auto editing = open(Tab::Home, u"editing"_s, richDay);
     editing.prepare = editLinks;
-    return {light, camera, editing};
+    auto armed = open(Tab::Clients, u"deletion armed"_s, richDay);
+    armed.prepare = armDeletion;
+    return {light, camera, editing, armed, menu(1), menu(2)};
 }
 
 QList<Scene> inCairo()
