@@ -21,6 +21,8 @@ private Q_SLOTS:
     void weight_leavesFilledSymbolsAlone();
     void homeSymbol_atTwelvePixels_isSevenRings();
     void waveform_atTwelvePixels_isBarsWithGaps();
+    void upAndDown_leaveRoomBetweenThem_data();
+    void upAndDown_leaveRoomBetweenThem();
     void smallParts_standApart_data();
     void smallParts_standApart();
     void value_lightsWholeBars_data();
@@ -190,6 +192,30 @@ void SymbolTest::waveform_atTwelvePixels_isBarsWithGaps()
     QVERIFY(countPatches(image) >= 5);
 }
 
+void SymbolTest::upAndDown_leaveRoomBetweenThem_data()
+{
+    QTest::addColumn<int>("pixels");
+
+    for (const int pixels : {8, 10, 12, 16}) {
+        QTest::addRow("%d", pixels) << pixels;
+    }
+}
+
+/// Or the two would be a ring.
+void SymbolTest::upAndDown_leaveRoomBetweenThem()
+{
+    QFETCH(const int, pixels);
+
+    const auto image = symbolImage(
+        {.name = u"chevron.up.chevron.down"_s, .size = double(pixels), .color = Qt::black}, 1);
+
+    QCOMPARE(countPatches(image), 2);
+    for (int x = 0; x < pixels; ++x) {
+        QVERIFY(qAlpha(image.pixel(x, pixels / 2 - 1)) < 20);
+        QVERIFY(qAlpha(image.pixel(x, pixels / 2)) < 20);
+    }
+}
+
 void SymbolTest::smallParts_standApart_data()
 {
     QTest::addColumn<QString>("name");
@@ -197,15 +223,9 @@ void SymbolTest::smallParts_standApart_data()
     QTest::addColumn<int>("pixels");
     QTest::addColumn<int>("parts");
 
-    const auto arrows = u"chevron.up.chevron.down"_s;
-    const auto link = u"link.badge.plus"_s;
-    for (const int pixels : {8, 10, 12, 16}) {
-        QTest::addRow("an arrow up and one down, %d", pixels)
-            << arrows << int(QFont::Normal) << pixels << 2;
-    }
     for (const int pixels : {12, 15, 18}) {
         QTest::addRow("two links, what joins them, a plus, %d", pixels)
-            << link << int(QFont::DemiBold) << pixels << 4;
+            << u"link.badge.plus"_s << int(QFont::DemiBold) << pixels << 4;
     }
 }
 
