@@ -99,7 +99,7 @@ QRect AccessibleField::characterRect(int offset) const
 
 int AccessibleField::offsetAtPoint(const QPoint& point) const
 {
-    if (!rect().contains(point)) {
+    if (!wholeRect().contains(point)) {
         return -1;
     }
     const auto nearest = nearestPosition(point);
