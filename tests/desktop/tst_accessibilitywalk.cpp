@@ -6,6 +6,8 @@
 #include <QSet>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 /// What a screen reader is told of the running program, asked for on the accessibility bus.
@@ -131,7 +133,8 @@ QString faultOf(const Told& thing, const Told& parent, const QRect& card, const 
     if (!parent.place.adjusted(-1, -1, 1, 1).contains(thing.place)) { // Less than a dot is rounded.
         return u"is not within '%1'"_s.arg(parent.name);
     }
-    const bool isSliver = thing.place.height() < 12; // Of a row that is cut in its padding.
+    // What a list cuts may be its padding, or lie under the fade.
+    const bool isSliver = std::min(thing.place.width(), thing.place.height()) < 12;
     if (!isContainer(thing) && !isSliver && !showsSomething(picture, thing.place)) {
         return u"is told where nothing is drawn"_s;
     }
