@@ -35,13 +35,6 @@ private Q_SLOTS:
     void folderThatIsNoText_isOpenedAsItStands();
     void quit_endsTheEventLoop();
 
-    void pick_startsWhereItIsTold();
-    void pick_holdsTheCardOpenUntilItEnds_data();
-    void pick_holdsTheCardOpenUntilItEnds();
-    void picks_holdTheCardUntilTheLastOneEnds();
-    void pick_givesTheKeyboardAway();
-    void pick_endingAfterTheDelegate_touchesNothing();
-
 private:
     void choose(const QString& title);
     quib::MenuItem line(const QString& title) const;
@@ -237,75 +230,6 @@ void AppDelegateCommandsTest::quit_endsTheEventLoop()
     QTimer::singleShot(0, this, [this] { choose(u"Quit Korvel Quib"_s); });
 
     QCOMPARE(QCoreApplication::exec(), 0); // Runs into the time limit where nothing quits.
-}
-
-void AppDelegateCommandsTest::pick_startsWhereItIsTold()
-{
-    m_delegate->pick(true, QUrl::fromLocalFile(u"/srv/work"_s), {});
-    m_delegate->pick(true, {}, {});
-    m_delegate->pick(false, {}, {});
-
-    QCOMPARE(m_shell->filePicker.asked,
-             (QStringList{u"folder in /srv/work"_s, u"folder in "_s, u"application"_s}));
-}
-
-void AppDelegateCommandsTest::pick_holdsTheCardOpenUntilItEnds_data()
-{
-    QTest::addColumn<std::optional<QUrl>>("answer");
-    QTest::addColumn<int>("completions");
-
-    QTest::addRow("chosen") << std::optional(QUrl(u"file:///srv"_s)) << 1;
-    QTest::addRow("cancelled") << std::optional<QUrl>() << 0;
-}
-
-void AppDelegateCommandsTest::pick_holdsTheCardOpenUntilItEnds()
-{
-    QFETCH(std::optional<QUrl>, answer);
-    QList<QUrl> completed;
-    m_delegate->expand(false);
-
-    m_delegate->pick(true, {}, [&](const QUrl& chosen) { completed << chosen; });
-    m_delegate->checkHover();
-    m_hands.advance(1s);
-    QVERIFY(m_delegate->model().isExpanded());
-    QCOMPARE(m_delegate->model().holdOpen, 1);
-
-    m_shell->filePicker.open[0](answer);
-    QCOMPARE(m_delegate->model().holdOpen, 0);
-    QTEST(int(completed.size()), "completions");
-    m_delegate->checkHover();
-    m_hands.advance(60ms);
-    QVERIFY(!m_delegate->model().isExpanded());
-}
-
-void AppDelegateCommandsTest::picks_holdTheCardUntilTheLastOneEnds()
-{
-    m_delegate->pick(true, {}, {});
-    m_delegate->pick(false, {}, {});
-    QCOMPARE(m_delegate->model().holdOpen, 2);
-
-    m_shell->filePicker.open[0](std::nullopt);
-    QCOMPARE(m_delegate->model().holdOpen, 1);
-    m_shell->filePicker.open[1](std::nullopt);
-    QCOMPARE(m_delegate->model().holdOpen, 0);
-}
-
-void AppDelegateCommandsTest::pick_givesTheKeyboardAway()
-{
-    m_delegate->pick(true, {}, {});
-
-    QCOMPARE(m_shell->asked, QStringList{u"give back keyboard 0"_s});
-}
-
-void AppDelegateCommandsTest::pick_endingAfterTheDelegate_touchesNothing()
-{
-    m_delegate->pick(true, {}, {});
-    const auto answer = m_shell->filePicker.open[0];
-
-    m_delegate.reset();
-
-    answer(std::nullopt); // The sanitizers tell when this reaches what is gone.
-    QVERIFY(!m_delegate);
 }
 
 QTEST_MAIN(AppDelegateCommandsTest)
