@@ -29,6 +29,7 @@ private Q_SLOTS:
     void chips_areThoseOfClientsWithTasks();
     void chip_filtersAndStaysSelected();
     void lastTaskOfTheFilteredClientCleared_leavesTheFilterSet();
+    void picker_standsAsHighAsTheField();
     void picker_drawsAGoneClientAsNone();
     void pickerMenu_choosesAndTakesBack();
     void names_tellWhatPressingDoes();
@@ -214,6 +215,15 @@ void TasksViewTest::lastTaskOfTheFilteredClientCleared_leavesTheFilterSet()
     QCOMPARE(m_tab->shownTitles(), QStringList());
     QCOMPARE(m_tab->item(u"tasksView"_s)->property("filter").toUuid(), cafe);
     QVERIFY(m_tab->item(u"nothing"_s)->isVisible());
+}
+
+void TasksViewTest::picker_standsAsHighAsTheField()
+{
+    const auto* field = m_tab->item(u"newTitle"_s);
+    const auto* picker = m_tab->item(u"newClient"_s);
+
+    QCOMPARE(picker->mapToScene({}).y(), field->mapToScene({}).y());
+    QCOMPARE(picker->height(), field->height());
 }
 
 void TasksViewTest::picker_drawsAGoneClientAsNone()
