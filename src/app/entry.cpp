@@ -10,6 +10,8 @@
 #include <QQuickWindow>
 #include <QTextStream>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace quib {
@@ -34,6 +36,13 @@ void useFont(const Desktop& desktop)
     QGuiApplication::setFont(QFont(desktop.fontFamily()));
 }
 
+/// From 6.8 on Qt meets the session bus here, and would wait for one that hangs.
+std::unique_ptr<QGuiApplication> makeApplication(int& count, char** arguments)
+{
+    const auto hidden = hideWhatHangs();
+    return std::make_unique<QGuiApplication>(count, arguments);
+}
+
 int say(const QString& text)
 {
     QTextStream(stdout) << text;
@@ -44,7 +53,7 @@ int runSnapshot(char** argv, const QString& folder)
 {
     prepareToDraw("offscreen");
     int ours = 1; // Qt's own options are not ours: what is not known is passed over.
-    const QGuiApplication app(ours, argv);
+    const auto app = makeApplication(ours, argv);
     AppDelegate delegate(makePlatformWithoutDisplay());
     useFont(*delegate.platform().desktop);
     Snapshot::run(folder, delegate);
@@ -59,19 +68,20 @@ int runPanel(char** argv)
     }
     prepareToDraw("xcb");
     int ours = 1; // Qt's own options are not ours: what is not known is passed over.
-    const QGuiApplication app(ours, argv);
+    const auto app = makeApplication(ours, argv);
     auto platform = makePlatform();
     if (!platform.instance->claim(Store::folder())) {
         return 0; // The panel that is open already has been called.
     }
     AppDelegate delegate(std::move(platform));
     useFont(*delegate.platform().desktop);
-    QObject::connect(&app, &QCoreApplication::aboutToQuit, &delegate,
+    QObject::connect(app.get(), &QCoreApplication::aboutToQuit, &delegate,
                      &AppDelegate::applicationWillTerminate);
-    QObject::connect(delegate.platform().instance.get(), &SingleInstance::superseded, &app, [&] {
-        QObject::disconnect(&app, &QCoreApplication::aboutToQuit, &delegate, nullptr);
-        QCoreApplication::exit();
-    });
+    QObject::connect(
+        delegate.platform().instance.get(), &SingleInstance::superseded, app.get(), [&] {
+            QObject::disconnect(app.get(), &QCoreApplication::aboutToQuit, &delegate, nullptr);
+            QCoreApplication::exit();
+        });
     delegate.applicationDidFinishLaunching();
     return QGuiApplication::exec();
 }

@@ -47,6 +47,10 @@ struct Platform {
 /// True when there is a desktop to show a panel on. Needs no application object.
 bool hasDisplay();
 
+/// Hides what hangs from the application object while that is made; to be held until then. Null
+/// where nothing hangs.
+std::unique_ptr<QObject> hideWhatHangs();
+
 /// The one door. Defined in exactly one folder below this one; the build picks the folder. Needs a
 /// QGuiApplication on that desktop.
 Platform makePlatform();

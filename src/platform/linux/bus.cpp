@@ -57,6 +57,21 @@ QString systemBusAddress()
                                 u"unix:path=/run/dbus/system_bus_socket"_s);
 }
 
+bool answersWithin(std::chrono::milliseconds patience, const QString& address)
+{
+    const GOwned<GCancellable> end{g_cancellable_new()};
+    bool isAnswered = false;
+    const std::unique_ptr<QThread> asking(QThread::create([&, bus = address.toLatin1()] {
+        isAnswered = leadsToABus(bus) && answers(bus, end.get());
+    }));
+    asking->start();
+    if (!asking->wait(QDeadlineTimer(patience))) {
+        g_cancellable_cancel(end.get());
+        asking->wait();
+    }
+    return isAnswered;
+}
+
 Bus::Bus(QString address)
     : m_address(withoutId(std::move(address)))
     , m_connection(NoConnection)

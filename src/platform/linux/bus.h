@@ -15,6 +15,9 @@ namespace quib {
 /// Of the bus that all users of the machine share.
 QString systemBusAddress();
 
+/// Whether a bus says a word there before that time is over. Needs no application object.
+bool answersWithin(std::chrono::milliseconds patience, const QString& address);
+
 /// A message bus, by one connection of our own: there as soon as the bus answers, and again
 /// whenever it has come back. A bus that hangs keeps nobody waiting. None is ever started.
 class Bus : public QObject {

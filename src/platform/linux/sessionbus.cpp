@@ -3,6 +3,7 @@
 #include <QFile>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace quib {
 
@@ -10,6 +11,7 @@ namespace {
 
 constexpr auto Variable = "DBUS_SESSION_BUS_ADDRESS";
 constexpr auto NoAddress = "disabled:";
+constexpr auto PatienceBeforeTheStart = 250ms; ///< A bus that is busy answers sooner.
 
 QString addressOfTheSession()
 {
@@ -31,7 +33,24 @@ QString hiddenAddress()
     return address;
 }
 
+class HiddenBus final : public QObject {
+public:
+    HiddenBus() { qputenv(Variable, NoAddress); }
+    ~HiddenBus() override { m_before.isNull() ? qunsetenv(Variable) : qputenv(Variable, m_before); }
+    HiddenBus(const HiddenBus&) = delete;
+    HiddenBus& operator=(const HiddenBus&) = delete;
+
+private:
+    QByteArray m_before = qgetenv(Variable);
+};
+
 } // namespace
+
+std::unique_ptr<QObject> hideHungSessionBus()
+{
+    const bool isThere = answersWithin(PatienceBeforeTheStart, addressOfTheSession());
+    return isThere ? nullptr : std::make_unique<HiddenBus>();
+}
 
 SessionBus::SessionBus()
     : Bus(hiddenAddress())

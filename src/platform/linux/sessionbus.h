@@ -4,6 +4,10 @@
 
 namespace quib {
 
+/// Hides a session bus that does not answer from this process, as long as what it gives is there.
+/// Null where there is nothing to hide. Needs no application object.
+std::unique_ptr<QObject> hideHungSessionBus();
+
 /// The user's session bus.
 class SessionBus final : public Bus {
     Q_OBJECT
