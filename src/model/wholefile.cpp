@@ -14,6 +14,14 @@ namespace {
 constexpr qsizetype RoomBehind = 64; // As much as the reader of JSON asks for.
 constexpr qsizetype Step = 65'536;
 
+/// Opening a pipe would wait for its writer. One that is asked not to wait fails on files that
+/// others hold a lease on, such as servers do.
+bool isRegularFile(const std::filesystem::path& path)
+{
+    struct stat facts { };
+    return ::stat(path.c_str(), &facts) == 0 && S_ISREG(facts.st_mode);
+}
+
 /// Absent for what is no regular file.
 std::optional<qsizetype> sizeOf(const Descriptor& file)
 {
@@ -38,7 +46,7 @@ ssize_t readSome(const Descriptor& file, QByteArray& bytes, qsizetype from)
 
 std::optional<QByteArray> wholeFile(const std::filesystem::path& path, qsizetype largest)
 {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const Descriptor file(isRegularFile(path) ? ::open(path.c_str(), O_RDONLY | O_CLOEXEC) : -1);
     const auto size = sizeOf(file);
     if (!size || *size > largest) {
         return std::nullopt;
