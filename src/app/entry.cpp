@@ -36,7 +36,7 @@ void useFont(const Desktop& desktop)
     QGuiApplication::setFont(QFont(desktop.fontFamily()));
 }
 
-/// From 6.8 on Qt meets the session bus here, and would wait for one that hangs.
+/// Qt may meet the session bus here, and would wait for one that hangs.
 std::unique_ptr<QGuiApplication> makeApplication(int& count, char** arguments)
 {
     const auto hidden = hideWhatHangs();

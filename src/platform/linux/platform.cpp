@@ -27,14 +27,17 @@ namespace quib {
 
 namespace {
 
-// Many times what a bus needs to answer; nobody notices either.
-constexpr auto MomentForTheBus = 50ms;
-constexpr auto MomentForReaders = 250ms;
+constexpr std::chrono::milliseconds MomentForTheBus = 50ms; ///< Many times what it needs.
 
-/// Qt looks for screen readers by the session bus and once, with the first item that is made.
+/// Qt looks for screen readers by the session bus and once: until 6.8 with the first item that is
+/// made, from then on with the application object, for which hideWhatHangs() has waited.
 void awaitReaders(SessionBus& bus)
 {
-    bus.wait(hasServiceForReaders() ? MomentForReaders : MomentForTheBus);
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+    bus.wait(hasServiceForReaders() ? 5 * MomentForTheBus : MomentForTheBus);
+#else
+    bus.wait(MomentForTheBus);
+#endif
 }
 
 Platform makeSeamsWithoutDisplay(const std::shared_ptr<SessionBus>& bus)
@@ -61,7 +64,11 @@ bool hasDisplay()
 
 std::unique_ptr<QObject> hideWhatHangs()
 {
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+    return nullptr; // The application object does not meet the bus.
+#else
     return hideHungSessionBus();
+#endif
 }
 
 Platform makePlatform()
