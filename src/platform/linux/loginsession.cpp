@@ -53,16 +53,17 @@ void LoginSession::enterBus()
     findSession(sessionNames());
 }
 
+/// What the service said last holds until it can be asked again.
 void LoginSession::leaveBus()
 {
     m_service.reset();
     m_path.clear();
-    setLocked(false);
 }
 
 void LoginSession::findSession(QStringList names)
 {
     if (names.isEmpty()) {
+        setLocked(false); // There is no such session, or nobody who knows of any.
         return;
     }
     auto message = QDBusMessage::createMethodCall(ServiceName, ManagerPath, ManagerInterface,
@@ -99,7 +100,9 @@ void LoginSession::readHint()
     message << QString(SessionInterface) << u"LockedHint"_s;
     send(message, [this](const QDBusPendingCall& call) {
         const QDBusPendingReply<QDBusVariant> reply = call;
-        setLocked(!reply.isError() && reply.value().variant().toBool());
+        if (!reply.isError()) {
+            setLocked(reply.value().variant().toBool());
+        }
     });
 }
 

@@ -26,13 +26,19 @@ QString pathOf(QString name)
     return u'/' + name.replace(u'.', u'/');
 }
 
+bool meansNobody(const QDBusError& error)
+{
+    return error.type() == QDBusError::ServiceUnknown
+        || error.name() == "org.freedesktop.DBus.Error.NameHasNoOwner"_L1;
+}
+
 } // namespace
 
 ScreenSavers::ScreenSavers(std::shared_ptr<SessionBus> bus)
     : m_bus(std::move(bus))
 {
     connect(m_bus.get(), &SessionBus::connected, this, &ScreenSavers::enterBus);
-    connect(m_bus.get(), &SessionBus::lost, this, &ScreenSavers::leaveBus);
+    connect(m_bus.get(), &SessionBus::lost, this, [this] { m_owners.reset(); });
     if (m_bus->isConnected()) {
         enterBus();
     }
@@ -47,21 +53,21 @@ void ScreenSavers::enterBus()
     m_owners->setConnection(bus);
     m_owners->setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
     m_owners->setWatchedServices(saverNames());
-    connect(m_owners.get(), &QDBusServiceWatcher::serviceUnregistered, this,
-            [this](const QString& name) { setActive(name, false); });
-    connect(m_owners.get(), &QDBusServiceWatcher::serviceRegistered, this, &ScreenSavers::ask);
+    connect(m_owners.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
+            &ScreenSavers::followOwner);
     for (const auto& name : saverNames()) {
         // From any object, as they have it in several places.
-        bus.connect({}, {}, name, u"ActiveChanged"_s, this, SLOT(takeActive(bool)));
+        bus.connect({}, {}, name, u"ActiveChanged"_s, this, SLOT(askAgain(bool)));
         ask(name);
     }
 }
 
-void ScreenSavers::leaveBus()
+void ScreenSavers::followOwner(const QString& name, const QString& /*before*/, const QString& now)
 {
-    m_owners.reset();
-    for (const auto& name : saverNames()) {
+    if (now.isEmpty()) {
         setActive(name, false);
+    } else {
+        ask(name);
     }
 }
 
@@ -75,13 +81,16 @@ void ScreenSavers::ask(const QString& name)
         const QDBusPendingReply<bool> reply = *watcher;
         if (!reply.isError()) {
             setActive(name, reply.value());
+        } else if (meansNobody(reply.error())) {
+            setActive(name, false);
         }
     });
 }
 
-void ScreenSavers::takeActive(bool isActive)
+/// Anybody can say so: the saver itself is asked.
+void ScreenSavers::askAgain(bool /*isActive*/)
 {
-    setActive(message().interface(), isActive);
+    ask(message().interface());
 }
 
 void ScreenSavers::setActive(const QString& name, bool isActive)

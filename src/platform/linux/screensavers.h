@@ -9,6 +9,7 @@
 namespace quib {
 
 /// Whether one of the desktops' screen savers covers the screen; most are lockers, or tell of them.
+/// What others on the bus say of them does not count.
 class ScreenSavers final : public QObject, protected QDBusContext {
     Q_OBJECT
 
@@ -16,18 +17,19 @@ public:
     explicit ScreenSavers(std::shared_ptr<SessionBus> bus);
     ~ScreenSavers() override;
 
-    /// False until one has said so. One that has gone covers nothing.
+    /// False until one has said so. One that has gone covers nothing; when it is the bus that has
+    /// gone, that was the last word until there is one again.
     bool isActive() const { return !m_active.isEmpty(); }
 
 Q_SIGNALS:
     void isActiveChanged();
 
 private Q_SLOTS:
-    void takeActive(bool isActive);
+    void askAgain(bool isActive);
 
 private: // NOLINT(readability-redundant-access-specifiers): ends the slots
     void enterBus();
-    void leaveBus();
+    void followOwner(const QString& name, const QString& before, const QString& now);
     void ask(const QString& name);
     void setActive(const QString& name, bool isActive);
 

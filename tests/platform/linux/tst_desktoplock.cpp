@@ -27,7 +27,9 @@ private Q_SLOTS:
     void screenSaver_activeBefore_isLocked();
     void screenSaver_died_isNotLocked();
     void both_lockedUntilBothSayOtherwise();
-    void systemBusLost_isNotLocked();
+    void busLost_isLockedUntilSomebodySaysOtherwise_data();
+    void busLost_isLockedUntilSomebodySaysOtherwise();
+    void screenSaver_strangersSayNothing();
     void hungLoginService_keepsNobodyWaiting();
 
 private:
@@ -195,16 +197,52 @@ void DesktopLockTest::both_lockedUntilBothSayOtherwise()
     QTRY_COMPARE(changes.size(), 1);
 }
 
-void DesktopLockTest::systemBusLost_isNotLocked()
+void DesktopLockTest::busLost_isLockedUntilSomebodySaysOtherwise_data()
 {
-    LoginService login(m_system->address());
-    login.setLocked(true);
-    makeLock();
-    QTRY_VERIFY(m_lock->isLocked());
+    QTest::addColumn<bool>("isSystemBus");
 
-    m_system->die();
+    QTest::addRow("that of the system") << true;
+    QTest::addRow("that of the session") << false;
+}
+
+void DesktopLockTest::busLost_isLockedUntilSomebodySaysOtherwise()
+{
+    QFETCH(const bool, isSystemBus);
+    auto& bus = isSystemBus ? *m_system : *m_session;
+    auto login = std::make_unique<LoginService>(m_system->address());
+    auto saver = std::make_unique<SaverService>(m_session->address(), u"org.gnome.ScreenSaver"_s);
+    login->setLocked(isSystemBus);
+    saver->setActive(!isSystemBus);
+    const auto session = std::make_shared<SessionBus>(m_session->address());
+    const auto system = std::make_shared<Bus>(m_system->address());
+    m_lock = std::make_unique<DesktopLock>(session, system);
+    QTRY_VERIFY(m_lock->isLocked());
+    const QSignalSpy lost(isSystemBus ? system.get() : session.get(), &Bus::lost);
+
+    bus.die();
+    QTRY_COMPARE(lost.size(), 1);
+    QVERIFY(m_lock->isLocked());
+    login.reset();
+    saver.reset();
+    QVERIFY(bus.start());
 
     QTRY_VERIFY(!m_lock->isLocked());
+}
+
+void DesktopLockTest::screenSaver_strangersSayNothing()
+{
+    makeLock();
+    SaverService saver(m_session->address(), u"org.gnome.ScreenSaver"_s);
+    const QSignalSpy changes(m_lock.get(), &SessionLock::isLockedChanged);
+    auto lie = QDBusMessage::createSignal(u"/x"_s, u"org.mate.ScreenSaver"_s, u"ActiveChanged"_s);
+    lie << true;
+
+    m_session->connection().send(lie);
+    QTRY_VERIFY((saver.setActive(true), m_lock->isLocked()));
+    saver.setActive(false);
+
+    QTRY_VERIFY(!m_lock->isLocked());
+    QCOMPARE(changes.size(), 2);
 }
 
 /// It would be asked here for ever where anybody waited.
