@@ -52,6 +52,7 @@ private Q_SLOTS:
     void back_playersAreShownAgain();
     void back_aSecondStartIsHeard();
     void hung_thePanelWorksAndQuits();
+    void hungAtTheStart_thePanelOpensAndWorks_data();
     void hungAtTheStart_thePanelOpensAndWorks();
     void backHung_thePanelWorks();
 };
@@ -118,9 +119,26 @@ void BusTest::hung_thePanelWorksAndQuits()
     QCOMPARE(quib->exitStatus(), QProcess::NormalExit);
 }
 
+/// What Qt does on some desktops before anything is shown.
+void BusTest::hungAtTheStart_thePanelOpensAndWorks_data()
+{
+    QTest::addColumn<QStringList>("variables");
+
+    QTest::addRow("no desktop") << QStringList();
+    QTest::addRow("Plasma") << QStringList{u"XDG_CURRENT_DESKTOP=KDE"_s,
+                                           u"KDE_SESSION_VERSION=5"_s};
+    QTest::addRow("GNOME") << QStringList{u"XDG_CURRENT_DESKTOP=GNOME"_s};
+    QTest::addRow("input methods by the portal")
+        << QStringList{u"QT_IM_MODULE=ibus"_s, u"IBUS_USE_PORTAL=1"_s};
+}
+
 void BusTest::hungAtTheStart_thePanelOpensAndWorks()
 {
+    QFETCH(const QStringList, variables);
     Desk desk;
+    for (const auto& variable : variables) {
+        desk.setVariable(variable.section(u'=', 0, 0), variable.section(u'=', 1));
+    }
     desk.hangBus();
 
     const auto quib = desk.startQuib();

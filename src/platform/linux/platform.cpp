@@ -29,15 +29,11 @@ namespace {
 
 constexpr std::chrono::milliseconds MomentForTheBus = 50ms; ///< Many times what it needs.
 
-/// Qt looks for screen readers by the session bus and once: until 6.8 with the first item that is
-/// made, from then on with the application object, for which hideWhatHangs() has waited.
+/// Qt looks for screen readers by the session bus and once, at the latest with the first item that
+/// is made.
 void awaitReaders(SessionBus& bus)
 {
-#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
     bus.wait(hasServiceForReaders() ? 5 * MomentForTheBus : MomentForTheBus);
-#else
-    bus.wait(MomentForTheBus);
-#endif
 }
 
 Platform makeSeamsWithoutDisplay(const std::shared_ptr<SessionBus>& bus)
@@ -64,11 +60,7 @@ bool hasDisplay()
 
 std::unique_ptr<QObject> hideWhatHangs()
 {
-#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
-    return nullptr; // The application object does not meet the bus.
-#else
     return hideHungSessionBus();
-#endif
 }
 
 Platform makePlatform()
