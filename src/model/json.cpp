@@ -31,8 +31,8 @@ simdjson::simdjson_result<simdjson::dom::element> parseJson(simdjson::dom::parse
         return error;
     }
     const auto tree = parseAsItStands(parser, bytes);
-    const bool isRead = tree.error() == simdjson::SUCCESS;
-    const auto other = isRead ? std::nullopt : withoutLargeNumbers(bytes);
+    const bool mayBeLarge = tree.error() == simdjson::NUMBER_ERROR;
+    const auto other = mayBeLarge ? withoutLargeNumbers(bytes) : std::nullopt;
     return other ? parseAsItStands(parser, *other) : tree;
 }
 
