@@ -172,6 +172,7 @@ void AppDelegate::followExpansion()
 void AppDelegate::followLock()
 {
     const bool isLocked = m_platform.sessionLock->isLocked();
+    m_model.setLocked(isLocked);
     m_calendar.setAsleep(isLocked);
     if (isLocked) {
         cancelCollapse();

@@ -25,8 +25,9 @@ FocusScope {
 
     readonly property size shapeSize: root.model.isExpanded ? root.cardSize : root.collapsedSize
     readonly property size cardSize: root.model.cardSize
+    readonly property bool hasWings: timer.isRunning && !root.model.isLocked
     readonly property size collapsedSize: Qt.size(
-        root.model.notchSize.width + 10 + (timer.isRunning ? root.model.wingsWidth : 0), root.model.notchSize.height)
+        root.model.notchSize.width + 10 + (root.hasWings ? root.model.wingsWidth : 0), root.model.notchSize.height)
 
     focus: true
 
@@ -96,7 +97,8 @@ FocusScope {
             anchors.horizontalCenter: parent.horizontalCenter
             width: root.collapsedSize.width
             height: root.collapsedSize.height
-            shown: timer.isRunning
+            visible: root.hasWings
+            shown: root.hasWings
 
             view: CollapsedTimerWings {
                 objectName: "wings"

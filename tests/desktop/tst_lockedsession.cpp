@@ -17,6 +17,7 @@ private Q_SLOTS:
     void locked_theCardClosesAndThePointerOpensNothing();
     void unlocked_whatWasPinnedIsBack();
     void locked_aSecondStartWaits();
+    void locked_theRunningTimerIsNotShown();
 };
 
 namespace {
@@ -146,6 +147,23 @@ void LockedSessionTest::locked_aSecondStartWaits()
 
     desk.unlock(true);
     QVERIFY(desk.waitForExpanded(true));
+}
+
+void LockedSessionTest::locked_theRunningTimerIsNotShown()
+{
+    LockableDesk desk;
+    desk.writeData(R"({"clients": [], "tasks": [], "shelf": [], "launch": [], "notes": "",
+        "entries": [{"id": "6F1C0000-0000-4000-8000-000000000002", "note": "",
+        "start": "2026-03-02T09:00:00Z"}]})");
+    const auto quib = desk.startQuib();
+    constexpr QPoint Wing{800 - 100 - 60, 6};
+    QTRY_COMPARE(desk.pixel(Wing), QColor(Qt::black));
+
+    desk.lock(true);
+
+    QTRY_VERIFY(desk.pixel(Wing) != QColor(Qt::black));
+    desk.unlock(true);
+    QTRY_COMPARE(desk.pixel(Wing), QColor(Qt::black));
 }
 
 QTEST_GUILESS_MAIN(LockedSessionTest)

@@ -30,6 +30,8 @@ class NotchModel : public QObject {
                    bindableHasNotch)
     Q_PROPERTY(bool isMotionReduced READ isMotionReduced WRITE setMotionReduced NOTIFY
                    isMotionReducedChanged BINDABLE bindableIsMotionReduced)
+    Q_PROPERTY(bool isLocked READ isLocked WRITE setLocked NOTIFY isLockedChanged BINDABLE
+                   bindableIsLocked)
     Q_PROPERTY(QSizeF cardSize READ cardSize CONSTANT)
     Q_PROPERTY(double wingsWidth READ wingsWidth CONSTANT)
 
@@ -68,6 +70,11 @@ public:
     void setMotionReduced(bool reduced) { m_isMotionReduced = reduced; }
     QBindable<bool> bindableIsMotionReduced() { return &m_isMotionReduced; }
 
+    /// Somebody else may look at the screen: nothing of the user's shows.
+    bool isLocked() const { return m_isLocked; }
+    void setLocked(bool locked) { m_isLocked = locked; }
+    QBindable<bool> bindableIsLocked() { return &m_isLocked; }
+
     static QSizeF cardSize() { return CardInPanel.size(); }
     static double wingsWidth() { return WingsWidth; }
 
@@ -82,6 +89,7 @@ Q_SIGNALS:
     void notchSizeChanged();
     void hasNotchChanged();
     void isMotionReducedChanged();
+    void isLockedChanged();
 
 private:
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(NotchModel, bool, m_isExpanded, false,
@@ -97,6 +105,8 @@ private:
                                          &NotchModel::hasNotchChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(NotchModel, bool, m_isMotionReduced, false,
                                          &NotchModel::isMotionReducedChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(NotchModel, bool, m_isLocked, false,
+                                         &NotchModel::isLockedChanged)
 };
 
 } // namespace quib
