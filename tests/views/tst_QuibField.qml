@@ -103,6 +103,8 @@ TestCase {
         mouseClick(made, 2, 13);
         compare(input(made).selectedText, "");
         compare(input(made).cursorPosition, 0);
+        mouseClick(made, 146, 13, Qt.LeftButton, Qt.ShiftModifier);
+        compare(input(made).selectedText, "Corner Cafe");
         mouseDoubleClickSequence(made, 146, 13);
         compare(input(made).selectedText, "Cafe");
     }

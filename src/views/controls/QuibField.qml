@@ -50,7 +50,11 @@ FocusScope {
     function press(mouse) {
         input.forceActiveFocus(Qt.MouseFocusReason);
         keyboard.take(Qt.MouseFocusReason);
-        input.cursorPosition = root.positionAt(mouse);
+        if (mouse.modifiers & Qt.ShiftModifier) {
+            input.moveCursorSelection(root.positionAt(mouse), TextInput.SelectCharacters);
+        } else {
+            input.cursorPosition = root.positionAt(mouse);
+        }
     }
 
     // Stands in the text as one step that can be undone: moving the cursor ends a step.
