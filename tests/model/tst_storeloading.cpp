@@ -200,7 +200,7 @@ void StoreLoadingTest::fileOfATerabyte_isUnreadable()
     QFile file(folder.file());
     QVERIFY(file.open(QIODevice::WriteOnly));
     if (!file.resize(size)) {
-        QSKIP("no file can be as large here");
+        QSKIP("the file system of the test holds no file of a terabyte");
     }
 
     const Start start;

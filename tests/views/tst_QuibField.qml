@@ -34,12 +34,6 @@ TestCase {
         signalName: "accepted"
     }
 
-    SignalSpy {
-        id: edited
-
-        signalName: "edited"
-    }
-
     function input(made) {
         return findChild(made, "input");
     }
@@ -227,65 +221,6 @@ TestCase {
         compare(accepted.count, 1);
         verify(made.isEditing);
         compare(made.text, "Buy milk");
-    }
-
-    function test_saysItsValueFromItsBeginning() {
-        const made = createTemporaryObject(field, testCase, { value: "A long text that does not fit into the field at all" });
-        compare(made.text, made.value);
-        compare(place(made, 0).x, 9);
-        made.value = "Another text that does not fit into the field";
-        compare(made.text, made.value);
-        compare(place(made, 0).x, 9);
-    }
-
-    function test_sayingAValueIsNoEdit() {
-        const made = createTemporaryObject(field, testCase, { value: "one" });
-        edited.target = made;
-        edited.clear();
-        made.value = "two";
-        compare(edited.count, 0);
-        made.forceActiveFocus();
-        keyClick("x");
-        compare(edited.count, 1);
-    }
-
-    function test_anotherValueKeepsTheCursorAndTheSelection() {
-        const made = createTemporaryObject(field, testCase, { value: "Corner Cafe" });
-        made.forceActiveFocus();
-        input(made).select(6, 2);
-        made.value = "Cafeteria";
-        compare(input(made).selectedText, "fete");
-        compare(input(made).cursorPosition, 2);
-        made.value = "Caf";
-        compare(input(made).selectedText, "f");
-        made.value = "";
-        compare(input(made).cursorPosition, 0);
-    }
-
-    function test_theValueThatWasTypedKeepsWhatCanBeUndone() {
-        const made = createTemporaryObject(field, testCase, { value: "a" });
-        made.forceActiveFocus();
-        keyClick("b");
-        made.value = made.text;
-        keySequence(StandardKey.Undo);
-        compare(made.text, "a");
-        made.value = "another";
-        keySequence(StandardKey.Undo);
-        compare(made.text, "another");
-    }
-
-    function test_aSettlingFieldWaitsUntilItIsLeft() {
-        const made = createTemporaryObject(field, testCase, { value: "35", settles: true });
-        made.forceActiveFocus();
-        made.selectAll();
-        keyClick("4");
-        keyClick(",");
-        made.value = "4";
-        compare(made.text, "4,");
-        made.focus = false;
-        compare(made.text, "4");
-        made.value = "5";
-        compare(made.text, "5");
     }
 
     function test_withoutPaddingItIsAsHighAsItsText() {

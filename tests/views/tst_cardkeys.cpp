@@ -1,12 +1,9 @@
 #include "support/shownpanel.h"
 
 #include <QInputMethodEvent>
-#include <QPointingDevice>
 
 using namespace Qt::StringLiterals;
 using quib::Tab;
-
-enum class Use { Press, Wheel, Tap };
 
 /// The keys of the open card: its tabs, and the way out.
 class CardKeysTest : public QObject {
@@ -30,18 +27,12 @@ private Q_SLOTS:
     void escape_ofAComposition_isTheInputMethods();
     void escape_inAMenu_leavesTheMenu();
     void nextOpening_beginsInTheTab();
-    void pointer_takesTheRingAwayAndAKeyBringsItBack_data();
-    void pointer_takesTheRingAwayAndAKeyBringsItBack();
-    void tabKey_comesRoundThroughEachTabInSight_data();
-    void tabKey_comesRoundThroughEachTabInSight();
 
 private:
     void open(Tab tab);
-    void usePointer(Use use, const QQuickItem* on);
     void ctrl(int key) const { m_panel->press(key, Qt::ControlModifier); }
 
     std::unique_ptr<ShownPanel> m_panel;
-    std::unique_ptr<QPointingDevice> m_finger{QTest::createTouchDevice()};
 };
 
 void CardKeysTest::init()
@@ -53,22 +44,6 @@ void CardKeysTest::init()
 void CardKeysTest::open(Tab tab)
 {
     m_panel->open(tab);
-}
-
-void CardKeysTest::usePointer(Use use, const QQuickItem* on)
-{
-    const auto place = inScene(on).center().toPoint();
-    auto* window = m_panel->window.get();
-    QWheelEvent wheel(place, window->mapToGlobal(place), {}, {0, -120}, {}, {}, Qt::NoScrollPhase,
-                      false);
-    switch (use) {
-    case Use::Press: m_panel->click(on); break;
-    case Use::Wheel: QCoreApplication::sendEvent(window, &wheel); break;
-    case Use::Tap:
-        QTest::touchEvent(window, m_finger.get()).press(0, place);
-        QTest::touchEvent(window, m_finger.get()).release(0, place);
-        break;
-    }
 }
 
 void CardKeysTest::number_choosesItsTab_data()
@@ -241,68 +216,6 @@ void CardKeysTest::nextOpening_beginsInTheTab()
     open(Tab::Tasks);
 
     QCOMPARE(m_panel->focused(), u"newTitle"_s);
-}
-
-void CardKeysTest::pointer_takesTheRingAwayAndAKeyBringsItBack_data()
-{
-    QTest::addColumn<Use>("use");
-
-    QTest::addRow("a press") << Use::Press;
-    QTest::addRow("the wheel") << Use::Wheel;
-    QTest::addRow("a finger") << Use::Tap;
-}
-
-void CardKeysTest::pointer_takesTheRingAwayAndAKeyBringsItBack()
-{
-    QFETCH(const Use, use);
-    open(Tab::Home);
-    m_panel->press(Qt::Key_Tab);
-    const auto* ring = ShownPanel::find(m_panel->window->activeFocusItem(), u"focusRing"_s);
-    QVERIFY(ring->isVisible());
-    QCOMPARE(ring->opacity(), 1.0);
-
-    usePointer(use, m_panel->item(u"date"_s));
-    QCOMPARE(ring->opacity(), 0.0);
-    m_panel->press(Qt::Key_Tab);
-
-    ring = ShownPanel::find(m_panel->window->activeFocusItem(), u"focusRing"_s);
-    QCOMPARE(ring->opacity(), 1.0);
-}
-
-void CardKeysTest::tabKey_comesRoundThroughEachTabInSight_data()
-{
-    QTest::addColumn<Tab>("tab");
-    QTest::addColumn<bool>("back");
-
-    for (const auto tab : quib::AllTabs) {
-        QTest::addRow("%s", qPrintable(quib::rawText(tab))) << tab << false;
-        QTest::addRow("%s, back", qPrintable(quib::rawText(tab))) << tab << true;
-    }
-}
-
-void CardKeysTest::tabKey_comesRoundThroughEachTabInSight()
-{
-    QFETCH(const Tab, tab);
-    QFETCH(const bool, back);
-    const auto client = m_panel->workspace.client(u"Cafe"_s);
-    for (int number = 0; number < 30; ++number) {
-        m_panel->workspace.task(QString::number(number), client, number % 3 == 0);
-        m_panel->workspace.client(QString::number(number));
-    }
-    open(tab);
-    m_panel->press(Qt::Key_Escape); // Out of a field.
-    m_panel->item(u"pin"_s)->forceActiveFocus(Qt::TabFocusReason);
-
-    int steps = 0;
-    do {
-        m_panel->press(back ? Qt::Key_Backtab : Qt::Key_Tab);
-        const auto* item = m_panel->window->activeFocusItem();
-        QVERIFY2(item->isVisible(), qPrintable(m_panel->focused()));
-        QVERIFY2(m_panel->rect(u"shape"_s).contains(inScene(item).center()),
-                 qPrintable(m_panel->focused()));
-    } while (m_panel->focused() != "pin"_L1 && ++steps < 40);
-
-    QCOMPARE(m_panel->focused(), u"pin"_s);
 }
 
 QTEST_MAIN(CardKeysTest)

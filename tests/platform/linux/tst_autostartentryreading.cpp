@@ -137,7 +137,7 @@ void AutostartEntryReadingTest::isEnabled_fileOfATerabyte_isNot()
     m_desk->putEntry(u"config"_s, "[Desktop Entry]\nType=Application\nName=Quib\nExec=true\n");
     QVERIFY(AutostartEntry().isEnabled());
     if (!QFile::resize(m_desk->userFile(), qint64(1) << 40)) {
-        QSKIP("no file can be as large here");
+        QSKIP("the file system of the test holds no file of a terabyte");
     }
 
     QVERIFY(!AutostartEntry().isEnabled());
