@@ -14,9 +14,11 @@
 #include "views/focuseditem.h"
 #include "views/notchshape.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QStyleHints>
 #include <QSurfaceFormat>
 
 #include <utility>
@@ -64,9 +66,18 @@ bool NotchPanel::event(QEvent* event)
 {
     const bool isFinger = event->type() == QEvent::TouchBegin || event->type() == QEvent::TouchEnd;
     if (isFinger) {
-        followPress(static_cast<QTouchEvent*>(event)->points().constFirst().scenePosition());
+        followFinger(static_cast<QTouchEvent*>(event)->points().constFirst());
     }
     return QQuickView::event(event);
+}
+
+/// One that has scrolled a list may be lifted over any field.
+void NotchPanel::followFinger(const QEventPoint& finger)
+{
+    const auto way = finger.scenePosition() - finger.scenePressPosition();
+    if (way.manhattanLength() < QGuiApplication::styleHints()->startDragDistance()) {
+        followPress(finger.scenePosition());
+    }
 }
 
 void NotchPanel::mousePressEvent(QMouseEvent* event)

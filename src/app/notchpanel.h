@@ -47,6 +47,7 @@ protected:
 
 private:
     void followShape(const NotchShape& shape);
+    void followFinger(const QEventPoint& finger);
     void followPress(QPointF press);
     void takeKeyboardForText(QPointF press);
 
