@@ -64,10 +64,10 @@ bool isOfALostService(const GError* error)
             || g_error_matches(error, G_DBUS_ERROR, G_DBUS_ERROR_DISCONNECTED));
 }
 
-/// With the difference from UTC that the system has at that moment.
+/// With the difference from UTC that the moment has.
 GOwned<ICalTimezone> fixedZone(const QDateTime& moment)
 {
-    const int offset = moment.toLocalTime().offsetFromUtc();
+    const int offset = moment.offsetFromUtc();
     const auto digits = QTime(0, 0).addSecs(std::abs(offset)).toString(u"HHmmss"_s);
     const auto text = u"BEGIN:VTIMEZONE\nTZID:Quib local time\nBEGIN:STANDARD\n"
                       "DTSTART:19700101T000000\nTZOFFSETFROM:%1\nTZOFFSETTO:%1\nEND:STANDARD\n"
