@@ -4,6 +4,7 @@
 
 #include <xcb/xcb.h>
 
+#include <array>
 #include <cstdlib>
 #include <functional>
 
@@ -42,6 +43,19 @@ struct Desk::Connection {
             = xcb_intern_atom(xcb, 0, static_cast<uint16_t>(name.size()), name.constData());
         const auto reply = own(xcb_intern_atom_reply(xcb, cookie, nullptr));
         return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
+    }
+
+    /// A window in one colour that no window manager minds; not shown yet.
+    xcb_window_t createUnmanaged(const QRect& rect, uint32_t colour = 0) const
+    {
+        const std::array<uint32_t, 2> values{colour, 1};
+        const auto window = xcb_generate_id(xcb);
+        xcb_create_window(xcb, XCB_COPY_FROM_PARENT, window, root, static_cast<int16_t>(rect.x()),
+                          static_cast<int16_t>(rect.y()), static_cast<uint16_t>(rect.width()),
+                          static_cast<uint16_t>(rect.height()), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+                          XCB_COPY_FROM_PARENT, XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT,
+                          values.data());
+        return window;
     }
 
     bool hasOwner(const QByteArray& selection) const

@@ -4,8 +4,6 @@
 
 #include <QTest>
 
-#include <array>
-
 using namespace Qt::StringLiterals;
 
 /// While the session is locked the card shows nothing to whoever stands there.
@@ -28,11 +26,7 @@ public:
     explicit Locker(const Desk& desk)
         : m_server(desk.variable(u"DISPLAY"_s))
     {
-        const std::array<uint32_t, 2> values{0x305030, 1}; // Its colour; unmanaged.
-        const auto window = xcb_generate_id(m_server.xcb);
-        xcb_create_window(m_server.xcb, XCB_COPY_FROM_PARENT, window, m_server.root, 0, 0, 1600,
-                          900, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
-                          XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT, values.data());
+        const auto window = m_server.createUnmanaged({0, 0, 1600, 900}, 0x305030);
         const uint32_t below = XCB_STACK_MODE_BELOW;
         xcb_configure_window(m_server.xcb, window, XCB_CONFIG_WINDOW_STACK_MODE, &below);
         xcb_map_window(m_server.xcb, window);

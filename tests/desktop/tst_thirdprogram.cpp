@@ -2,8 +2,6 @@
 
 #include <QTest>
 
-#include <array>
-
 using namespace Qt::StringLiterals;
 
 /// A launcher takes the keyboard from whoever has it and gives it back there when it closes. What
@@ -24,12 +22,8 @@ class Launcher {
 public:
     explicit Launcher(const Desk& desk)
         : m_server(desk.variable(u"DISPLAY"_s))
-        , m_window(xcb_generate_id(m_server.xcb))
+        , m_window(m_server.createUnmanaged({400, 500, 200, 100}))
     {
-        const std::array<uint32_t, 1> unmanaged{1};
-        xcb_create_window(m_server.xcb, XCB_COPY_FROM_PARENT, m_window, m_server.root, 400, 500,
-                          200, 100, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
-                          XCB_CW_OVERRIDE_REDIRECT, unmanaged.data());
         xcb_map_window(m_server.xcb, m_window);
     }
 
