@@ -3,6 +3,7 @@
 #include "model/linktarget.h"
 #include "model/temporaryfile.h"
 
+#include <memory>
 #include <optional>
 
 #include <fcntl.h>
@@ -17,20 +18,26 @@ constexpr mode_t OwnersAlone = S_IRUSR | S_IWUSR;
 constexpr mode_t Everybodys = OwnersAlone | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
 constexpr mode_t Permissions = S_IRWXU | S_IRWXG | S_IRWXO;
 
-/// With its kind; absent where there is nothing.
-std::optional<mode_t> modeOf(const std::filesystem::path& path)
+/// Absent where there is nothing.
+std::optional<struct stat> factsOf(const std::filesystem::path& path)
 {
     struct stat facts { };
-    return ::lstat(path.c_str(), &facts) == 0 ? std::optional(facts.st_mode) : std::nullopt;
+    return ::lstat(path.c_str(), &facts) == 0 ? std::optional(facts) : std::nullopt;
 }
 
-/// Absent where the umask decides.
-std::optional<mode_t> modeFor(std::optional<mode_t> old, NewFile kind)
+/// What exists keeps its group and mode. For a new one that is not private the umask decides.
+std::unique_ptr<TemporaryFile> newFile(const std::filesystem::path& folder,
+                                       const std::optional<struct stat>& old, NewFile kind)
 {
+    const bool isUmaskAsked = !old && kind != NewFile::Private;
+    auto file = std::make_unique<TemporaryFile>(folder, isUmaskAsked ? Everybodys : OwnersAlone);
     if (old) {
-        return *old & Permissions;
+        file->setGroup(old->st_gid);
     }
-    return kind == NewFile::Private ? std::optional(OwnersAlone) : std::nullopt;
+    if (!isUmaskAsked) {
+        file->setMode(old ? old->st_mode & Permissions : OwnersAlone);
+    }
+    return file;
 }
 
 /// A rename outlives a loss of power only once its folder is on disk.
@@ -45,17 +52,13 @@ void syncFolder(const std::filesystem::path& folder)
 bool replaceFile(const std::filesystem::path& path, const QByteArray& bytes, NewFile kind)
 {
     const auto target = linkTarget(path);
-    const auto old = modeOf(target);
-    if (old && (!S_ISREG(*old) || ::access(target.c_str(), W_OK) != 0)) {
+    const auto old = factsOf(target);
+    if (old && (!S_ISREG(old->st_mode) || ::access(target.c_str(), W_OK) != 0)) {
         return false;
     }
     const auto folder = target.parent_path();
-    const auto mode = modeFor(old, kind);
-    TemporaryFile file(folder, mode ? OwnersAlone : Everybodys);
-    if (mode) {
-        file.setMode(*mode);
-    }
-    if (!file.write(bytes) || !file.reachesDisk() || !file.takePlaceOf(target)) {
+    const auto file = newFile(folder, old, kind);
+    if (!file->write(bytes) || !file->reachesDisk() || !file->takePlaceOf(target)) {
         return false;
     }
     syncFolder(folder);

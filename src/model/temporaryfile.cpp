@@ -5,10 +5,12 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <tuple>
 
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace quib {
 
@@ -52,6 +54,12 @@ bool TemporaryFile::takePlaceOf(const std::filesystem::path& path)
         m_path.clear();
     }
     return isDone;
+}
+
+void TemporaryFile::setGroup(gid_t group) const
+{
+    constexpr auto SameUser = static_cast<uid_t>(-1);
+    std::ignore = ::fchown(m_file.number(), SameUser, group);
 }
 
 void TemporaryFile::setMode(mode_t mode) const

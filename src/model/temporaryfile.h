@@ -25,6 +25,9 @@ public:
     bool reachesDisk() const;
     bool takePlaceOf(const std::filesystem::path& path);
 
+    /// Stays as it is where the user is not of the group. Some file systems have no groups.
+    void setGroup(gid_t group) const;
+
     /// Not cut by the umask. Some file systems have no modes.
     void setMode(mode_t mode) const;
 

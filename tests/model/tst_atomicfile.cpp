@@ -1,6 +1,7 @@
 #include "model/atomicfile.h"
 #include "model/nativepath.h"
 #include "support/modeof.h"
+#include "support/othergroup.h"
 #include "support/umask.h"
 #include "support/writefile.h"
 
@@ -93,6 +94,7 @@ private Q_SLOTS:
     void newFile_hasItsMode();
     void replaceFile_keepsTheMode_data();
     void replaceFile_keepsTheMode();
+    void replaceFile_keepsTheGroup();
     void replaceFile_whatIsNoFile_saysFalse();
     void replaceFile_writesThroughALink();
     void replaceFile_writesThroughALinkToNothing();
@@ -198,6 +200,22 @@ void AtomicFileTest::replaceFile_keepsTheMode()
 
         QCOMPARE(modeOf(path), '0' + QByteArray::number(mode, 8));
     }
+}
+
+void AtomicFileTest::replaceFile_keepsTheGroup()
+{
+    const auto group = otherGroup();
+    if (!group) {
+        QSKIP("a user of one group alone can't give a file to another group");
+    }
+    const Files files;
+    const auto path = files.path(u"data.json"_s);
+    files.put(u"data.json"_s, "old");
+    QCOMPARE(::chown(QFile::encodeName(path).constData(), ::geteuid(), *group), 0);
+
+    QVERIFY(replaceFile(path, "new"));
+
+    QCOMPARE(QFileInfo(path).groupId(), *group);
 }
 
 void AtomicFileTest::replaceFile_whatIsNoFile_saysFalse()
