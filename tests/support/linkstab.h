@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/shownpanel.h"
+#include "support/writefile.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -40,9 +41,7 @@ struct LinksTab : ShownPanel {
 
     void write(const QByteArray& text) const
     {
-        QFile file(workspace.folder.filePath(QStringLiteral("shortcuts.json")));
-        file.open(QIODevice::WriteOnly);
-        file.write(text);
+        writeFile(workspace.folder.filePath(QStringLiteral("shortcuts.json")), text);
     }
 
     void write(const QJsonArray& groups) const

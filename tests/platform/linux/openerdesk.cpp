@@ -161,8 +161,9 @@ QList<QJsonObject> OpenerDesk::records() const
     const auto files = QDir(path(u"records"_s)).entryInfoList({u"*.json"_s}, QDir::Files);
     for (const auto& info : files) {
         QFile file(info.filePath());
-        file.open(QIODevice::ReadOnly);
-        list << QJsonDocument::fromJson(file.readAll()).object();
+        if (file.open(QIODevice::ReadOnly)) {
+            list << QJsonDocument::fromJson(file.readAll()).object();
+        }
     }
     return list;
 }
