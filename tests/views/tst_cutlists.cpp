@@ -1,10 +1,4 @@
-#include "support/shownpanel.h"
-
-#include "brand/brand.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include "support/crowdedpanel.h"
 
 using namespace Qt::StringLiterals;
 using quib::Tab;
@@ -17,6 +11,7 @@ private Q_SLOTS:
     void cutEdges_fade_data();
     void cutEdges_fade();
     void whatFits_fadesNowhere();
+    void cutBetweenRows_dimsTheLastRow();
     void listUnderThePointer_hasAThumb_data();
     void listUnderThePointer_hasAThumb();
     void rowOfTheKeyboard_isNotFaded_data();
@@ -24,79 +19,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-constexpr int Many = 60;
-constexpr double FadeSize = 24;
-
-/// A workspace and a day in which nothing fits.
-quib::QuibData crowd(const HandClock& hands)
-{
-    quib::QuibData data;
-    for (int number = 0; number < Many; ++number) {
-        const auto name = u"Number %1 of many"_s.arg(number);
-        const auto client = QUuid::createUuid();
-        data.clients.append({.id = client, .name = name});
-        data.tasks.append({.id = QUuid::createUuid(), .title = name, .clientID = client});
-        data.entries.append({.id = QUuid::createUuid(),
-                             .clientID = client,
-                             .start = hands.now.addSecs(-100),
-                             .end = hands.now});
-        data.launch.append({.id = QUuid::createUuid(), .name = name, .target = u"a.example"_s});
-        data.shelf.append({.id = QUuid::createUuid(), .path = u"/"_s + name});
-    }
-    return data;
-}
-
-QByteArray crowdOfShortcuts()
-{
-    QJsonArray buttons;
-    QJsonArray groups;
-    for (int number = 0; number < Many; ++number) {
-        buttons << QJsonObject{{u"name"_s, u"Button %1"_s.arg(number)}, {u"url"_s, u"a.example"_s}};
-    }
-    for (int number = 0; number < 12; ++number) {
-        groups << QJsonObject{{u"title"_s, u"Group %1"_s.arg(number)}, {u"buttons"_s, buttons}};
-    }
-    return QJsonDocument(QJsonObject{{u"groups"_s, groups}}).toJson();
-}
-
-QList<quib::CalendarEntry> crowdOfEvents(const HandClock& hands)
-{
-    QList<quib::CalendarEntry> events;
-    for (int number = 0; number < Many; ++number) {
-        events.append({.id = QString::number(number),
-                       .title = u"Number %1"_s.arg(number),
-                       .start = hands.now.addSecs(600),
-                       .end = hands.now.addSecs(1200)});
-    }
-    return events;
-}
-
-struct CrowdedPanel : ShownPanel {
-    explicit CrowdedPanel(Tab tab)
-    {
-        QFile file(workspace.folder.filePath(u"shortcuts.json"_s));
-        [[maybe_unused]] const bool isOpen = file.open(QIODevice::WriteOnly);
-        file.write(crowdOfShortcuts());
-        file.close();
-        store().setData(crowd(hands));
-        calendars.authorizations.front()(quib::CalendarAuthorization::FullAccess);
-        calendars.readings.back().answer(crowdOfEvents(hands));
-        open(tab);
-        takeKeyboard();
-    }
-
-    /// By the name of the list, or of the one in the menu of clients, which is opened for it.
-    QQuickItem* list(const QString& name)
-    {
-        if (name != u"menuList"_s) {
-            return item(name);
-        }
-        click(item(u"newClient"_s));
-        settle();
-        return find(window->contentItem(), name);
-    }
-};
 
 /// Beside the list, in front of it.
 QQuickItem* edgesOf(const QQuickItem* list)
@@ -169,6 +91,29 @@ int remainders(const ShownPanel& panel, const QQuickItem* list, const QString& e
     return count;
 }
 
+const QQuickItem* rowOf(const ShownPanel& panel, int row)
+{
+    QQuickItem* item = nullptr;
+    QMetaObject::invokeMethod(panel.item(u"clientList"_s), "itemAtIndex",
+                              Q_RETURN_ARG(QQuickItem*, item), Q_ARG(int, row));
+    return item;
+}
+
+/// From 0, black, to 1.
+double brightestOf(const ShownPanel& panel, const QRectF& place)
+{
+    const auto scale = panel.window->effectiveDevicePixelRatio();
+    const auto picture = panel.window->grabWindow().copy(
+        QRectF(place.topLeft() * scale, place.size() * scale).toRect());
+    float brightest = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            brightest = std::max(brightest, picture.pixelColor(x, y).valueF());
+        }
+    }
+    return brightest;
+}
+
 } // namespace
 
 void CutListsTest::cutEdges_fade_data()
@@ -218,6 +163,21 @@ void CutListsTest::whatFits_fadesNowhere()
 
     QVERIFY(!fadesAt(list, u"moreBefore"_s));
     QVERIFY(!fadesAt(list, u"moreAfter"_s));
+}
+
+void CutListsTest::cutBetweenRows_dimsTheLastRow()
+{
+    constexpr int RowsInSight = 6;
+    CrowdedPanel cut(Tab::Clients);
+    CrowdedPanel whole(Tab::Clients);
+    auto data = whole.store().data();
+    data.clients.remove(RowsInSight, data.clients.size() - RowsInSight);
+    whole.store().setData(data);
+    const auto place = inScene(rowOf(cut, RowsInSight - 1));
+    QVERIFY(inScene(cut.item(u"clientList"_s)).contains(place));
+    QCOMPARE(inScene(rowOf(whole, RowsInSight - 1)), place);
+
+    QCOMPARE_LT(brightestOf(cut, place), 0.9 * brightestOf(whole, place));
 }
 
 void CutListsTest::listUnderThePointer_hasAThumb_data()
@@ -286,7 +246,7 @@ void CutListsTest::rowOfTheKeyboard_isNotFaded()
 
     const auto* row = list->property("currentItem").value<QQuickItem*>();
     const auto across = isSideways(list) ? 0 : 100;
-    const auto along = FadeSize - 0.5;
+    const auto along = numberOf(edgesOf(list), "fadeSize") - 0.5;
     QVERIFY(row);
     QVERIFY(inScene(list)
                 .adjusted(across ? -across : along, across ? along : -100, across ? across : -along,

@@ -16,7 +16,8 @@ Item {
     property bool hasThumb: !root.isSideways
     property real thumbMargin: 2 // Between the list and the thumb.
 
-    readonly property real fadeSize: 24
+    // A list that is cut between two rows dims the last one: so it is longer than most rows are high.
+    readonly property real fadeSize: root.isSideways ? 24 : Math.min(36, root.extent / 4)
     readonly property bool isSideways: root.flickable.flickableDirection === Flickable.HorizontalFlick
     readonly property real position: root.isSideways ? root.flickable.contentX : root.flickable.contentY
     readonly property real extent: root.isSideways ? root.flickable.width : root.flickable.height
@@ -37,7 +38,7 @@ Item {
     // Of a list or a grid.
     function revealRow(row) {
         const list = root.flickable as ItemView;
-        if (root.extent < 2 * root.fadeSize) {
+        if (root.extent < 48) {
             return; // It has not found its place.
         }
         list.positionViewAtIndex(row, ItemView.Contain);
