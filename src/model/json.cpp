@@ -20,6 +20,16 @@ auto parseAsItStands(simdjson::dom::parser& parser, const QByteArray& bytes)
                         mustCopy);
 }
 
+/// Since version 4 an integer beyond 64 bits is an error of its own.
+template <typename Error>
+bool isOfANumber(Error error)
+{
+    if constexpr (requires { Error::BIGINT_ERROR; }) {
+        return error == Error::BIGINT_ERROR || error == Error::NUMBER_ERROR;
+    }
+    return error == Error::NUMBER_ERROR;
+}
+
 } // namespace
 
 simdjson::simdjson_result<simdjson::dom::element> parseJson(simdjson::dom::parser& parser,
@@ -31,8 +41,7 @@ simdjson::simdjson_result<simdjson::dom::element> parseJson(simdjson::dom::parse
         return error;
     }
     const auto tree = parseAsItStands(parser, bytes);
-    const bool mayBeLarge = tree.error() == simdjson::NUMBER_ERROR;
-    const auto other = mayBeLarge ? withoutLargeNumbers(bytes) : std::nullopt;
+    const auto other = isOfANumber(tree.error()) ? withoutLargeNumbers(bytes) : std::nullopt;
     return other ? parseAsItStands(parser, *other) : tree;
 }
 
