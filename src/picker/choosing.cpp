@@ -132,10 +132,11 @@ void choose(const QCommandLineParser& line)
     const auto dialog = dialogFor(line, platform);
     QSocketNotifier asker(STDIN_FILENO, QSocketNotifier::Read);
     QObject::connect(&asker, &QSocketNotifier::activated, dialog.get(), &QDialog::reject);
-    QObject::connect(dialog.get(), &QDialog::finished, qApp, &QCoreApplication::exit);
+    QObject::connect(dialog.get(), &QDialog::finished, qApp, &QCoreApplication::quit);
     Announcer announcer;
     show(*dialog, announcer, rectOf(line.value(u"clear-of"_s)));
-    const bool isAccepted = QApplication::exec() == QDialog::Accepted;
+    QApplication::exec(); // A lost display ends it too.
+    const bool isAccepted = dialog->result() == QDialog::Accepted;
     const auto chosen = isAccepted ? chosenIn(*dialog) : QString();
     if (!chosen.isEmpty()) {
         print(u"chosen "_s + QString::fromLatin1(QUrl::fromLocalFile(chosen).toEncoded()));
