@@ -39,13 +39,21 @@ void KeyboardFocus::setItem(QQuickItem* item)
 bool KeyboardFocus::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn) {
-        take(static_cast<QFocusEvent*>(event)->reason());
+        comeBy(static_cast<QFocusEvent*>(event)->reason());
     } else if (event->type() == QEvent::FocusOut) {
+        m_isUnderPopup = static_cast<QFocusEvent*>(event)->reason() == Qt::PopupFocusReason;
         show(false);
     } else if (event->type() == QEvent::MouseButtonPress) {
         take(Qt::MouseFocusReason);
     }
     return QObject::eventFilter(watched, event);
+}
+
+/// Some versions of Qt give no reason when a popup closes.
+void KeyboardFocus::comeBy(Qt::FocusReason reason)
+{
+    const bool isFromPopup = m_isUnderPopup && reason == Qt::OtherFocusReason;
+    take(isFromPopup ? Qt::PopupFocusReason : reason);
 }
 
 void KeyboardFocus::take(Qt::FocusReason reason)

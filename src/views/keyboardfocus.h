@@ -33,10 +33,12 @@ Q_SIGNALS:
     void isShownChanged();
 
 private:
+    void comeBy(Qt::FocusReason reason);
     void show(bool isShown);
 
     QPointer<QQuickItem> m_item;
     bool m_cameByKey = false;
+    bool m_isUnderPopup = false;
     bool m_isShown = false;
 };
 
