@@ -71,6 +71,13 @@ Card {
             onClicked: root.addClicked()
         }
 
+        FontMetrics {
+            id: metrics
+
+            font.pixelSize: 2 * 12 // As QuibText lays it out.
+            font.weight: Font.Medium
+        }
+
         RowList {
             id: list
 
@@ -92,6 +99,7 @@ Card {
 
             delegate: ClientRow {
                 width: list.width
+                lineHeight: Math.ceil(metrics.height) / 2
                 focusPolicy: ListView.isCurrentItem || activeFocus ? Qt.TabFocus : Qt.NoFocus
                 selected: clientID === root.selection
 

@@ -19,6 +19,7 @@ PlainButton {
     required property string details
 
     property bool selected: false
+    property real lineHeight // Of every row: a line of emoji alone may be lower.
 
     horizontalPadding: 8
     verticalPadding: 6
@@ -37,6 +38,7 @@ PlainButton {
     }
 
     contentItem: Parts {
+        implicitHeight: root.lineHeight
         name: root.name
         status: root.status
         isTimed: root.isTimed
@@ -50,8 +52,6 @@ PlainButton {
         required property string status
         required property bool isTimed
         required property int openTasks
-
-        implicitHeight: nameText.implicitHeight
 
         ContinuousRectangle {
             id: dot
