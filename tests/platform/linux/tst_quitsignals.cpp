@@ -104,7 +104,7 @@ void QuitSignalsTest::serverDies_theQuitIsStillAnnounced()
 
     m_server->die();
 
-    QCOMPARE(told(), "about to quit\n");
+    QVERIFY(told().startsWith("about to quit\n")); // Some versions of Qt end the loop in order.
     QCOMPARE(m_program->exitStatus(), QProcess::NormalExit);
 }
 
