@@ -131,10 +131,10 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             help: "Keep open"
             role: Accessible.CheckBox
+            isCheckable: true
+            isChecked: root.model.isPinned
             Accessible.name: help
             Accessible.description: ""
-            Accessible.checkable: true
-            Accessible.checked: root.model.isPinned
 
             onClicked: root.model.isPinned = !root.model.isPinned
 

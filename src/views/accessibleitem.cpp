@@ -142,16 +142,14 @@ QWindow* AccessibleItem::window() const
 
 QAccessible::Role AccessibleItem::role() const
 {
-    const auto own = item().property("role");
-    const auto role = isControl(item()) && own.isValid() ? own : m_attached->property("role");
-    return static_cast<QAccessible::Role>(role.toInt());
+    return static_cast<QAccessible::Role>(told("role", "role").toInt());
 }
 
 QAccessible::State AccessibleItem::state() const
 {
     QAccessible::State state;
-    state.checkable = is("checkable");
-    state.checked = is("checked");
+    state.checkable = isCheckable();
+    state.checked = told("isChecked", "checked").toBool();
     state.selectable = is("selectable");
     state.selected = is("selected");
     state.editable = is("editable");
@@ -192,7 +190,7 @@ void* AccessibleItem::interface_cast(QAccessible::InterfaceType type)
 
 QStringList AccessibleItem::actionNames() const
 {
-    return {is("checkable") ? toggleAction() : pressAction()};
+    return {isCheckable() ? toggleAction() : pressAction()};
 }
 
 void AccessibleItem::doAction(const QString& name)
@@ -221,6 +219,12 @@ QRect AccessibleItem::globalRect(const QRectF& part) const
 bool AccessibleItem::is(const char* state) const
 {
     return m_attached->property(state).toBool();
+}
+
+QVariant AccessibleItem::told(const char* own, const char* attached) const
+{
+    const auto value = isControl(item()) ? item().property(own) : QVariant();
+    return value.isValid() ? value : m_attached->property(attached);
 }
 
 bool AccessibleItem::isPressable() const

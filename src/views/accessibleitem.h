@@ -8,9 +8,9 @@
 namespace quib {
 
 /// What readers are told of an item by what QML attaches to it, but of controls by their own
-/// property `role`: Qt 6.4 makes every template a button. Places are those where it is drawn, also
-/// at another scale, without what lists and fields cut off, and what is scrolled away is not
-/// showing.
+/// properties `role`, `isCheckable` and `isChecked`: Qt 6.4 makes every template a button, Qt 6.10
+/// one that can't be checked. Places are those where it is drawn, also at another scale, without
+/// what lists and fields cut off, and what is scrolled away is not showing.
 class AccessibleItem : public QAccessibleObject, public QAccessibleActionInterface {
 public:
     /// Null for what nothing is attached to, and for what is ignored.
@@ -54,6 +54,9 @@ protected:
 
 private:
     bool is(const char* state) const;
+    /// What a control says of itself, by its own name and by that of what is attached.
+    QVariant told(const char* own, const char* attached) const;
+    bool isCheckable() const { return told("isCheckable", "checkable").toBool(); }
     bool isPressable() const;
 
     QPointer<QObject> m_attached;

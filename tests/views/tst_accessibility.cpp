@@ -185,7 +185,7 @@ void AccessibilityTest::readerThatComesLate_isToldTheSame()
 {
     QAccessible::setActive(false);
     auto* pin = make("PlainButton { role: Accessible.CheckBox; Accessible.name: 'Keep open'\n"
-                     "Accessible.checkable: true; Accessible.checked: true }");
+                     "isCheckable: true; isChecked: true }");
     QAccessible::setActive(true); // Qt's templates now say again what they are.
 
     const auto* told = QAccessible::queryAccessibleInterface(pin);

@@ -16,9 +16,9 @@ PlainButton {
     horizontalPadding: 9
     verticalPadding: 3
     role: Accessible.RadioButton
+    isCheckable: true
+    isChecked: root.selected
     Accessible.name: root.title
-    Accessible.checkable: true
-    Accessible.checked: root.selected
 
     background: ContinuousRectangle {
         objectName: "capsule"

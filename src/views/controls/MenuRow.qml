@@ -16,6 +16,8 @@ T.MenuItem {
     required property bool isHighlighted
 
     readonly property int role: Accessible.MenuItem
+    readonly property bool isCheckable: root.checked
+    readonly property bool isChecked: root.checked
 
     implicitHeight: root.isSeparator ? 9 : 24
     leftPadding: 8
@@ -25,8 +27,8 @@ T.MenuItem {
     hoverEnabled: true
     Accessible.ignored: root.isSeparator
     Accessible.name: root.title
-    Accessible.checkable: root.checked
-    Accessible.checked: root.checked
+    Accessible.checkable: root.isCheckable
+    Accessible.checked: root.isChecked
 
     Accessible.onPressAction: root.clicked()
 

@@ -8,7 +8,8 @@ import Quib.Views
 /*!
     A button that draws nothing of its own but a ring when the keyboard has come to it, and its help
     as a tooltip. A click leaves the focus where it is, so that a half-typed field goes on.
-    Readers are told of `role`: the one that is attached is the template's.
+    Readers are told of `role`, `isCheckable` and `isChecked`: those that are attached are the template's,
+    and only say that something has changed.
 */
 T.AbstractButton {
     id: root
@@ -16,6 +17,8 @@ T.AbstractButton {
     property string help
     property real ringRadius: height / 2
     property int role: Accessible.Button
+    property bool isCheckable: false
+    property bool isChecked: false
 
     property QuibToolTip toolTip: null
 
@@ -25,6 +28,8 @@ T.AbstractButton {
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
     Accessible.description: root.help
+    Accessible.checkable: root.isCheckable
+    Accessible.checked: root.isChecked
 
     onHoveredChanged: root.prepareToolTip()
     onVisualFocusChanged: root.prepareToolTip()

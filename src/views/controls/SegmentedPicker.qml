@@ -80,9 +80,9 @@ Item {
         verticalPadding: 3
         focusPolicy: Qt.NoFocus
         role: Accessible.RadioButton
+        isCheckable: true
+        isChecked: segment.selected
         Accessible.name: segment.title
-        Accessible.checkable: true
-        Accessible.checked: segment.selected
 
         background: ContinuousRectangle {
             objectName: "capsule"

@@ -27,8 +27,8 @@ FocusScope {
         focus: true
         focusPolicy: root.isStop || root.activeFocus ? Qt.TabFocus : Qt.NoFocus
         role: Accessible.CheckBox
+        isCheckable: true
         Accessible.name: "Mark done: %1".arg(TextLine.beginning(root.title))
-        Accessible.checkable: true
 
         onClicked: root.toggled()
         onDoubleClicked: {} // Its second press may be on the task that comes next.

@@ -57,9 +57,9 @@ FocusScope {
         focus: true
         focusPolicy: root.isStop || root.activeFocus ? Qt.TabFocus : Qt.NoFocus
         role: Accessible.CheckBox
+        isCheckable: true
+        isChecked: root.done
         Accessible.name: (root.done ? "Mark open: %1" : "Mark done: %1").arg(root.title)
-        Accessible.checkable: true
-        Accessible.checked: root.done
 
         onClicked: root.toggled()
         onDoubleClicked: {} // Its second press may be on another task.
