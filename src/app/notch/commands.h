@@ -33,6 +33,7 @@ public:
     /// Gives the panel the keyboard, for an edit that a control starts. False where it has it
     /// already.
     Q_INVOKABLE virtual bool takeKeyboard() = 0;
+    /// To whom it was taken from, where the panel has it.
     Q_INVOKABLE virtual void giveBackKeyboard() = 0;
     /// Opens the card, on the shelf if wanted.
     Q_INVOKABLE virtual void expand(bool toShelf) = 0;
