@@ -200,7 +200,8 @@ void StoreLoadingTest::fileOfATerabyte_isUnreadable()
     QFile file(folder.file());
     QVERIFY(file.open(QIODevice::WriteOnly));
     if (!file.resize(size)) {
-        QSKIP("the file system of the test holds no file of a terabyte");
+        QSKIP(qPrintable(u"no file can be as large in the folder of the test: "_s
+                         + file.errorString()));
     }
 
     const Start start;

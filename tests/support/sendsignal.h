@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QThread>
@@ -28,7 +29,12 @@ inline void sendSignal(qint64 process, int signal)
         qFatal("no program is there to have signal %d", signal);
     }
     ::kill(static_cast<pid_t>(process), signal);
-    for (int tries = 0; signal == SIGSTOP && tries < 5000 && !isStopped(process); ++tries) {
+    // The kernel tells nobody but the parent. No events meanwhile: they are not this one's to
+    // handle.
+    for (QDeadlineTimer end(10'000); signal == SIGSTOP && !isStopped(process);) {
+        if (end.hasExpired()) {
+            qFatal("program %lld has not stopped", process);
+        }
         QThread::msleep(1);
     }
 }
