@@ -199,7 +199,7 @@ void LeftoversTest::filesOfOthers_stay()
     const Folder folder;
     const auto path = folder.put(leftoverOf(Gone));
     if (::chown(QFile::encodeName(path).constData(), 1, 1) != 0) {
-        QSKIP("a file can be given away by root only");
+        QSKIP(qPrintable(u"no file can be given away here: "_s + qt_error_string()));
     }
 
     folder.removeLeftovers();

@@ -1,4 +1,5 @@
 #include "model/datafile.h"
+#include "support/enlarge.h"
 #include "support/storefixture.h"
 
 #include <QDir>
@@ -197,11 +198,8 @@ void StoreLoadingTest::fileOfATerabyte_isUnreadable()
 {
     QFETCH(qint64, size);
     const DataFolderForTest folder;
-    QFile file(folder.file());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    if (!file.resize(size)) {
-        QSKIP(qPrintable(u"no file can be as large in the folder of the test: "_s
-                         + file.errorString()));
+    if (const auto hindrance = enlarge(folder.file(), size); !hindrance.isEmpty()) {
+        QSKIP(hindrance.constData());
     }
 
     const Start start;

@@ -1,4 +1,5 @@
 #include "autostartdesk.h"
+#include "support/enlarge.h"
 
 #include <memory>
 
@@ -136,10 +137,8 @@ void AutostartEntryReadingTest::isEnabled_fileOfATerabyte_isNot()
 {
     m_desk->putEntry(u"config"_s, "[Desktop Entry]\nType=Application\nName=Quib\nExec=true\n");
     QVERIFY(AutostartEntry().isEnabled());
-    QFile file(m_desk->userFile());
-    if (!file.resize(qint64(1) << 40)) {
-        QSKIP(qPrintable(u"no file can be as large in the folder of the test: "_s
-                         + file.errorString()));
+    if (const auto hindrance = enlarge(m_desk->userFile(), qint64(1) << 40); !hindrance.isEmpty()) {
+        QSKIP(hindrance.constData());
     }
 
     QVERIFY(!AutostartEntry().isEnabled());
