@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/sendsignal.h"
 #include "support/writefile.h"
 
 #include <QDir>
@@ -21,12 +22,11 @@ public:
                          QStringLiteral("attr_timeout=0,entry_timeout=0"),
                          m_folder.filePath(QStringLiteral("there")),
                          m_folder.filePath(QStringLiteral("disk"))});
-        m_isHung = QTest::qWaitFor(
-            [this] {
-                return QFile::exists(path(QStringLiteral("file")))
-                    || m_program.state() == QProcess::NotRunning;
-            },
-            10'000);
+        const auto isThere = [this] { return QFile::exists(path(QStringLiteral("file"))); };
+        m_isHung
+            = m_program.waitForStarted()
+            && QTest::qWaitFor(
+                  [&] { return isThere() || m_program.state() == QProcess::NotRunning; }, 10'000);
         m_isHung = m_isHung && m_program.state() == QProcess::Running;
         tell(SIGSTOP);
     }
@@ -44,7 +44,9 @@ public:
     /// Why none can be had.
     QByteArray hindrance()
     {
-        return "no file system can be mounted here: " + m_program.readAllStandardError().trimmed();
+        const auto complaint = m_program.readAllStandardError().trimmed();
+        return "no file system can be mounted here: "
+            + (complaint.isEmpty() ? m_program.errorString().toLocal8Bit() : complaint);
     }
     QString path(const QString& name) const
     {
@@ -61,7 +63,7 @@ private:
     void tell(int signal)
     {
         if (m_isHung) {
-            kill(pid_t(m_program.processId()), signal);
+            sendSignal(m_program.processId(), signal);
         }
     }
 
