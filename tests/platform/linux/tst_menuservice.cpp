@@ -70,9 +70,10 @@ void MenuServiceTest::cleanup()
     m_item.reset();
 }
 
-/// To the signals of the menu.
+/// To the signals of the menu from here on.
 void MenuServiceTest::listen()
 {
+    m_item->finishReading(); // What it told at its making has gone out before the answer.
     for (const auto& name : {u"LayoutUpdated"_s, u"ItemsPropertiesUpdated"_s}) {
         QVERIFY(m_item->host().connect(m_item->name(), u"/MenuBar"_s, u"com.canonical.dbusmenu"_s,
                                        name, this, SLOT(hear(QDBusMessage))));
