@@ -65,6 +65,7 @@ void AppDelegate::applicationDidFinishLaunching()
     m_platform.panelHost->setInputRegion({});
     m_platform.panelHost->orderFront();
     connect(&m_model, &NotchModel::isExpandedChanged, this, &AppDelegate::followExpansion);
+    connect(&m_store, &Store::entriesChanged, this, &AppDelegate::followHoverRect);
     connect(m_platform.screens.get(), &ScreenSource::changed, this, &AppDelegate::layout);
     installMouseMonitors();
     connect(m_platform.instance.get(), &SingleInstance::activated, this, &AppDelegate::activate);
@@ -93,6 +94,7 @@ void AppDelegate::layout()
     m_model.setHasNotch(notch.isReal);
     m_model.setNotchSize(notch.size);
     m_platform.panelHost->place(panelFrame(m_screen));
+    followHoverRect();
 }
 
 void AppDelegate::checkHover()
@@ -150,12 +152,25 @@ void AppDelegate::installMouseMonitors()
         connect(&m_hoverTimer, &QTimer::timeout, this, &AppDelegate::checkHover);
         m_hoverTimer.setTimerType(Qt::PreciseTimer);
         m_hoverTimer.start(PollInterval);
+    } else {
+        followWhatDecides();
     }
+}
+
+/// A pointer that rests tells nothing when something else changes what is to be done about it.
+void AppDelegate::followWhatDecides()
+{
+    const auto look = [this] { checkHover(); };
+    connect(&m_model, &NotchModel::isExpandedChanged, this, look, Qt::QueuedConnection);
+    connect(&m_model, &NotchModel::isPinnedChanged, this, look, Qt::QueuedConnection);
+    connect(&m_model, &NotchModel::isLockedChanged, this, look, Qt::QueuedConnection);
+    connect(&m_store, &Store::entriesChanged, this, look, Qt::QueuedConnection);
 }
 
 void AppDelegate::followExpansion()
 {
     auto& host = *m_platform.panelHost;
+    followHoverRect();
     if (m_model.isExpanded()) {
         host.orderFront(); // Some window managers raise full-screen windows above everything.
         host.setInputRegion(CardInPanel.toRect());
@@ -166,6 +181,14 @@ void AppDelegate::followExpansion()
     host.setInputRegion({});
     m_media.stopPolling();
     giveBackKeyboard();
+}
+
+/// Of the window only: the pointer can not be beyond the screen's edge.
+void AppDelegate::followHoverRect()
+{
+    const QRectF window({}, PanelSize);
+    const auto rect = hoverRect().translated(-panelFrame(m_screen).topLeft()) & window;
+    m_platform.panelHost->setHoverRect(rect.toAlignedRect());
 }
 
 /// Nobody but the user sees the card. What was to stay open does so again after the unlocking.
@@ -216,13 +239,16 @@ bool AppDelegate::isKeptOpen() const
     return m_model.isPinned() || m_model.holdOpen > 0;
 }
 
+QRectF AppDelegate::hoverRect() const
+{
+    return m_model.isExpanded() ? expandedRect(m_screen) : collapsedRect();
+}
+
 HoverTick AppDelegate::tickAt(const PointerState& pointer) const
 {
-    const bool expanded = m_model.isExpanded();
-    const auto rect = expanded ? expandedRect(m_screen) : collapsedRect();
-    return {.pointerInside = rect.contains(pointer.position),
+    return {.pointerInside = hoverRect().contains(pointer.position),
             .buttonHeld = pointer.leftHeld,
-            .expanded = expanded,
+            .expanded = m_model.isExpanded(),
             .keptOpen = isKeptOpen(),
             .collapsePending = m_collapseWork != nullptr};
 }

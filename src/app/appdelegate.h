@@ -77,12 +77,15 @@ private:
     void followMenu();
     void runCommand(const QString& title);
     void installMouseMonitors();
+    void followWhatDecides();
     void followExpansion();
+    void followHoverRect();
     void followLock();
     void followDesktop();
     void globalClick(quint32 time);
     void activate();
     bool isKeptOpen() const;
+    QRectF hoverRect() const;
     HoverTick tickAt(const PointerState& pointer) const;
 
     Platform m_platform;

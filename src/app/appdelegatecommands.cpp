@@ -131,6 +131,7 @@ void AppDelegate::pick(bool directories, const std::optional<QUrl>& startIn, Com
                          completion = std::move(completion)](const std::optional<QUrl>& chosen) {
         if (delegate) {
             delegate->m_model.holdOpen -= 1;
+            delegate->checkHover();
         }
         if (chosen) {
             completion(*chosen);

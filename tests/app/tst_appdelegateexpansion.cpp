@@ -20,6 +20,8 @@ private Q_SLOTS:
     void collapse_keepsTheTab();
     void expansion_asksThePlayerUntilTheCollapse();
     void expansion_readsTheDayAnew();
+    void hoverRect_isToldInTheWindow();
+    void unpinned_aPointerThatRestsElsewhere_collapses();
 
 private:
     std::unique_ptr<DelegateForTest> m_quib;
@@ -76,6 +78,36 @@ void AppDelegateExpansionTest::expansion_readsTheDayAnew()
     delegate.expand(false);
 
     QCOMPARE(calendar.readings.size(), readings + 1);
+}
+
+void AppDelegateExpansionTest::hoverRect_isToldInTheWindow()
+{
+    auto& delegate = m_quib->launched();
+    const auto& told = m_quib->shell.host.hoverRect;
+    QCOMPARE(told, QRect(380 - 110, 0, 220, 36)); // 15 points beside the notch, 6 below it.
+
+    delegate.store().startTimer(std::nullopt, {});
+    QCOMPARE(told, QRect(380 - 202, 0, 404, 36));
+
+    delegate.expand(false);
+    QCOMPARE(told, QRect(30 - 4, 0, 708, 294));
+}
+
+/// Where the pointer tells of itself nothing else would come.
+void AppDelegateExpansionTest::unpinned_aPointerThatRestsElsewhere_collapses()
+{
+    auto& delegate = m_quib->launched();
+    m_quib->shell.pointer.now.position = {960, 700};
+    delegate.openQuib();
+    QCoreApplication::processEvents();
+    m_quib->hands.advance(1s);
+    QVERIFY(delegate.model().isExpanded());
+
+    delegate.togglePin();
+    QCoreApplication::processEvents();
+    m_quib->hands.advance(1s);
+
+    QVERIFY(!delegate.model().isExpanded());
 }
 
 QTEST_MAIN(AppDelegateExpansionTest)

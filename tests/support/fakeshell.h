@@ -37,6 +37,7 @@ public:
     }
 
     QPainterPath shape;
+    QRect hoverRect;
 
     void adopt(QWindow& /*window*/) override { m_asked << QStringLiteral("adopt"); }
     void place(const QRectF& frame) override
@@ -48,6 +49,7 @@ public:
         m_asked << (region.isEmpty() ? QStringLiteral("let clicks through")
                                      : QStringLiteral("take clicks"));
     }
+    void setHoverRect(const QRect& rect) override { hoverRect = rect; }
     void setVisibleShape(const QPainterPath& visible) override { shape = visible; }
     void orderFront() override { m_asked << QStringLiteral("order front"); }
     bool takeKeyboard() override

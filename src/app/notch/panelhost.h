@@ -24,6 +24,9 @@ public:
     /// In points of the window. Clicks outside the region reach what lies beneath. While it is
     /// empty nothing here can be typed into, so the panel passes on the keyboard if it gets it.
     virtual void setInputRegion(const QRegion& region) = 0;
+    /// In points of the window. Where the pointer opens the panel or keeps it open. Clicks stay
+    /// with the panel there too where a window is told of the pointer only where it takes clicks.
+    virtual void setHoverRect(const QRect& rect) = 0;
     /// The outline of what is drawn, in points of the window. Matters where nothing blends the
     /// window with what lies beneath; elsewhere it costs nothing.
     virtual void setVisibleShape(const QPainterPath& shape) = 0;

@@ -1,6 +1,6 @@
 #include "platform/linux/pickerprogram.h"
 
-#include "platform/linux/x11/xcbpanelhost.h"
+#include "platform/linux/linuxpanelhost.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -40,7 +40,7 @@ QString rectText(const QRect& rect)
 /// One run of the program. Its answer is given exactly once, unless this ends first.
 class PickerProgram::Choice : public QObject {
 public:
-    Choice(XcbPanelHost& host, Answer answer, QObject* parent)
+    Choice(LinuxPanelHost& host, Answer answer, QObject* parent)
         : QObject(parent)
         , m_host(host)
         , m_answer(std::move(answer))
@@ -107,14 +107,14 @@ private:
         }
     }
 
-    XcbPanelHost& m_host;
+    LinuxPanelHost& m_host;
     Answer m_answer;
     std::unique_ptr<QProcess> m_process = std::make_unique<QProcess>();
     std::optional<QUrl> m_chosen;
     bool m_isCancelled = false;
 };
 
-PickerProgram::PickerProgram(XcbPanelHost& host, QString program)
+PickerProgram::PickerProgram(LinuxPanelHost& host, QString program)
     : m_host(host)
     , m_program(program.isEmpty() ? programBesideOurs() : std::move(program))
 {

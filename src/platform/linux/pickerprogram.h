@@ -8,14 +8,14 @@
 
 namespace quib {
 
-class XcbPanelHost;
+class LinuxPanelHost;
 
 /// Shows the choice in a program of its own: whatever befalls its window, this one goes on, and its
 /// end, however it comes, ends the choice.
 class PickerProgram final : public FilePicker {
 public:
     /// The host is borrowed and outlives this. The program stands beside ours unless told.
-    explicit PickerProgram(XcbPanelHost& host, QString program = {});
+    explicit PickerProgram(LinuxPanelHost& host, QString program = {});
 
     void chooseFolder(const std::optional<QUrl>& startIn, Answer answer) override;
     void chooseApplication(Answer answer) override;
@@ -25,7 +25,7 @@ private:
 
     void choose(const QStringList& arguments, Answer answer);
 
-    XcbPanelHost& m_host;
+    LinuxPanelHost& m_host;
     QString m_program;
     QObject m_open; ///< Parent of the choices that have not ended.
 };

@@ -114,7 +114,7 @@ QRect XcbPanelHost::cardFrame() const
     return m_window ? m_inputRegion.boundingRect().translated(m_window->position()) : QRect();
 }
 
-void XcbPanelHost::placeBelow(xcb_window_t window)
+void XcbPanelHost::placeBelow(quint32 window)
 {
     const auto above = topLevelOf(window);
     if (nativeWindow() == XCB_NONE || above == XCB_NONE) {
@@ -136,7 +136,7 @@ bool XcbPanelHost::eventFilter(QObject* object, QEvent* event)
     case QEvent::Resize: applyShapes(); break;
     default: break; // NOLINT: Qt's events are not ours to list
     }
-    return PanelHost::eventFilter(object, event);
+    return LinuxPanelHost::eventFilter(object, event);
 }
 
 /// Sends a repeat that was taken for a press again, as what it is.

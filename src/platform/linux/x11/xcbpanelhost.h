@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/notch/panelhost.h"
+#include "platform/linux/linuxpanelhost.h"
 #include "platform/linux/x11/compositorwatch.h"
 #include "platform/linux/x11/keyboardloan.h"
 #include "platform/linux/x11/keyrepeat.h"
@@ -15,7 +15,7 @@ namespace quib {
 /// A panel that no window manager touches: above all windows of theirs, on all desktops, never
 /// focused by itself. Clicks pass where the input region ends; without a compositor the window has
 /// the shape of what is drawn, or it would show as a black box.
-class XcbPanelHost final : public PanelHost {
+class XcbPanelHost final : public LinuxPanelHost {
     Q_OBJECT
 
 public:
@@ -24,16 +24,13 @@ public:
     void adopt(QWindow& window) override;
     void place(const QRectF& frame) override;
     void setInputRegion(const QRegion& region) override;
+    void setHoverRect(const QRect& /*rect*/) override { } // The pointer is asked wherever it is.
     void setVisibleShape(const QPainterPath& shape) override;
     void orderFront() override;
     bool takeKeyboard() override;
     void giveBackKeyboard(std::optional<quint32> click) override;
-
-    /// Where clicks stay with the panel, in global points.
-    QRect cardFrame() const;
-    /// Right beneath that window of another program, so that all of that one is seen; until it is
-    /// ordered front again.
-    void placeBelow(xcb_window_t window);
+    QRect cardFrame() const override;
+    void placeBelow(quint32 window) override;
 
     bool eventFilter(QObject* object, QEvent* event) override;
 

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "app/notch/pointersource.h"
+
+#include <QPointer>
+#include <QTimer>
+#include <QWindow>
+
+class QTouchEvent;
+
+namespace quib {
+
+/// The pointer as one window is told of it, for desktops that tell no program more: where it goes
+/// beyond the window, and what is pressed there, stays unknown. A drag tells of itself.
+class WindowPointer final : public PointerSource {
+    Q_OBJECT
+
+public:
+    WindowPointer();
+
+    /// The window is borrowed and may die first. Until then the pointer is nowhere.
+    void watch(QWindow& window);
+
+    /// Far away while it is not over the window.
+    PointerState state() const override;
+    bool needsPolling() const override { return false; }
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void follow(const QEvent& event);
+    void followTouch(const QTouchEvent& event);
+    void comeTo(QPointF place);
+    void endOurDrag();
+    bool isOurDrag() const;
+
+    QPointer<QWindow> m_window;
+    QPointF m_place; ///< In the window, when it was last told.
+    bool m_isInside = false;
+    bool m_isLeftHeld = false; ///< As far as the window knows.
+    bool m_isDraggedOver = false;
+    QTimer m_afterDrag; ///< Runs until the desktop has found out where a drag has left the pointer.
+};
+
+} // namespace quib
