@@ -1,8 +1,8 @@
 # What every target of this project is compiled with.
 add_library(quib_options INTERFACE)
 add_library(Quib::options ALIAS quib_options)
-target_compile_options(quib_options INTERFACE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor
-    -Woverloaded-virtual -Wold-style-cast -Wconversion -Wsign-conversion
+target_compile_options(quib_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion
+    "$<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor;-Woverloaded-virtual;-Wold-style-cast>"
     -Wno-missing-field-initializers # a designated initialiser names what differs from the defaults
     $<$<BOOL:${QUIB_WERROR}>:-Werror>)
 # Every test links what a debugger reads of all that it tests: with variables too the tests are four times as large.

@@ -18,7 +18,7 @@ namespace quib {
 
 namespace {
 
-void prepareToDraw(const char* qtPlatform)
+void prepareToDraw(const QByteArray& qtPlatform)
 {
     // Qt tells the console what it finds missing around it, such as a runtime folder, and wrong in
     // an icon.
@@ -62,11 +62,12 @@ int runSnapshot(char** argv, const QString& folder)
 
 int runPanel(char** argv)
 {
-    if (!hasDisplay()) {
-        QTextStream(stderr) << u"quib: there is no X display to show the panel on\n"_s;
+    const auto windowSystem = chooseWindowSystem();
+    if (windowSystem.qtPlatform.isEmpty()) {
+        QTextStream(stderr) << u"quib: "_s << windowSystem.problem << u'\n';
         return 1;
     }
-    prepareToDraw("xcb");
+    prepareToDraw(windowSystem.qtPlatform);
     int ours = 1; // Qt's own options are not ours: what is not known is passed over.
     const auto app = makeApplication(ours, argv);
     auto platform = makePlatform();

@@ -44,8 +44,16 @@ struct Platform {
     std::function<void()> enterBackground = [] {};
 };
 
-/// True when there is a desktop to show a panel on. Needs no application object.
-bool hasDisplay();
+/// By which of Qt's platforms a panel can be shown on a desktop, or why by none.
+struct WindowSystem {
+    QByteArray qtPlatform; ///< As Qt takes it; empty where there is none.
+    QString problem; ///< Without a full stop; empty where there is none.
+
+    bool operator==(const WindowSystem&) const = default;
+};
+
+/// For the desktop that the environment tells of. Needs no application object.
+WindowSystem chooseWindowSystem();
 
 /// Hides what hangs from the application object while that is made; to be held until then. Null
 /// where nothing hangs.

@@ -16,7 +16,7 @@ namespace {
 
 /// What we set for ourselves. The user may have set it too, to something else.
 constexpr std::array SetByUs{"DBUS_SESSION_BUS_ADDRESS", "QT_QPA_PLATFORM",
-                             "QT_QPA_UPDATE_IDLE_TIME"};
+                             "QT_QPA_UPDATE_IDLE_TIME", "QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT"};
 
 /// What told us alone how we were started.
 constexpr std::array MeantForUs{

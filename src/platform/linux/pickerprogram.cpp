@@ -26,7 +26,10 @@ QString programBesideOurs()
 QProcessEnvironment environment()
 {
     auto variables = QProcessEnvironment::systemEnvironment();
-    variables.remove(u"QT_QPA_UPDATE_IDLE_TIME"_s);
+    for (const auto& name :
+         {u"QT_QPA_UPDATE_IDLE_TIME"_s, u"QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT"_s}) {
+        variables.remove(name);
+    }
     return variables;
 }
 

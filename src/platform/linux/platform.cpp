@@ -14,13 +14,20 @@
 #include "platform/linux/quitsignals.h"
 #include "platform/linux/statusnotifier.h"
 #include "platform/linux/themeiconsource.h"
+#include "platform/linux/wayland/waylandpanelhost.h"
+#include "platform/linux/wayland/waylandscreensource.h"
+#include "platform/linux/windowpointer.h"
+#include "platform/linux/windowsystem.h"
 #include "platform/linux/x11/xcbpanelhost.h"
 #include "platform/linux/x11/xcbpointersource.h"
 #include "platform/linux/x11/xcbscreensource.h"
 #include "platform/linux/x11/xserver.h"
 
+#include <QGuiApplication>
+
 #include <utility>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace quib {
@@ -51,11 +58,30 @@ Platform makeSeamsWithoutDisplay(const std::shared_ptr<SessionBus>& bus)
             .files = std::make_unique<DiskProbe>()};
 }
 
+void showOnX(Platform& platform)
+{
+    platform.screens = std::make_unique<XcbScreenSource>();
+    platform.pointer = std::make_unique<XcbPointerSource>();
+    auto host = std::make_unique<XcbPanelHost>();
+    platform.filePicker = std::make_unique<PickerProgram>(*host);
+    platform.panelHost = std::move(host);
+}
+
+void showOnWayland(Platform& platform)
+{
+    platform.screens = std::make_unique<WaylandScreenSource>();
+    auto pointer = std::make_unique<WindowPointer>();
+    auto host = std::make_unique<WaylandPanelHost>(*pointer);
+    platform.pointer = std::move(pointer);
+    platform.filePicker = std::make_unique<PickerProgram>(*host);
+    platform.panelHost = std::move(host);
+}
+
 } // namespace
 
-bool hasDisplay()
+WindowSystem chooseWindowSystem()
 {
-    return isServerReachable();
+    return chooseWindowSystem(lookAround());
 }
 
 std::unique_ptr<QObject> hideWhatHangs()
@@ -67,11 +93,8 @@ Platform makePlatform()
 {
     const auto bus = std::make_shared<SessionBus>();
     auto platform = makeSeamsWithoutDisplay(bus);
-    platform.screens = std::make_unique<XcbScreenSource>();
-    platform.pointer = std::make_unique<XcbPointerSource>();
-    auto panelHost = std::make_unique<XcbPanelHost>();
-    platform.filePicker = std::make_unique<PickerProgram>(*panelHost);
-    platform.panelHost = std::move(panelHost);
+    const auto isWayland = QGuiApplication::platformName().startsWith("wayland"_L1);
+    isWayland ? showOnWayland(platform) : showOnX(platform);
     platform.instance = std::make_unique<LinuxInstance>(bus);
     platform.sessionLock
         = std::make_unique<DesktopLock>(bus, std::make_shared<Bus>(systemBusAddress()));

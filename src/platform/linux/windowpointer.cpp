@@ -33,10 +33,16 @@ void WindowPointer::watch(QWindow& window)
     window.installEventFilter(this);
 }
 
+void WindowPointer::setOrigin(QPointF origin)
+{
+    m_origin = origin;
+}
+
 PointerState WindowPointer::state() const
 {
     const bool isHere = m_isInside || m_isDraggedOver || m_afterDrag.isActive();
-    const auto place = isHere && m_window ? m_window->position() + m_place : FarAway;
+    const auto isKnown = isHere && m_window;
+    const auto place = isKnown ? m_origin.value_or(m_window->position()) + m_place : FarAway;
     return {.position = place, .leftHeld = m_isLeftHeld || m_isDraggedOver || isOurDrag()};
 }
 

@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <QWindow>
 
+#include <optional>
+
 class QTouchEvent;
 
 namespace quib {
@@ -20,6 +22,8 @@ public:
 
     /// The window is borrowed and may die first. Until then the pointer is nowhere.
     void watch(QWindow& window);
+    /// Where the window lies, in global points, for desktops that do not tell its program.
+    void setOrigin(QPointF origin);
 
     /// Far away while it is not over the window.
     PointerState state() const override;
@@ -35,6 +39,7 @@ private:
     bool isOurDrag() const;
 
     QPointer<QWindow> m_window;
+    std::optional<QPointF> m_origin; ///< Absent where the window knows where it lies.
     QPointF m_place; ///< In the window, when it was last told.
     bool m_isInside = false;
     bool m_isLeftHeld = false; ///< As far as the window knows.

@@ -8,39 +8,9 @@ class PlatformTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void hasDisplay_onOne();
-    void hasDisplay_noneNamed_isFalse();
-    void hasDisplay_nobodyAnswers_isFalse();
     void makePlatform_makesEverySeam();
     void makePlatformWithoutDisplay_makesWhatNeedsNone();
 };
-
-void PlatformTest::hasDisplay_onOne()
-{
-    QVERIFY(hasDisplay());
-}
-
-void PlatformTest::hasDisplay_noneNamed_isFalse()
-{
-    const auto display = qgetenv("DISPLAY");
-
-    qunsetenv("DISPLAY");
-    const auto has = hasDisplay();
-
-    qputenv("DISPLAY", display);
-    QVERIFY(!has);
-}
-
-void PlatformTest::hasDisplay_nobodyAnswers_isFalse()
-{
-    const auto display = qgetenv("DISPLAY");
-
-    qputenv("DISPLAY", ":9999");
-    const auto has = hasDisplay();
-
-    qputenv("DISPLAY", display);
-    QVERIFY(!has);
-}
 
 void PlatformTest::makePlatform_makesEverySeam()
 {

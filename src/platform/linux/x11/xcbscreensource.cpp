@@ -1,12 +1,12 @@
 #include "platform/linux/x11/xcbscreensource.h"
 
+#include "platform/linux/screenchanges.h"
 #include "platform/linux/x11/nativescreen.h"
 #include "platform/linux/x11/xserver.h"
 
 #include <QGuiApplication>
 #include <QScreen>
 
-#include <algorithm>
 #include <utility>
 
 using namespace std::chrono_literals;
@@ -28,17 +28,7 @@ XcbScreenSource::XcbScreenSource()
     m_settle.setSingleShot(true);
     m_settle.setInterval(0ms);
     connect(&m_settle, &QTimer::timeout, this, &XcbScreenSource::settle);
-
-    const auto follow = [this](const QScreen* screen) {
-        connect(screen, &QScreen::geometryChanged, this, &XcbScreenSource::noteRearranged);
-        connect(screen, &QScreen::availableGeometryChanged, this, &XcbScreenSource::noteRearranged);
-    };
-    std::ranges::for_each(QGuiApplication::screens(), follow);
-    connect(qGuiApp, &QGuiApplication::screenAdded, this, follow);
-    connect(qGuiApp, &QGuiApplication::screenAdded, this, &XcbScreenSource::noteRearranged);
-    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &XcbScreenSource::noteRearranged);
-    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this,
-            &XcbScreenSource::noteRearranged);
+    followScreens(*this, [this] { noteRearranged(); });
     if (hasSeveralScreens()) {
         m_struts = m_docks.topStruts();
     }

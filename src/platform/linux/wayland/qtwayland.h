@@ -1,0 +1,23 @@
+#pragma once
+
+class QScreen;
+class QWindow;
+struct wl_display;
+struct wl_output;
+struct wl_surface;
+
+namespace quib {
+
+/// Qt's own connection; null where Qt shows its windows in another way.
+wl_display* qtDisplay();
+
+/// Null while there is none.
+wl_surface* surfaceOf(QWindow& window);
+
+/// Null for a screen that stands for none.
+wl_output* outputOf(QScreen& screen);
+
+/// Whether it is a real one: Qt has a screen also where the desktop has none.
+bool isReal(QScreen& screen);
+
+} // namespace quib

@@ -1,0 +1,200 @@
+#include "platform/linux/wayland/waylandpanelhost.h"
+
+#include "platform/linux/wayland/qtwayland.h"
+#include "platform/linux/windowpointer.h"
+
+#include <QGuiApplication>
+#include <QPlatformSurfaceEvent>
+#include <QScreen>
+
+#include <utility>
+
+#include <qpa/qplatformwindow.h>
+#include <wayland-client.h>
+
+using namespace std::chrono_literals;
+
+namespace quib {
+
+namespace {
+
+constexpr auto UntilCollapsed = 250ms;
+
+} // namespace
+
+WaylandPanelHost::WaylandPanelHost(WindowPointer& pointer)
+    : m_shell(qtDisplay())
+    , m_pointer(pointer)
+{
+    m_afterGivingBack.setSingleShot(true);
+    m_afterGivingBack.setInterval(UntilCollapsed);
+    connect(&m_afterGivingBack, &QTimer::timeout, this, [this] {
+        if (hasKeyboard()) {
+            showAnew();
+        }
+    });
+}
+
+void WaylandPanelHost::adopt(QWindow& window)
+{
+    // Qt then gives it a bare surface, for us to say what it is. It looks again and again.
+    qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
+    m_window = &window;
+    window.setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
+    window.installEventFilter(this);
+    m_pointer.watch(window);
+}
+
+void WaylandPanelHost::place(const QRectF& frame)
+{
+    m_frame = frame.toRect();
+    m_pointer.setOrigin(m_frame.topLeft());
+    if (m_window) {
+        m_window->setGeometry(m_frame);
+    }
+    if (m_isShown) {
+        show();
+    }
+}
+
+void WaylandPanelHost::setInputRegion(const QRegion& region)
+{
+    m_inputRegion = region;
+}
+
+void WaylandPanelHost::setHoverRect(const QRect& rect)
+{
+    m_hoverRect = rect;
+    applyHoverRect();
+}
+
+void WaylandPanelHost::orderFront()
+{
+    m_isShown = true;
+    show();
+    if (m_surface) {
+        m_surface->setLayer(LayerSurface::Layer::AboveAll);
+    }
+}
+
+bool WaylandPanelHost::takeKeyboard()
+{
+    m_afterGivingBack.stop();
+    if (!m_surface || std::exchange(m_isKeyboardTaken, true)) {
+        return false;
+    }
+    m_surface->setKeyboard(LayerSurface::Keyboard::AtOnce);
+    return true;
+}
+
+void WaylandPanelHost::giveBackKeyboard(std::optional<quint32> /*click*/)
+{
+    if (m_surface && std::exchange(m_isKeyboardTaken, false)) {
+        m_surface->setKeyboard(LayerSurface::Keyboard::Never);
+    }
+    m_afterGivingBack.start(); // Some compositors leave it here.
+}
+
+QRect WaylandPanelHost::cardFrame() const
+{
+    return m_inputRegion.boundingRect().translated(m_frame.topLeft());
+}
+
+void WaylandPanelHost::placeBelow(quint32 /*window*/)
+{
+    if (m_surface) {
+        m_surface->setLayer(LayerSurface::Layer::BelowWindows);
+    }
+}
+
+bool WaylandPanelHost::eventFilter(QObject* object, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::PlatformSurface:
+        if (static_cast<const QPlatformSurfaceEvent&>(*event).surfaceEventType()
+            == QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed) {
+            m_surface.reset(); // The role goes before what has it.
+        }
+        break;
+    case QEvent::FocusIn: followKeyboard(true); break;
+    case QEvent::FocusOut: followKeyboard(false); break;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        // What is typed while the keyboard is on its way back is not meant for hidden fields.
+        return m_inputRegion.isEmpty();
+    default: break; // NOLINT: Qt's events are not ours to list
+    }
+    return LinuxPanelHost::eventFilter(object, event);
+}
+
+/// On the screen where its place is; not while there is no such screen.
+void WaylandPanelHost::show()
+{
+    auto* screen = QGuiApplication::screenAt(m_frame.center());
+    if (m_window && screen && isReal(*screen) && !isOn(*screen)) {
+        makeSurface(*screen);
+    }
+}
+
+void WaylandPanelHost::showAnew()
+{
+    m_screen.clear();
+    show();
+}
+
+bool WaylandPanelHost::isOn(const QScreen& screen) const
+{
+    return m_surface && m_screen == &screen;
+}
+
+void WaylandPanelHost::makeSurface(QScreen& screen)
+{
+    m_window->destroy();
+    m_window->setScreen(&screen);
+    m_window->setGeometry(m_frame);
+    m_window->create();
+    m_surface = std::make_unique<LayerSurface>(m_shell, surfaceOf(*m_window), outputOf(screen),
+                                               m_window->handle()->geometry().size());
+    if (!m_surface->isReady()) {
+        m_window->destroy();
+        return;
+    }
+    m_screen = &screen;
+    connect(m_surface.get(), &LayerSurface::closed, this, &WaylandPanelHost::showAnew,
+            Qt::QueuedConnection);
+    applyHoverRect();
+    m_window->show();
+    if (m_isKeyboardTaken) {
+        m_surface->setKeyboard(LayerSurface::Keyboard::AtOnce);
+    }
+}
+
+/// An empty one would mean everywhere.
+void WaylandPanelHost::applyHoverRect()
+{
+    constexpr QRect Nowhere(-1, -1, 1, 1);
+    if (m_window) {
+        m_window->setMask(m_hoverRect.isEmpty() ? Nowhere : m_hoverRect);
+    }
+    if (m_surface) {
+        wl_surface_commit(surfaceOf(*m_window)); // Not all versions of Qt do.
+    }
+}
+
+/// Once the panel has it, whoever is pressed next may have it.
+void WaylandPanelHost::followKeyboard(bool hasIt)
+{
+    if (!m_surface || !m_isKeyboardTaken) {
+        return;
+    }
+    m_isKeyboardTaken = hasIt;
+    m_surface->setKeyboard(hasIt ? LayerSurface::Keyboard::OnDemand
+                                 : LayerSurface::Keyboard::Never);
+}
+
+bool WaylandPanelHost::hasKeyboard() const
+{
+    return m_window && QGuiApplication::focusWindow() == m_window;
+}
+
+} // namespace quib

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/linux/linuxpanelhost.h"
+#include "platform/linux/wayland/layershell.h"
+#include "platform/linux/wayland/layersurface.h"
+
+#include <QPointer>
+#include <QTimer>
+#include <QWindow>
+
+namespace quib {
+
+class WindowPointer;
+
+/// A panel in the compositor's layer above all windows. It takes input in the hover's rectangle
+/// only, and the keyboard only when asked to. Where its output goes it is made anew on another.
+class WaylandPanelHost final : public LinuxPanelHost {
+    Q_OBJECT
+
+public:
+    /// The pointer is borrowed, outlives this and watches the window that is adopted.
+    explicit WaylandPanelHost(WindowPointer& pointer);
+
+    void adopt(QWindow& window) override;
+    void place(const QRectF& frame) override;
+    void setInputRegion(const QRegion& region) override;
+    void setHoverRect(const QRect& rect) override;
+    void setVisibleShape(const QPainterPath& /*shape*/) override { } // Compositors blend.
+    void orderFront() override;
+    bool takeKeyboard() override;
+    void giveBackKeyboard(std::optional<quint32> click) override;
+
+    QRect cardFrame() const override;
+    void placeBelow(quint32 window) override;
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void show();
+    void showAnew();
+    bool isOn(const QScreen& screen) const;
+    void makeSurface(QScreen& screen);
+    void applyHoverRect();
+    void followKeyboard(bool hasIt);
+    bool hasKeyboard() const;
+
+    LayerShell m_shell;
+    WindowPointer& m_pointer;
+    QPointer<QWindow> m_window;
+    QPointer<QScreen> m_screen; ///< That the surface is on; null while there is no surface.
+    std::unique_ptr<LayerSurface> m_surface;
+    QRect m_frame; ///< In global points.
+    QRegion m_inputRegion;
+    QRect m_hoverRect;
+    bool m_isShown = false;
+    bool m_isKeyboardTaken = false;
+    QTimer m_afterGivingBack;
+};
+
+} // namespace quib
