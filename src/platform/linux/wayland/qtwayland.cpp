@@ -1,6 +1,7 @@
 #include "platform/linux/wayland/qtwayland.h"
 
 #include <QGuiApplication>
+#include <QWindow>
 
 #include <qpa/qplatformnativeinterface.h>
 
@@ -10,6 +11,12 @@ wl_display* qtDisplay()
 {
     auto* native = QGuiApplication::platformNativeInterface();
     return static_cast<wl_display*>(native->nativeResourceForIntegration("wl_display"));
+}
+
+void makeBareWhenCreated(QWindow& window)
+{
+    qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1"); // Qt looks at it again and again.
+    window.setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
 }
 
 wl_surface* surfaceOf(QWindow& window)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QRect>
+
 class QScreen;
 class QWindow;
 struct wl_display;
@@ -10,6 +12,12 @@ namespace quib {
 
 /// Qt's own connection; null where Qt shows its windows in another way.
 wl_display* qtDisplay();
+
+/// Such a window gets a bare surface, for us to say what it is.
+void makeBareWhenCreated(QWindow& window);
+
+/// An input region that nothing meets: an empty one would mean everywhere.
+inline constexpr QRect Nowhere(-1, -1, 1, 1);
 
 /// Null while there is none.
 wl_surface* surfaceOf(QWindow& window);

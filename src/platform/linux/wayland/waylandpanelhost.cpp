@@ -12,35 +12,18 @@
 #include <qpa/qplatformwindow.h>
 #include <wayland-client.h>
 
-using namespace std::chrono_literals;
-
 namespace quib {
-
-namespace {
-
-constexpr auto UntilCollapsed = 250ms;
-
-} // namespace
 
 WaylandPanelHost::WaylandPanelHost(WindowPointer& pointer)
     : m_shell(qtDisplay())
     , m_pointer(pointer)
 {
-    m_afterGivingBack.setSingleShot(true);
-    m_afterGivingBack.setInterval(UntilCollapsed);
-    connect(&m_afterGivingBack, &QTimer::timeout, this, [this] {
-        if (hasKeyboard()) {
-            showAnew();
-        }
-    });
 }
 
 void WaylandPanelHost::adopt(QWindow& window)
 {
-    // Qt then gives it a bare surface, for us to say what it is. It looks again and again.
-    qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
     m_window = &window;
-    window.setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
+    makeBareWhenCreated(window);
     window.installEventFilter(this);
     m_pointer.watch(window);
 }
@@ -79,20 +62,23 @@ void WaylandPanelHost::orderFront()
 
 bool WaylandPanelHost::takeKeyboard()
 {
-    m_afterGivingBack.stop();
-    if (!m_surface || std::exchange(m_isKeyboardTaken, true)) {
+    if (!m_surface || m_keyboard != Keyboard::NotWanted) {
         return false;
     }
-    m_surface->setKeyboard(LayerSurface::Keyboard::AtOnce);
+    const auto isHere = isFocused() && !m_return.isTaking();
+    m_return.cancel();
+    m_keyboard = isHere ? Keyboard::Lent : Keyboard::Asked;
+    m_surface->setKeyboard(isHere ? LayerSurface::Keyboard::OnDemand
+                                  : LayerSurface::Keyboard::AtOnce);
     return true;
 }
 
 void WaylandPanelHost::giveBackKeyboard(std::optional<quint32> /*click*/)
 {
-    if (m_surface && std::exchange(m_isKeyboardTaken, false)) {
+    if (m_surface && std::exchange(m_keyboard, Keyboard::NotWanted) != Keyboard::NotWanted) {
         m_surface->setKeyboard(LayerSurface::Keyboard::Never);
     }
-    m_afterGivingBack.start(); // Some compositors leave it here.
+    returnWhatWasNotAskedFor();
 }
 
 QRect WaylandPanelHost::cardFrame() const
@@ -118,6 +104,7 @@ bool WaylandPanelHost::eventFilter(QObject* object, QEvent* event)
         break;
     case QEvent::FocusIn: followKeyboard(true); break;
     case QEvent::FocusOut: followKeyboard(false); break;
+    case QEvent::MouseButtonRelease: returnWhatWasNotAskedFor(); break;
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
         // What is typed while the keyboard is on its way back is not meant for hidden fields.
@@ -164,15 +151,14 @@ void WaylandPanelHost::makeSurface(QScreen& screen)
             Qt::QueuedConnection);
     applyHoverRect();
     m_window->show();
-    if (m_isKeyboardTaken) {
+    if (m_keyboard != Keyboard::NotWanted) {
+        m_keyboard = Keyboard::Asked;
         m_surface->setKeyboard(LayerSurface::Keyboard::AtOnce);
     }
 }
 
-/// An empty one would mean everywhere.
 void WaylandPanelHost::applyHoverRect()
 {
-    constexpr QRect Nowhere(-1, -1, 1, 1);
     if (m_window) {
         m_window->setMask(m_hoverRect.isEmpty() ? Nowhere : m_hoverRect);
     }
@@ -184,15 +170,25 @@ void WaylandPanelHost::applyHoverRect()
 /// Once the panel has it, whoever is pressed next may have it.
 void WaylandPanelHost::followKeyboard(bool hasIt)
 {
-    if (!m_surface || !m_isKeyboardTaken) {
-        return;
+    if (hasIt && m_keyboard == Keyboard::Asked) {
+        m_keyboard = Keyboard::Lent;
+        m_surface->setKeyboard(LayerSurface::Keyboard::OnDemand);
+    } else if (!hasIt && m_keyboard == Keyboard::Lent) {
+        m_keyboard = Keyboard::NotWanted;
+        m_surface->setKeyboard(LayerSurface::Keyboard::Never);
     }
-    m_isKeyboardTaken = hasIt;
-    m_surface->setKeyboard(hasIt ? LayerSurface::Keyboard::OnDemand
-                                 : LayerSurface::Keyboard::Never);
 }
 
-bool WaylandPanelHost::hasKeyboard() const
+/// Some compositors give it to whatever is pressed. A text that is pressed has asked by the time
+/// that the compositor answers.
+void WaylandPanelHost::returnWhatWasNotAskedFor()
+{
+    if (isFocused() && m_keyboard == Keyboard::NotWanted) {
+        m_return.start(*m_window);
+    }
+}
+
+bool WaylandPanelHost::isFocused() const
 {
     return m_window && QGuiApplication::focusWindow() == m_window;
 }

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "platform/linux/linuxpanelhost.h"
+#include "platform/linux/wayland/keyboardreturn.h"
 #include "platform/linux/wayland/layershell.h"
 #include "platform/linux/wayland/layersurface.h"
 
 #include <QPointer>
-#include <QTimer>
 #include <QWindow>
 
 namespace quib {
@@ -36,13 +36,16 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    enum class Keyboard { NotWanted, Asked, Lent };
+
     void show();
     void showAnew();
     bool isOn(const QScreen& screen) const;
     void makeSurface(QScreen& screen);
     void applyHoverRect();
     void followKeyboard(bool hasIt);
-    bool hasKeyboard() const;
+    void returnWhatWasNotAskedFor();
+    bool isFocused() const;
 
     LayerShell m_shell;
     WindowPointer& m_pointer;
@@ -53,8 +56,8 @@ private:
     QRegion m_inputRegion;
     QRect m_hoverRect;
     bool m_isShown = false;
-    bool m_isKeyboardTaken = false;
-    QTimer m_afterGivingBack;
+    Keyboard m_keyboard = Keyboard::NotWanted;
+    KeyboardReturn m_return{m_shell};
 };
 
 } // namespace quib
