@@ -13,10 +13,7 @@ namespace {
 constexpr uint32_t TopEdge = 1;
 constexpr int32_t OverAllReserved = -1;
 constexpr auto Scope = "korvel-quib"; // Compositors may have rules for it.
-
-// Versions of the layer shell.
-constexpr uint32_t LayersCanChange = 2;
-constexpr uint32_t KnowsOnDemand = 4;
+constexpr uint32_t KnowsOnDemand = 4; // As the version of the layer shell.
 
 } // namespace
 
@@ -38,10 +35,10 @@ struct LayerSurface::Listening {
 };
 
 LayerSurface::LayerSurface(const LayerShell& shell, wl_surface* surface, wl_output* output,
-                           QSize size)
+                           QSize size, Layer layer)
     : m_surface(surface)
-    , m_role(zwlr_layer_shell_v1_get_layer_surface(shell.shell(), surface, output,
-                                                   uint32_t(Layer::AboveAll), Scope))
+    , m_role(zwlr_layer_shell_v1_get_layer_surface(shell.shell(), surface, output, uint32_t(layer),
+                                                   Scope))
 {
     zwlr_layer_surface_v1_add_listener(m_role, &Listening::Events, this);
     zwlr_layer_surface_v1_set_size(m_role, uint32_t(size.width()), uint32_t(size.height()));
@@ -56,14 +53,6 @@ LayerSurface::LayerSurface(const LayerShell& shell, wl_surface* surface, wl_outp
 LayerSurface::~LayerSurface()
 {
     zwlr_layer_surface_v1_destroy(m_role);
-}
-
-void LayerSurface::setLayer(Layer layer)
-{
-    if (zwlr_layer_surface_v1_get_version(m_role) >= LayersCanChange) {
-        zwlr_layer_surface_v1_set_layer(m_role, uint32_t(layer));
-        wl_surface_commit(m_surface);
-    }
 }
 
 void LayerSurface::setKeyboard(Keyboard keyboard)

@@ -12,7 +12,7 @@ namespace quib {
 class LayerShell;
 
 /// Makes a surface a panel at the top edge of an output, centred, over whatever else reserves room
-/// there. What is set counts from the surface's next commit, which it does itself.
+/// there. Its layer is for good: KWin lets a surface lie where it was.
 class LayerSurface : public QObject {
     Q_OBJECT
 
@@ -22,14 +22,14 @@ public:
 
     /// Waits until the compositor knows the surface, which must not have drawn anything yet.
     /// All three are borrowed and outlive this; without an output the compositor chooses.
-    LayerSurface(const LayerShell& shell, wl_surface* surface, wl_output* output, QSize size);
+    LayerSurface(const LayerShell& shell, wl_surface* surface, wl_output* output, QSize size,
+                 Layer layer = Layer::AboveAll);
     ~LayerSurface() override;
 
     /// False when the compositor has not answered or takes it away: the surface must not draw.
     bool isReady() const { return m_isReady && !m_isClosed; }
 
-    void setLayer(Layer layer);
-    /// AtOnce: now, from whoever has it. OnDemand: when the user presses here.
+    /// AtOnce: now, from whoever has it. OnDemand: when the user presses here. Commits the surface.
     void setKeyboard(Keyboard keyboard);
 
 Q_SIGNALS:

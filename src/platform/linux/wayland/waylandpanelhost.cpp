@@ -54,10 +54,8 @@ void WaylandPanelHost::setHoverRect(const QRect& rect)
 void WaylandPanelHost::orderFront()
 {
     m_isShown = true;
+    setBelowWindows(false);
     show();
-    if (m_surface) {
-        m_surface->setLayer(LayerSurface::Layer::AboveAll);
-    }
 }
 
 bool WaylandPanelHost::takeKeyboard()
@@ -88,9 +86,7 @@ QRect WaylandPanelHost::cardFrame() const
 
 void WaylandPanelHost::placeBelow(quint32 /*window*/)
 {
-    if (m_surface) {
-        m_surface->setLayer(LayerSurface::Layer::BelowWindows);
-    }
+    setBelowWindows(true);
 }
 
 bool WaylandPanelHost::eventFilter(QObject* object, QEvent* event)
@@ -129,6 +125,13 @@ void WaylandPanelHost::showAnew()
     show();
 }
 
+void WaylandPanelHost::setBelowWindows(bool below)
+{
+    if (std::exchange(m_isBelowWindows, below) != below) {
+        showAnew();
+    }
+}
+
 bool WaylandPanelHost::isOn(const QScreen& screen) const
 {
     return m_surface && m_screen == &screen;
@@ -140,8 +143,9 @@ void WaylandPanelHost::makeSurface(QScreen& screen)
     m_window->setScreen(&screen);
     m_window->setGeometry(m_frame);
     m_window->create();
-    m_surface = std::make_unique<LayerSurface>(m_shell, surfaceOf(*m_window), outputOf(screen),
-                                               m_window->handle()->geometry().size());
+    m_surface = std::make_unique<LayerSurface>(
+        m_shell, surfaceOf(*m_window), outputOf(screen), m_window->handle()->geometry().size(),
+        m_isBelowWindows ? LayerSurface::Layer::BelowWindows : LayerSurface::Layer::AboveAll);
     if (!m_surface->isReady()) {
         m_window->destroy();
         return;

@@ -40,6 +40,7 @@ private:
 
     void show();
     void showAnew();
+    void setBelowWindows(bool below);
     bool isOn(const QScreen& screen) const;
     void makeSurface(QScreen& screen);
     void applyHoverRect();
@@ -56,6 +57,7 @@ private:
     QRegion m_inputRegion;
     QRect m_hoverRect;
     bool m_isShown = false;
+    bool m_isBelowWindows = false;
     Keyboard m_keyboard = Keyboard::NotWanted;
     KeyboardReturn m_return{m_shell};
 };
