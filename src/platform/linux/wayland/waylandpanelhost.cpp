@@ -4,7 +4,6 @@
 #include "platform/linux/windowpointer.h"
 
 #include <QGuiApplication>
-#include <QPlatformSurfaceEvent>
 #include <QScreen>
 
 #include <utility>
@@ -18,6 +17,7 @@ WaylandPanelHost::WaylandPanelHost(WindowPointer& pointer)
     : m_shell(qtDisplay())
     , m_pointer(pointer)
 {
+    connect(qGuiApp, &QCoreApplication::aboutToQuit, this, [this] { m_surface.reset(); });
 }
 
 void WaylandPanelHost::adopt(QWindow& window)
@@ -92,12 +92,6 @@ void WaylandPanelHost::placeBelow(quint32 /*window*/)
 bool WaylandPanelHost::eventFilter(QObject* object, QEvent* event)
 {
     switch (event->type()) {
-    case QEvent::PlatformSurface:
-        if (static_cast<const QPlatformSurfaceEvent&>(*event).surfaceEventType()
-            == QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed) {
-            m_surface.reset(); // The role goes before what has it.
-        }
-        break;
     case QEvent::FocusIn: followKeyboard(true); break;
     case QEvent::FocusOut: followKeyboard(false); break;
     case QEvent::MouseButtonRelease: returnWhatWasNotAskedFor(); break;
@@ -139,6 +133,7 @@ bool WaylandPanelHost::isOn(const QScreen& screen) const
 
 void WaylandPanelHost::makeSurface(QScreen& screen)
 {
+    m_surface.reset(); // The role goes before what has it.
     m_window->destroy();
     m_window->setScreen(&screen);
     m_window->setGeometry(m_frame);
@@ -147,6 +142,7 @@ void WaylandPanelHost::makeSurface(QScreen& screen)
         m_shell, surfaceOf(*m_window), outputOf(screen), m_window->handle()->geometry().size(),
         m_isBelowWindows ? LayerSurface::Layer::BelowWindows : LayerSurface::Layer::AboveAll);
     if (!m_surface->isReady()) {
+        m_surface.reset();
         m_window->destroy();
         return;
     }
