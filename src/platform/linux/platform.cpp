@@ -23,6 +23,7 @@
 #include "platform/linux/x11/xcbscreensource.h"
 #include "platform/linux/x11/xserver.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 
 #include <utility>
@@ -36,11 +37,19 @@ namespace {
 
 constexpr std::chrono::milliseconds MomentForTheBus = 50ms; ///< Many times what it needs.
 
+/// Where the service for screen readers keeps its socket, whatever shows the windows.
+bool hasFolderForReaders()
+{
+    const auto folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return !folder.isEmpty() && QFileInfo::exists(folder + u"/at-spi"_s);
+}
+
 /// Qt looks for screen readers by the session bus and once, at the latest with the first item that
 /// is made.
 void awaitReaders(SessionBus& bus)
 {
-    bus.wait(hasServiceForReaders() ? 5 * MomentForTheBus : MomentForTheBus);
+    bus.wait(hasServiceForReaders() || hasFolderForReaders() ? 5 * MomentForTheBus
+                                                             : MomentForTheBus);
 }
 
 Platform makeSeamsWithoutDisplay(const std::shared_ptr<SessionBus>& bus)

@@ -1,5 +1,7 @@
 #include "platform/linux/windowsystem.h"
 
+#include <QLocalServer>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -16,6 +18,14 @@ bool hasXServerNamed(const QByteArray& display)
     return has;
 }
 
+bool hasLayerShellAt(const QString& socket)
+{
+    qputenv("WAYLAND_DISPLAY", socket.toLocal8Bit());
+    const auto has = lookAround().hasLayerShell();
+    qunsetenv("WAYLAND_DISPLAY");
+    return has;
+}
+
 } // namespace
 
 /// Which way the panel takes to the screen, decided before Qt is started.
@@ -28,6 +38,9 @@ private Q_SLOTS:
     void choice_ofLayerShell_doesNotWakeTheXServer();
     void choice_ofX_asksNoCompositor();
     void lookAround_findsTheXServerThatIsThere();
+    void lookAround_withoutACompositor_findsNoLayerShell_data();
+    void lookAround_withoutACompositor_findsNoLayerShell();
+    void lookAround_hungCompositor_isGivenUp();
 };
 
 void WindowSystemTest::choice_data()
@@ -103,6 +116,31 @@ void WindowSystemTest::lookAround_findsTheXServerThatIsThere()
     QVERIFY(lookAround().hasXServer());
     QVERIFY(!hasXServerNamed({}));
     QVERIFY(!hasXServerNamed(":9999"));
+}
+
+void WindowSystemTest::lookAround_withoutACompositor_findsNoLayerShell_data()
+{
+    QTest::addColumn<QString>("socket");
+
+    QTest::addRow("none named") << QString();
+    QTest::addRow("one that has gone") << u"/nonexistent/wayland-0"_s;
+}
+
+void WindowSystemTest::lookAround_withoutACompositor_findsNoLayerShell()
+{
+    QFETCH(QString, socket);
+
+    QVERIFY(!hasLayerShellAt(socket));
+}
+
+/// Who takes the call and never answers.
+void WindowSystemTest::lookAround_hungCompositor_isGivenUp()
+{
+    const QTemporaryDir folder;
+    QLocalServer compositor;
+    QVERIFY(compositor.listen(folder.filePath(u"wayland-0"_s)));
+
+    QVERIFY(!hasLayerShellAt(compositor.fullServerName()));
 }
 
 QTEST_GUILESS_MAIN(WindowSystemTest)
