@@ -149,8 +149,8 @@ void WaylandPanelHost::makeSurface(QScreen& screen)
     m_screen = &screen;
     connect(m_surface.get(), &LayerSurface::closed, this, &WaylandPanelHost::showAnew,
             Qt::QueuedConnection);
-    applyHoverRect();
     m_window->show();
+    applyHoverRect(); // Qt takes its mask for one of the compositor's points while it shows it.
     if (m_keyboard != Keyboard::NotWanted) {
         m_keyboard = Keyboard::Asked;
         m_surface->setKeyboard(LayerSurface::Keyboard::AtOnce);
