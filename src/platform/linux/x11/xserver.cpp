@@ -1,10 +1,32 @@
 #include "platform/linux/x11/xserver.h"
 
 #include <QGuiApplication>
+#include <QScreen>
+#include <QWindow>
 
-#include <optional>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace quib {
+
+namespace {
+
+bool hasExtension(xcb_connection_t* connection, std::string_view name)
+{
+    const auto cookie = xcb_query_extension(connection, uint16_t(name.size()), name.data());
+    const XcbOwned<xcb_query_extension_reply_t> reply(
+        xcb_query_extension_reply(connection, cookie, nullptr));
+    return reply && reply->present != 0;
+}
+
+/// As servers name them that have no extension to be known by.
+bool isOfXwayland(const QScreen* screen)
+{
+    return screen->name().startsWith("XWAYLAND"_L1);
+}
+
+} // namespace
 
 bool isServerReachable()
 {
@@ -19,6 +41,14 @@ xcb_connection_t* qtConnection()
 {
     const auto* application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     return application != nullptr ? application->connection() : nullptr;
+}
+
+bool isXwayland()
+{
+    auto* connection = qtConnection();
+    return connection != nullptr
+        && (std::ranges::any_of(QGuiApplication::screens(), isOfXwayland)
+            || hasExtension(connection, "XWAYLAND"));
 }
 
 int screenNumber()
@@ -41,6 +71,13 @@ xcb_window_t rootWindow(xcb_connection_t* connection)
         xcb_screen_next(&screens);
     }
     return screens.data->root;
+}
+
+xcb_window_t nativeOf(const QWindow* window)
+{
+    const auto isThere
+        = window != nullptr && window->handle() != nullptr && qtConnection() != nullptr;
+    return isThere ? xcb_window_t(window->winId()) : xcb_window_t(XCB_NONE);
 }
 
 xcb_atom_t atomNamed(xcb_connection_t* connection, std::string_view name)

@@ -8,6 +8,8 @@
 #include <memory>
 #include <string_view>
 
+class QWindow;
+
 namespace quib {
 
 struct XcbFreed {
@@ -30,11 +32,18 @@ bool isServerReachable();
 /// Qt's own connection; null where Qt shows its windows in another way.
 xcb_connection_t* qtConnection();
 
+/// Whether that server shows its windows on a Wayland desktop. Asks the server where Qt's names of
+/// the screens do not tell.
+bool isXwayland();
+
 /// The number of the X screen that the environment names.
 int screenNumber();
 
 /// The root of that screen; none where the connection is broken.
 xcb_window_t rootWindow(xcb_connection_t* connection);
+
+/// The native window, which is not made for it; none where there is none.
+xcb_window_t nativeOf(const QWindow* window);
 
 /// Asks the server: for start-up.
 xcb_atom_t atomNamed(xcb_connection_t* connection, std::string_view name);
