@@ -41,9 +41,8 @@ void WindowPointer::setOrigin(QPointF origin)
 PointerState WindowPointer::state() const
 {
     const bool isHere = m_isInside || m_isDraggedOver || m_afterDrag.isActive();
-    const auto isKnown = isHere && m_window;
-    const auto place = isKnown ? m_origin.value_or(m_window->position()) + m_place : FarAway;
-    return {.position = place, .leftHeld = m_isLeftHeld || m_isDraggedOver || isOurDrag()};
+    return {.position = isHere && m_window ? m_place : FarAway,
+            .leftHeld = m_isLeftHeld || m_isDraggedOver || isOurDrag()};
 }
 
 bool WindowPointer::eventFilter(QObject* object, QEvent* event)
@@ -67,27 +66,19 @@ void WindowPointer::follow(const QEvent& event)
         comeTo(mouse.position());
         return;
     }
-    case QEvent::Leave:
-        m_isInside = false;
-        m_isLeftHeld = false;
-        break;
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd: followTouch(static_cast<const QTouchEvent&>(event)); return;
+    case QEvent::Leave:
+    case QEvent::Hide:
+    case QEvent::TouchCancel: leave(); return;
     case QEvent::DragEnter:
     case QEvent::DragMove:
-        m_isDraggedOver = true;
-        m_place = static_cast<const QDropEvent&>(event).position();
-        break;
-    case QEvent::DragLeave: m_isDraggedOver = false; break;
+    case QEvent::DragLeave:
     case QEvent::Drop:
-        m_isDraggedOver = false;
-        m_afterDrag.start();
-        break;
-    case QEvent::ChildRemoved: endOurDrag(); break;
+    case QEvent::ChildRemoved: followDrag(event); return;
     default: return; // NOLINT: Qt's events are not ours to list
     }
-    Q_EMIT changed();
 }
 
 /// A finger is where it was lifted, as a mouse would be.
@@ -97,22 +88,59 @@ void WindowPointer::followTouch(const QTouchEvent& event)
     comeTo(event.points().constFirst().position());
 }
 
-void WindowPointer::comeTo(QPointF place)
+void WindowPointer::followDrag(const QEvent& event)
 {
-    m_isInside = true;
-    m_place = place;
-    m_afterDrag.stop();
+    switch (event.type()) {
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+        m_isDraggedOver = true;
+        m_isDragOurs = isOurDrag();
+        m_isInside = false; // Where the pointer is once the drag ends, the window is told anew.
+        m_isLeftHeld = false;
+        m_place = origin() + static_cast<const QDropEvent&>(event).position();
+        break;
+    case QEvent::DragLeave: m_isDraggedOver = false; break;
+    case QEvent::Drop: endDrag(); break;
+    case QEvent::ChildRemoved:
+        if (!m_isDragOurs || isOurDrag()) {
+            return; // Another child.
+        }
+        m_isDragOurs = false;
+        endDrag();
+        break;
+    default: Q_UNREACHABLE();
+    }
     Q_EMIT changed();
 }
 
-/// Qt keeps it as a child of the window that it began in.
-void WindowPointer::endOurDrag()
+void WindowPointer::endDrag()
 {
     if (std::exchange(m_isDraggedOver, false)) {
         m_afterDrag.start();
     }
 }
 
+void WindowPointer::comeTo(QPointF inWindow)
+{
+    m_isInside = true;
+    m_place = origin() + inWindow;
+    m_afterDrag.stop();
+    Q_EMIT changed();
+}
+
+void WindowPointer::leave()
+{
+    m_isInside = false;
+    m_isLeftHeld = false;
+    Q_EMIT changed();
+}
+
+QPointF WindowPointer::origin() const
+{
+    return m_origin.value_or(m_window ? m_window->position() : QPoint());
+}
+
+/// Qt keeps it as a child of the window that it began in.
 bool WindowPointer::isOurDrag() const
 {
     return m_window && m_window->findChild<QDrag*>({}, Qt::FindDirectChildrenOnly) != nullptr;

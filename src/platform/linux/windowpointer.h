@@ -34,16 +34,20 @@ public:
 private:
     void follow(const QEvent& event);
     void followTouch(const QTouchEvent& event);
-    void comeTo(QPointF place);
-    void endOurDrag();
+    void followDrag(const QEvent& event);
+    void endDrag();
+    void comeTo(QPointF inWindow);
+    void leave();
+    QPointF origin() const;
     bool isOurDrag() const;
 
     QPointer<QWindow> m_window;
     std::optional<QPointF> m_origin; ///< Absent where the window knows where it lies.
-    QPointF m_place; ///< In the window, when it was last told.
+    QPointF m_place; ///< Where it was last told of: the window may move away from under it.
     bool m_isInside = false;
     bool m_isLeftHeld = false; ///< As far as the window knows.
     bool m_isDraggedOver = false;
+    bool m_isDragOurs = false;
     QTimer m_afterDrag; ///< Runs until the desktop has found out where a drag has left the pointer.
 };
 
