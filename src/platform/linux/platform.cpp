@@ -22,6 +22,7 @@
 #include "platform/linux/x11/xcbpointersource.h"
 #include "platform/linux/x11/xcbscreensource.h"
 #include "platform/linux/x11/xserver.h"
+#include "platform/linux/x11/xwaylandpanelhost.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -76,6 +77,16 @@ void showOnX(Platform& platform)
     platform.panelHost = std::move(host);
 }
 
+void showThroughXwayland(Platform& platform)
+{
+    platform.screens = std::make_unique<XcbScreenSource>();
+    auto pointer = std::make_unique<WindowPointer>();
+    auto host = std::make_unique<XwaylandPanelHost>(*pointer);
+    platform.pointer = std::move(pointer);
+    platform.filePicker = std::make_unique<PickerProgram>(*host);
+    platform.panelHost = std::move(host);
+}
+
 void showOnWayland(Platform& platform)
 {
     platform.screens = std::make_unique<WaylandScreenSource>();
@@ -103,7 +114,13 @@ Platform makePlatform()
     const auto bus = std::make_shared<SessionBus>();
     auto platform = makeSeamsWithoutDisplay(bus);
     const auto isWayland = QGuiApplication::platformName().startsWith("wayland"_L1);
-    isWayland ? showOnWayland(platform) : showOnX(platform);
+    if (isWayland) {
+        showOnWayland(platform);
+    } else if (isXwayland()) {
+        showThroughXwayland(platform);
+    } else {
+        showOnX(platform);
+    }
     platform.instance = std::make_unique<LinuxInstance>(bus);
     platform.sessionLock
         = std::make_unique<DesktopLock>(bus, std::make_shared<Bus>(systemBusAddress()));
