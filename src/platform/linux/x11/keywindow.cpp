@@ -24,6 +24,13 @@ void keepOutOfLists(xcb_window_t window)
                         uint32_t(skipped.size()), skipped.data());
 }
 
+/// Where nothing is drawn at all, compositors take a window for one that is still to come.
+void drawTransparent(xcb_window_t window)
+{
+    const uint32_t pixel = 0;
+    xcb_change_window_attributes(qtConnection(), window, XCB_CW_BACK_PIXEL, &pixel);
+}
+
 /// The window that an event of the keyboard is for; null for other events.
 xcb_window_t* hearerOf(xcb_generic_event_t& event)
 {
@@ -74,6 +81,7 @@ void KeyWindow::askForTime()
     if (m_native == XCB_NONE) {
         m_window.create();
         m_native = nativeOf(&m_window);
+        drawTransparent(m_native);
         m_time = atomNamed(qtConnection(), "_QUIB_TIME");
     }
     auto* connection = qtConnection();
