@@ -1,20 +1,14 @@
 #pragma once
 
+#include "deskhome.h"
+
 #include <QColor>
 #include <QImage>
-#include <QJsonObject>
-#include <QPoint>
-#include <QProcess>
-#include <QTemporaryDir>
-
-#include <memory>
-
-using Program = std::unique_ptr<QProcess>;
 
 /// A desktop of the test's own: an X server, a window manager, a session bus and a home, with the
 /// real program on it. Everything ends with the desk. Waits give up after some seconds; the test
 /// fails where it looks at what did not come.
-class Desk {
+class Desk : public DeskHome {
 public:
     struct Options {
         bool compositor = false;
@@ -23,39 +17,17 @@ public:
         bool outputs = false; ///< DUMMY0 to DUMMY3, which can have other sizes and be off.
     };
 
-    // Where things are on this screen of 1600 by 900 points at scale 1.
-    static constexpr QPoint Notch{800, 4};
-    static constexpr QPoint InTheCard{800, 200};
-    static constexpr QPoint FarAway{300, 700};
-    static constexpr QPoint TaskField{600, 60};
-    static constexpr QPoint BesideTheNotch{660, 25};
-    static constexpr QPoint Pin{1102, 23};
-
     struct Connection;
 
     explicit Desk(Options options);
     Desk();
     ~Desk();
 
-    QString folder(const QString& name) const { return m_home.filePath(name); }
-    QString dataFolder() const { return folder(QStringLiteral("data")); }
-    void writeData(const QByteArray& json) const;
-    /// What data.json holds; empty while there is none.
-    QJsonObject data() const;
-    /// The titles of the tasks in data.json.
-    QStringList savedTasks() const;
-    QString variable(const QString& name) const { return m_environment.value(name); }
-    void setVariable(const QString& name, const QString& value);
-
     /// Starts Quib, by the words before its name if there are any, and waits for its panel.
     Program startQuib(QStringList command = {}, const QStringList& arguments = {});
-    Program start(const QString& program, const QStringList& arguments = {});
-    /// Starts Quib and waits for its end; its exit status, or -1 when it did not end.
-    int runQuib(const QStringList& arguments = {});
     /// A window that covers the screen and tells what reaches it.
     Program startListener();
     static QString dragSource();
-    static QString quib();
 
     void moveTo(QPoint point) const;
     void click(QPoint point) const;
@@ -80,12 +52,6 @@ public:
     bool waitForOwner(const QByteArray& selection) const;
 
     // Parts of the desktop that end as crashes of them would, and come again.
-    void startBus(); ///< At the same address each time.
-    void hangBus() const;
-    void resumeBus() const;
-    void killBus();
-    /// Somebody whose name starts so.
-    bool isOnBus(const QString& start) const;
     void startWindowManager(const QString& command = QStringLiteral("openbox"));
     void killWindowManager();
     void startCompositor();
@@ -103,28 +69,8 @@ private:
     QString xdotool(const QStringList& arguments) const;
 
     Options m_options;
-    QTemporaryDir m_home;
-    QProcessEnvironment m_environment;
     Program m_server;
-    Program m_bus;
     Program m_windowManager;
     Program m_compositor;
     std::unique_ptr<Connection> m_connection;
-};
-
-/// What a program has printed so far, added to what it had printed before.
-class Output {
-public:
-    explicit Output(QProcess& program)
-        : m_program(program)
-    {
-    }
-
-    /// How often a line holds the word.
-    qsizetype count(const QByteArray& word);
-    void forget();
-
-private:
-    QProcess& m_program;
-    QByteArray m_text;
 };

@@ -8,9 +8,6 @@
 #include <cstdlib>
 #include <functional>
 
-/// Looks again and again, for ten seconds at most; then says what did not come.
-bool waitFor(const char* what, const std::function<bool()>& isSo);
-
 /// Looks until it is so twenty times in a row, half a second long, for fifteen seconds at most.
 bool waitForLasting(const char* what, const std::function<bool()>& isSo);
 

@@ -42,33 +42,12 @@ Section "Screen"
 EndSection
 )";
 
-void end(const Program& program)
-{
-    if (!program) {
-        return;
-    }
-    sendSignal(program->processId(), SIGCONT);
-    program->terminate();
-    if (!program->waitForFinished(5000)) {
-        program->kill();
-        program->waitForFinished();
-    }
-}
-
-void killNow(Program& program)
-{
-    program->kill();
-    program->waitForFinished();
-    program.reset();
-}
-
 } // namespace
 
 Desk::~Desk()
 {
     end(m_compositor);
     end(m_windowManager);
-    end(m_bus);
     m_connection.reset();
     end(m_server);
 }
@@ -120,41 +99,6 @@ void Desk::setScreens(const QStringList& arguments)
     if (tool->exitCode() != 0) {
         qWarning("no such screens: %s", tool->readAllStandardError().constData());
     }
-}
-
-void Desk::startBus()
-{
-    const auto address = u"unix:path="_s + folder(u"runtime/session"_s);
-    m_bus = start(u"dbus-daemon"_s,
-                  {u"--session"_s, u"--nofork"_s, u"--print-address"_s, u"--address="_s + address});
-    m_bus->waitForReadyRead(10'000);
-    setVariable(u"DBUS_SESSION_BUS_ADDRESS"_s, address);
-}
-
-void Desk::hangBus() const
-{
-    sendSignal(m_bus->processId(), SIGSTOP);
-}
-
-void Desk::resumeBus() const
-{
-    sendSignal(m_bus->processId(), SIGCONT);
-}
-
-void Desk::killBus()
-{
-    killNow(m_bus);
-}
-
-bool Desk::isOnBus(const QString& start) const
-{
-    QProcess tool;
-    tool.setProcessEnvironment(m_environment);
-    tool.start(u"dbus-send"_s,
-               {u"--session"_s, u"--print-reply=literal"_s, u"--dest=org.freedesktop.DBus"_s,
-                u"/org/freedesktop/DBus"_s, u"org.freedesktop.DBus.ListNames"_s});
-    tool.waitForFinished();
-    return tool.readAllStandardOutput().contains(' ' + start.toLatin1());
 }
 
 void Desk::startWindowManager(const QString& command)

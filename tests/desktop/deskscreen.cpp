@@ -6,15 +6,6 @@
 
 using namespace Qt::StringLiterals;
 
-bool waitFor(const char* what, const std::function<bool()>& isSo)
-{
-    const bool came = QTest::qWaitFor(isSo, 10'000);
-    if (!came) {
-        qWarning("waited in vain for %s", what);
-    }
-    return came;
-}
-
 bool waitForLasting(const char* what, const std::function<bool()>& isSo)
 {
     constexpr int Enough = 20;
@@ -145,7 +136,7 @@ bool Desk::isShown(const QString& title) const
 QString Desk::xdotool(const QStringList& arguments) const
 {
     QProcess tool;
-    tool.setProcessEnvironment(m_environment);
+    tool.setProcessEnvironment(environment());
     tool.start(u"xdotool"_s, arguments);
     tool.waitForFinished(10'000);
     return QString::fromUtf8(tool.readAllStandardOutput()).trimmed();
