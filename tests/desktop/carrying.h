@@ -94,7 +94,7 @@ inline QByteArray workspaceWithShelf(const QStringList& paths)
 }
 
 /// The paths in data.json, in order.
-inline QStringList shelfOf(const Desk& desk)
+inline QStringList shelfOf(const DeskHome& desk)
 {
     QStringList paths;
     for (const auto& item : desk.data().value(QLatin1String("shelf")).toArray()) {

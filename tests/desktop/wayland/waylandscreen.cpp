@@ -1,0 +1,168 @@
+// What pointer and keys do on the desk, and what is seen there.
+#include "wayland/waylanddesk.h"
+#include "wayland/xpanel.h"
+
+#include <QHash>
+
+#include <linux/input-event-codes.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QRect Panel{420, 0, 760, 330}; ///< The window of the panel.
+
+int codeOf(const QString& key)
+{
+    static const QHash<QString, int> Named{
+        {u"Return"_s, KEY_ENTER},  {u"Escape"_s, KEY_ESC},      {u"Tab"_s, KEY_TAB},
+        {u"space"_s, KEY_SPACE},   {u" "_s, KEY_SPACE},         {u"BackSpace"_s, KEY_BACKSPACE},
+        {u"ctrl"_s, KEY_LEFTCTRL}, {u"shift"_s, KEY_LEFTSHIFT},
+    };
+    static const QString Rows[] = {u"1234567890"_s, u"qwertyuiop"_s, u"asdfghjkl"_s, u"zxcvbnm"_s};
+    static constexpr int Starts[] = {KEY_1, KEY_Q, KEY_A, KEY_Z};
+    for (int i = 0; i < 4 && key.size() == 1; ++i) {
+        if (const auto place = Rows[i].indexOf(key); place >= 0) {
+            return Starts[i] + int(place);
+        }
+    }
+    return Named.value(key);
+}
+
+} // namespace
+
+void WaylandDesk::tell(const QString& order) const
+{
+    m_hand->write(order.toUtf8() + '\n');
+    m_hand->waitForBytesWritten();
+    while (!m_hand->canReadLine() && m_hand->waitForReadyRead(10'000)) { }
+    if (const auto answer = m_hand->readLine(); answer != "done\n") {
+        qWarning("the hand does not %s", qPrintable(order));
+    }
+}
+
+void WaylandDesk::moveTo(QPoint point) const
+{
+    tell(u"move %1 %2"_s.arg(point.x()).arg(point.y()));
+    m_place = point;
+}
+
+void WaylandDesk::glideTo(QPoint point) const
+{
+    constexpr int Step = 8;
+    const auto from = m_place;
+    const auto way = point - from;
+    const int steps = 1 + qMax(qAbs(way.x()), qAbs(way.y())) / Step;
+    for (int i = 1; i <= steps; ++i) {
+        moveTo(from + way * i / steps);
+    }
+}
+
+void WaylandDesk::click(QPoint point) const
+{
+    moveTo(point);
+    button(true);
+    button(false);
+}
+
+void WaylandDesk::button(bool isDown) const
+{
+    tell(u"button %1 %2"_s.arg(BTN_LEFT).arg(int(isDown)));
+}
+
+void WaylandDesk::type(const QString& text) const
+{
+    for (const auto letter : text) {
+        key(letter.isUpper() ? u"shift+"_s + letter.toLower() : QString(letter));
+    }
+}
+
+void WaylandDesk::key(const QString& name) const
+{
+    const auto keys = name.split(u'+');
+    for (const auto& each : keys) {
+        tell(u"key %1 1"_s.arg(codeOf(each)));
+    }
+    for (auto each = keys.crbegin(); each != keys.crend(); ++each) {
+        tell(u"key %1 0"_s.arg(codeOf(*each)));
+    }
+}
+
+void WaylandDesk::showTab(int number) const
+{
+    click({800 - 350 + 22 + 20 + 15 + 32 * number, 23});
+    waitFor("the tab", [&] { return selectedTab() == number; });
+}
+
+void WaylandDesk::openWithPointer() const
+{
+    moveTo(Notch);
+    waitForExpanded(true);
+    moveTo(InTheCard);
+}
+
+QImage WaylandDesk::pictureByProgram() const
+{
+    const auto place
+        = u"%1,%2 %3x%4"_s.arg(Panel.x()).arg(Panel.y()).arg(Panel.width()).arg(Panel.height());
+    const auto file = folder(u"runtime/picture.png"_s);
+    const auto camera = m_options.kind == Kind::Sway
+        ? start(u"grim"_s, {u"-l"_s, u"1"_s, u"-g"_s, place, file})
+        : start(QStringLiteral(KWIN_CAMERA), {place, file});
+    if (!camera->waitForFinished(10'000) || camera->exitCode() != 0) {
+        qWarning("no picture: %s", camera->readAllStandardError().constData());
+        return {};
+    }
+    return QImage(file);
+}
+
+QImage WaylandDesk::picture() const
+{
+    return hasLayers() ? pictureByProgram() : m_xPanel->picture(Panel);
+}
+
+bool WaylandDesk::hasXPanel() const
+{
+    return XPanel(variable(u"DISPLAY"_s)).place().has_value();
+}
+
+bool WaylandDesk::isPanelShown() const
+{
+    const auto seen = picture();
+    return !seen.isNull() && seen.pixelColor(scaled({380, 12})) == QColor(Qt::black);
+}
+
+/// By the corner of the card that is black only once the spring has come to rest. Windows of X are
+/// as large as what is seen of them.
+bool WaylandDesk::isExpanded() const
+{
+    if (!hasLayers()) {
+        return m_xPanel->place().value_or(QRect()).size() == Panel.size();
+    }
+    const auto seen = picture();
+    return !seen.isNull() && seen.pixelColor(scaled({42, 255})) == QColor(Qt::black)
+        && seen.pixelColor(scaled({380, 287})) == QColor(Qt::black);
+}
+
+int WaylandDesk::selectedTab() const
+{
+    const auto seen = picture();
+    for (int number = 0; number < 7 && !seen.isNull(); ++number) {
+        const auto colour = seen.pixelColor(scaled({30 + 22 + 20 + 4 + 32 * number, 23}));
+        if (colour.blue() > 100 && colour.blue() > colour.green() * 3 / 2) {
+            return number;
+        }
+    }
+    return -1;
+}
+
+QPoint WaylandDesk::scaled(QPoint point) const
+{
+    return (QPointF(point) * m_options.scale).toPoint();
+}
+
+bool WaylandDesk::waitForExpanded(bool expanded) const
+{
+    return waitFor(expanded ? "the panel to expand" : "the panel to collapse",
+                   [&] { return isExpanded() == expanded; });
+}
