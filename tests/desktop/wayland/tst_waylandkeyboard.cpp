@@ -17,6 +17,14 @@ bool keysReach(const WaylandDesk& desk, Output& heard)
     });
 }
 
+/// What is typed before the window has lost the keyboard is the window's.
+bool pressField(const WaylandDesk& desk, Output& heard)
+{
+    heard.forget();
+    desk.click(WaylandDesk::TaskField);
+    return waitFor("the keyboard", [&] { return heard.count("blur") > 0; });
+}
+
 } // namespace
 
 /// The panel has the keyboard exactly while a text is written in it.
@@ -42,8 +50,7 @@ void WaylandKeyboardTest::tasksInARow_areSavedAndNoKeyGoesElsewhere()
     const auto quib = desk.startQuib();
     desk.openWithPointer();
     desk.showTab(3);
-    desk.click(WaylandDesk::TaskField);
-    heard.forget();
+    QVERIFY(pressField(desk, heard));
 
     QStringList tasks;
     for (int number = 0; number < 10; ++number) {
@@ -69,8 +76,7 @@ void WaylandKeyboardTest::keyboard_isTakenAgainAndAgain()
 
     for (const auto& task : {u"first"_s, u"second"_s, u"third"_s}) {
         desk.openWithPointer();
-        heard.forget();
-        desk.click(WaylandDesk::TaskField);
+        QVERIFY(pressField(desk, heard));
         desk.type(task);
         desk.key(u"Return"_s);
         QTRY_COMPARE(desk.savedTasks().value(0), task);

@@ -34,6 +34,7 @@ void WaylandStartTest::secondStart_opensTheFirstAndGivesItTheKeyboard()
 
     QCOMPARE(desk.runQuib(), 0);
     QVERIFY(desk.waitForExpanded(true));
+    QTRY_VERIFY(heard.count("blur") > 0);
     desk.type(u"typed at once"_s);
     desk.key(u"Return"_s);
 

@@ -32,7 +32,11 @@ QStringList linesOf(const QString& path)
 WaylandDesk::WaylandDesk(const Options& options)
     : DeskHome(Owner::NotRoot)
     , m_options(options)
+    , m_lastOutput(options.outputs)
 {
+    for (int number = 1; number <= options.outputs; ++number) {
+        m_outputNames << u"HEADLESS-%1"_s.arg(number);
+    }
     startBus();
     startCompositor();
     if (isUp()) {

@@ -50,6 +50,7 @@ public:
     void showTab(int number) const;
     void openWithPointer() const;
 
+    bool isPanelShown() const;
     bool isExpanded() const;
     bool waitForExpanded(bool expanded) const;
     int selectedTab() const; ///< -1 while none shows.
@@ -60,8 +61,9 @@ public:
     /// Whether the panel is a window of X.
     bool hasXPanel() const;
 
-    /// Takes the last output away, or gives it back; why that can't be, or nothing.
-    QString setOutputs(int count);
+    /// The outputs with these numbers, counted from 0, are on from here on, side by side from the
+    /// left; all others are off. Gives back why that can't be, or nothing.
+    QString setOutputs(const QList<int>& numbers);
 
 private:
     QStringList command();
@@ -73,10 +75,11 @@ private:
     void startHand();
     void startBackground();
     void endLeftovers() const;
+    QString tellSway(const QString& order) const;
+    QString setOutputsOfSway(const QList<int>& numbers);
     void tell(const QString& order) const;
     QImage pictureByProgram() const;
     QPoint scaled(QPoint point) const;
-    bool isPanelShown() const;
 
     Options m_options;
     QString m_refusal;
@@ -84,6 +87,8 @@ private:
     Program m_hand;
     Program m_background;
     std::unique_ptr<XPanel> m_xPanel; ///< Only where there are no layers.
+    QStringList m_outputNames; ///< What sway calls them; empty for those that are off.
+    int m_lastOutput; ///< In sway's count.
     mutable QPoint m_place;
 };
 

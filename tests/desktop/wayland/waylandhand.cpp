@@ -1,6 +1,7 @@
 // Through Wayland: as compositors built on wlroots offer it, or as KWin does.
 #include "hand.h"
 
+#include "fake-input-client.h"
 #include "virtualinput-client.h"
 
 #include <linux/input-event-codes.h>
@@ -59,7 +60,8 @@ void announce(void* data, wl_registry* registry, uint32_t name, const char* inte
     } else if (what == zwp_virtual_keyboard_manager_v1_interface.name) {
         bind(registry, name, zwp_virtual_keyboard_manager_v1_interface, offers.keyboards);
     } else if (what == org_kde_kwin_fake_input_interface.name && version >= 4) {
-        bind(registry, name, org_kde_kwin_fake_input_interface, offers.fakeInput);
+        offers.fakeInput = static_cast<org_kde_kwin_fake_input*>(
+            wl_registry_bind(registry, name, &org_kde_kwin_fake_input_interface, 4));
     }
 }
 
