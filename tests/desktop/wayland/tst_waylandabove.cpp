@@ -51,6 +51,7 @@ void WaylandAboveTest::fullScreenWindow_liesBeneathThePanel()
     desk.moveTo(WaylandDesk::Notch);
     QVERIFY(desk.waitForExpanded(true));
     desk.glideTo(WaylandDesk::InTheCard);
+    desk.moveTo(WaylandDesk::FarAway + QPoint(40, 40));
     desk.moveTo(WaylandDesk::FarAway);
 
     QTRY_VERIFY(heard.count("motion 300,700") > 0);

@@ -8,21 +8,26 @@ using Kind = WaylandDesk::Kind;
 
 namespace {
 
-/// Typed again and again, since nothing tells when the keyboard is given back.
-bool keysReach(const WaylandDesk& desk, Output& heard)
+bool hasKeyboard(Output& heard)
 {
-    return waitFor("keys in the native window", [&] {
-        desk.type(u"z"_s);
-        return heard.count("key z") > 0;
-    });
+    return heard.count("focus") > heard.count("blur");
 }
 
 /// What is typed before the window has lost the keyboard is the window's.
 bool pressField(const WaylandDesk& desk, Output& heard)
 {
-    heard.forget();
     desk.click(WaylandDesk::TaskField);
-    return waitFor("the keyboard", [&] { return heard.count("blur") > 0; });
+    return waitFor("the keyboard", [&] { return !hasKeyboard(heard); });
+}
+
+/// Typed again and again: it has the keyboard a moment before the panel has given it back.
+bool keysReach(const WaylandDesk& desk, Output& heard)
+{
+    const auto before = heard.count("key z");
+    return waitFor("keys in the native window", [&] {
+        desk.type(u"z"_s);
+        return hasKeyboard(heard) && heard.count("key z") > before;
+    });
 }
 
 } // namespace
@@ -77,10 +82,11 @@ void WaylandKeyboardTest::keyboard_isTakenAgainAndAgain()
     for (const auto& task : {u"first"_s, u"second"_s, u"third"_s}) {
         desk.openWithPointer();
         QVERIFY(pressField(desk, heard));
+        const auto before = heard.count("key");
         desk.type(task);
         desk.key(u"Return"_s);
         QTRY_COMPARE(desk.savedTasks().value(0), task);
-        QCOMPARE(heard.count("key"), 0);
+        QCOMPARE(heard.count("key"), before);
 
         desk.moveTo(WaylandDesk::FarAway);
         QVERIFY(desk.waitForExpanded(false));
@@ -99,7 +105,6 @@ void WaylandKeyboardTest::plainButtons_leaveTheKeyboardWhereItWas()
     desk.openWithPointer();
     desk.showTab(1);
     desk.showTab(0);
-    heard.forget();
 
     desk.moveTo(WaylandDesk::FarAway);
     QVERIFY(desk.waitForExpanded(false));

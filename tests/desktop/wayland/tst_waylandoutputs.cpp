@@ -12,6 +12,8 @@ class WaylandOutputsTest : public QObject {
 private Q_SLOTS:
     void outputGoes_thePanelIsOnTheOther_data() { addCompositors(); }
     void outputGoes_thePanelIsOnTheOther();
+    void outputComes_thePanelStays_data() { addCompositors(); }
+    void outputComes_thePanelStays();
 };
 
 namespace {
@@ -46,6 +48,24 @@ void WaylandOutputsTest::outputGoes_thePanelIsOnTheOther()
             QCOMPARE(desk.setOutputs({0, 1}), QString());
         }
     }
+    QCOMPARE(quib->state(), QProcess::Running);
+}
+
+void WaylandOutputsTest::outputComes_thePanelStays()
+{
+    QFETCH(const Kind, kind);
+    const bool makesNewOnes = kind == Kind::Sway; // The others can only turn on what was off.
+    WaylandDesk desk({.kind = kind, .outputs = makesNewOnes ? 1 : 2});
+    SKIP_UNLESS_UP(desk);
+    if (!makesNewOnes) {
+        QCOMPARE(desk.setOutputs({0}), QString());
+    }
+    const auto quib = desk.startQuib();
+    QVERIFY(opensAndCloses(desk));
+
+    QCOMPARE(desk.setOutputs({0, 1}), QString());
+
+    QVERIFY(opensAndCloses(desk));
     QCOMPARE(quib->state(), QProcess::Running);
 }
 

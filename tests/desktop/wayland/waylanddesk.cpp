@@ -17,7 +17,8 @@ namespace {
 QString lastWords(QProcess& program)
 {
     const auto words = QString::fromUtf8(program.readAllStandardError()).trimmed();
-    return program.program().section(u'/', -1) + u": "_s + words.section(u'\n', -1);
+    return program.program().section(u'/', -1) + u": "_s
+        + (words.isEmpty() ? program.errorString() : words.section(u'\n', -1));
 }
 
 QStringList linesOf(const QString& path)

@@ -20,12 +20,14 @@ QString WaylandDesk::tellSway(const QString& order) const
     if (answer.isEmpty()) {
         return QString::fromUtf8(tool->readAllStandardError());
     }
-    return answer.at(0)["error"_L1].toString();
+    const auto error = answer.at(0)["error"_L1].toString();
+    return error.isEmpty() ? QString() : u"sway: "_s + error;
 }
 
 QString WaylandDesk::setOutputsOfSway(const QList<int>& numbers)
 {
     int x = 0;
+    m_outputNames.resize(qMax(m_outputNames.size(), numbers.constLast() + 1));
     for (int i = 0; i < m_outputNames.size(); ++i) {
         auto& name = m_outputNames[i];
         QString refusal;

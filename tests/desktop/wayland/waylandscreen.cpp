@@ -123,7 +123,9 @@ QImage WaylandDesk::picture() const
 
 bool WaylandDesk::hasXPanel() const
 {
-    return XPanel(variable(u"DISPLAY"_s)).place().has_value();
+    const auto tool = start(u"xwininfo"_s, {u"-root"_s, u"-tree"_s});
+    tool->waitForFinished(10'000);
+    return tool->readAllStandardOutput().contains(R"("Korvel Quib": ("quib")");
 }
 
 bool WaylandDesk::isPanelShown() const
