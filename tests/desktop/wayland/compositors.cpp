@@ -4,10 +4,6 @@
 
 #include <QStandardPaths>
 
-#include <unistd.h>
-
-#include <sys/stat.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -41,7 +37,7 @@ QStringList WaylandDesk::command()
 /// with the program that it has started.
 QString WaylandDesk::announcer() const
 {
-    const auto path = writeFile(folder(u"announcer"_s), R"(#!/bin/sh
+    auto path = writeFile(folder(u"announcer"_s), R"(#!/bin/sh
 printf '%s\n%s\n%s\n' "$WAYLAND_DISPLAY" "$DISPLAY" "$XAUTHORITY" >"$HOME/displays.part"
 mv "$HOME/displays.part" "$HOME/displays"
 exec sleep infinity
@@ -91,9 +87,9 @@ QStringList WaylandDesk::kwinCommand()
                       u"--no-lockscreen"_s,
                       u"--no-global-shortcuts"_s,
                       u"--width"_s,
-                      number(Width * m_options.scale),
+                      number(Width),
                       u"--height"_s,
-                      number(Height * m_options.scale),
+                      number(Height),
                       u"--scale"_s,
                       number(m_options.scale),
                       u"--output-count"_s,

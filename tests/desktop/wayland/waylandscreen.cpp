@@ -4,6 +4,8 @@
 
 #include <QHash>
 
+#include <algorithm>
+
 #include <linux/input-event-codes.h>
 
 using namespace Qt::StringLiterals;
@@ -19,11 +21,13 @@ int codeOf(const QString& key)
         {u"space"_s, KEY_SPACE},   {u" "_s, KEY_SPACE},         {u"BackSpace"_s, KEY_BACKSPACE},
         {u"ctrl"_s, KEY_LEFTCTRL}, {u"shift"_s, KEY_LEFTSHIFT},
     };
-    static const QString Rows[] = {u"1234567890"_s, u"qwertyuiop"_s, u"asdfghjkl"_s, u"zxcvbnm"_s};
-    static constexpr int Starts[] = {KEY_1, KEY_Q, KEY_A, KEY_Z};
-    for (int i = 0; i < 4 && key.size() == 1; ++i) {
-        if (const auto place = Rows[i].indexOf(key); place >= 0) {
-            return Starts[i] + int(place);
+    static const QList<std::pair<QString, int>> Rows{{u"1234567890"_s, KEY_1},
+                                                     {u"qwertyuiop"_s, KEY_Q},
+                                                     {u"asdfghjkl"_s, KEY_A},
+                                                     {u"zxcvbnm"_s, KEY_Z}};
+    for (const auto& [keys, first] : Rows) {
+        if (const auto place = keys.indexOf(key); place >= 0 && key.size() == 1) {
+            return first + static_cast<int>(place);
         }
     }
     return Named.value(key);
@@ -79,12 +83,13 @@ void WaylandDesk::type(const QString& text) const
 
 void WaylandDesk::key(const QString& name) const
 {
-    const auto keys = name.split(u'+');
+    auto keys = name.split(u'+');
     for (const auto& each : keys) {
         tell(u"key %1 1"_s.arg(codeOf(each)));
     }
-    for (auto each = keys.crbegin(); each != keys.crend(); ++each) {
-        tell(u"key %1 0"_s.arg(codeOf(*each)));
+    std::ranges::reverse(keys);
+    for (const auto& each : keys) {
+        tell(u"key %1 0"_s.arg(codeOf(each)));
     }
 }
 
