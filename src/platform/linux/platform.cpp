@@ -14,6 +14,8 @@
 #include "platform/linux/quitsignals.h"
 #include "platform/linux/statusnotifier.h"
 #include "platform/linux/themeiconsource.h"
+#include "platform/linux/wayland/lostcompositor.h"
+#include "platform/linux/wayland/qtwayland.h"
 #include "platform/linux/wayland/waylandpanelhost.h"
 #include "platform/linux/wayland/waylandscreensource.h"
 #include "platform/linux/windowpointer.h"
@@ -127,6 +129,9 @@ Platform makePlatform()
     platform.statusItem = std::make_unique<StatusNotifier>(bus);
     platform.loginItem = std::make_unique<AutostartEntry>();
     platform.quitSignals = std::make_unique<QuitSignals>();
+    if (isWayland) {
+        new LostCompositor(qtDisplay(), platform.quitSignals.get());
+    }
     platform.enterBackground = enterBackground;
     awaitReaders(*bus);
     return platform;

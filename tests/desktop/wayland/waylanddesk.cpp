@@ -60,6 +60,11 @@ WaylandDesk::~WaylandDesk()
     endLeftovers();
 }
 
+void WaylandDesk::killCompositor()
+{
+    killNow(m_compositor);
+}
+
 /// It tells a program that it starts itself what the displays are called, once they are there.
 void WaylandDesk::startCompositor()
 {

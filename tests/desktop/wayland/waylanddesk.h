@@ -58,6 +58,8 @@ public:
     /// none. Where the compositor lets nobody take any, it shows nothing but the panel.
     QImage picture() const;
 
+    void killCompositor();
+
     /// Whether the panel is a window of X.
     bool hasXPanel() const;
 

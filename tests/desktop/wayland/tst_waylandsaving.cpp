@@ -1,0 +1,38 @@
+#include "wayland/waylanddesk.h"
+
+#include <QTest>
+
+using Kind = WaylandDesk::Kind;
+using namespace Qt::StringLiterals;
+
+/// What was changed last outlives the desktop.
+class WaylandSavingTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void compositorGoneSoonAfterAChange_leavesItOnDisk_data() { addCompositors(); }
+    void compositorGoneSoonAfterAChange_leavesItOnDisk();
+};
+
+void WaylandSavingTest::compositorGoneSoonAfterAChange_leavesItOnDisk()
+{
+    QFETCH(const Kind, kind);
+    WaylandDesk desk({.kind = kind});
+    SKIP_UNLESS_UP(desk);
+    const auto quib = desk.startQuib();
+    desk.openWithPointer();
+    desk.showTab(3);
+    desk.click(WaylandDesk::TaskField);
+    desk.type(u"just now"_s);
+    const auto before = desk.picture();
+    desk.key(u"Return"_s);
+    QTRY_VERIFY(desk.picture() != before);
+
+    desk.killCompositor(); // Before the 0.4 s after which it is written anyway.
+
+    QVERIFY(quib->waitForFinished());
+    QCOMPARE(desk.savedTasks().value(0), u"just now"_s);
+}
+
+QTEST_GUILESS_MAIN(WaylandSavingTest)
+#include "tst_waylandsaving.moc"
