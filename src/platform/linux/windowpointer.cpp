@@ -55,14 +55,14 @@ void WindowPointer::follow(const QEvent& event)
 {
     switch (event.type()) {
     case QEvent::Enter:
-        m_isLeftHeld = QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
+        setLeftHeld(QGuiApplication::mouseButtons().testFlag(Qt::LeftButton));
         comeTo(static_cast<const QEnterEvent&>(event).position());
         return;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseMove: {
         const auto& mouse = static_cast<const QMouseEvent&>(event);
-        m_isLeftHeld = mouse.buttons().testFlag(Qt::LeftButton);
+        setLeftHeld(mouse.buttons().testFlag(Qt::LeftButton));
         comeTo(mouse.position());
         return;
     }
@@ -120,6 +120,15 @@ void WindowPointer::endDrag()
     }
 }
 
+/// On X11 a drag that nobody answers lives on for minutes after the button was let go.
+void WindowPointer::setLeftHeld(bool isHeld)
+{
+    m_isLeftHeld = isHeld;
+    if (!isHeld) {
+        m_endedDrag = latestDrag();
+    }
+}
+
 void WindowPointer::comeTo(QPointF inWindow)
 {
     m_isInside = true;
@@ -141,9 +150,17 @@ QPointF WindowPointer::origin() const
 }
 
 /// Qt keeps it as a child of the window that it began in.
+QDrag* WindowPointer::latestDrag() const
+{
+    const auto drags
+        = m_window ? m_window->findChildren<QDrag*>(Qt::FindDirectChildrenOnly) : QList<QDrag*>();
+    return drags.isEmpty() ? nullptr : drags.last();
+}
+
 bool WindowPointer::isOurDrag() const
 {
-    return m_window && m_window->findChild<QDrag*>({}, Qt::FindDirectChildrenOnly) != nullptr;
+    const auto* drag = latestDrag();
+    return drag != nullptr && drag != m_endedDrag;
 }
 
 } // namespace quib

@@ -8,6 +8,7 @@
 
 #include <optional>
 
+class QDrag;
 class QTouchEvent;
 
 namespace quib {
@@ -36,9 +37,11 @@ private:
     void followTouch(const QTouchEvent& event);
     void followDrag(const QEvent& event);
     void endDrag();
+    void setLeftHeld(bool isHeld);
     void comeTo(QPointF inWindow);
     void leave();
     QPointF origin() const;
+    QDrag* latestDrag() const;
     bool isOurDrag() const;
 
     QPointer<QWindow> m_window;
@@ -48,6 +51,7 @@ private:
     bool m_isLeftHeld = false; ///< As far as the window knows.
     bool m_isDraggedOver = false;
     bool m_isDragOurs = false;
+    QPointer<QObject> m_endedDrag; ///< The latest of ours that is known to be over.
     QTimer m_afterDrag; ///< Runs until the desktop has found out where a drag has left the pointer.
 };
 
