@@ -97,7 +97,7 @@ bool XwaylandPanelHost::eventFilter(QObject* object, QEvent* event)
 
 QRect XwaylandPanelHost::extent() const
 {
-    return m_extent.translated(frame().topLeft());
+    return m_extent.isEmpty() ? frame() : m_extent.translated(frame().topLeft());
 }
 
 /// One change at a time: of those under way Qt knows nothing.
