@@ -56,14 +56,14 @@ void WindowPointer::follow(const QEvent& event)
     switch (event.type()) {
     case QEvent::Enter:
         setLeftHeld(QGuiApplication::mouseButtons().testFlag(Qt::LeftButton));
-        comeTo(static_cast<const QEnterEvent&>(event).position());
+        comeTo(placeOf(static_cast<const QEnterEvent&>(event)));
         return;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseMove: {
         const auto& mouse = static_cast<const QMouseEvent&>(event);
         setLeftHeld(mouse.buttons().testFlag(Qt::LeftButton));
-        comeTo(mouse.position());
+        comeTo(placeOf(mouse));
         return;
     }
     case QEvent::TouchBegin:
@@ -85,7 +85,7 @@ void WindowPointer::follow(const QEvent& event)
 void WindowPointer::followTouch(const QTouchEvent& event)
 {
     m_isLeftHeld = event.type() != QEvent::TouchEnd;
-    comeTo(event.points().constFirst().position());
+    comeTo(origin() + event.points().constFirst().position());
 }
 
 void WindowPointer::followDrag(const QEvent& event)
@@ -129,10 +129,10 @@ void WindowPointer::setLeftHeld(bool isHeld)
     }
 }
 
-void WindowPointer::comeTo(QPointF inWindow)
+void WindowPointer::comeTo(QPointF place)
 {
     m_isInside = true;
-    m_place = origin() + inWindow;
+    m_place = place;
     m_afterDrag.stop();
     Q_EMIT changed();
 }
@@ -142,6 +142,12 @@ void WindowPointer::leave()
     m_isInside = false;
     m_isLeftHeld = false;
     Q_EMIT changed();
+}
+
+/// Not where the window lies: that may have changed since.
+QPointF WindowPointer::placeOf(const QSinglePointEvent& event) const
+{
+    return m_origin ? *m_origin + event.position() : event.globalPosition();
 }
 
 QPointF WindowPointer::origin() const

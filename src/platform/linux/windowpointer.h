@@ -9,6 +9,7 @@
 #include <optional>
 
 class QDrag;
+class QSinglePointEvent;
 class QTouchEvent;
 
 namespace quib {
@@ -38,8 +39,9 @@ private:
     void followDrag(const QEvent& event);
     void endDrag();
     void setLeftHeld(bool isHeld);
-    void comeTo(QPointF inWindow);
+    void comeTo(QPointF place);
     void leave();
+    QPointF placeOf(const QSinglePointEvent& event) const;
     QPointF origin() const;
     QDrag* latestDrag() const;
     bool isOurDrag() const;

@@ -100,15 +100,14 @@ QRect XwaylandPanelHost::extent() const
     return m_extent.isEmpty() ? frame() : m_extent.translated(frame().topLeft());
 }
 
-/// One change at a time: of those under way Qt knows nothing.
+/// One change at a time: the scene follows once the server has answered.
 void XwaylandPanelHost::setGeometry(const QRect& geometry)
 {
-    if (m_beforeDrawing.isActive()) {
+    if (m_beforeDrawing.isActive() || window()->geometry() == geometry) {
         return;
     }
-    m_asked = geometry;
     window()->setGeometry(geometry);
-    if (window()->geometry() != geometry) {
+    if (nativeWindow() != XCB_NONE) {
         m_beforeDrawing.start();
     }
 }
@@ -119,9 +118,7 @@ void XwaylandPanelHost::goOn()
     if (window() == nullptr) {
         return;
     }
-    if (m_asked != wantedGeometry()) {
-        arrange();
-    }
+    arrange();
     if (!m_beforeDrawing.isActive() && std::exchange(m_isFrameDue, false)) {
         window()->requestUpdate();
     }

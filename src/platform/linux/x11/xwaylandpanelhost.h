@@ -44,7 +44,6 @@ private:
     QRect m_hoverRect; ///< In points of the whole window, as are the others.
     QRect m_extent;
     QSizeF m_drawn;
-    QRect m_asked; ///< Of the server, in global points.
     QTimer m_beforeShrinking;
     QTimer m_beforeDrawing; ///< Runs until the server has answered.
     bool m_isFrameDue = false;
