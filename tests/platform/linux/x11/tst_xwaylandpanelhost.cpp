@@ -53,6 +53,7 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();
+    void plainServer_isNotOfAWaylandDesktop();
     void atFirst_isAsLargeAsTheNotch();
     void open_isWhole();
     void closed_isWholeUntilWhatIsDrawnFits();
@@ -145,6 +146,11 @@ void XwaylandPanelHostTest::close(QSizeF drawnSize)
     m_host->setHoverRect(Notch);
     m_host->setInputRegion({});
     m_host->setVisibleShape(drawn(drawnSize));
+}
+
+void XwaylandPanelHostTest::plainServer_isNotOfAWaylandDesktop()
+{
+    QVERIFY(!isXwayland());
 }
 
 void XwaylandPanelHostTest::atFirst_isAsLargeAsTheNotch()
