@@ -106,8 +106,8 @@ void XwaylandPanelHostTest::init()
     m_lender->setProperty("_MOTIF_WM_HINTS", atomNamed(qtConnection(), "_MOTIF_WM_HINTS"),
                           {2, 0, 0, 0, 0}); // No frame.
     m_lender->show();
-    QTRY_COMPARE((click({200, 500}), keyboardOwner()), m_lender->window());
-    m_lender->presses();
+    QTRY_VERIFY_WITH_TIMEOUT(isManaged(m_lender->window()), 20000);
+    QTRY_COMPARE((m_lender->takeKeyboard(), keyboardOwner()), m_lender->window());
     m_window = std::make_unique<Panel>();
     m_host = std::make_unique<XwaylandPanelHost>(m_pointer);
     m_host->adopt(*m_window);
