@@ -29,7 +29,7 @@ void WaylandScaleTest::notchAndCard_areFeltWhereTheyAreSeen()
 {
     QFETCH(const Kind, kind);
     QFETCH(const double, scale);
-    constexpr QPoint LeftOfTheNotch{697, 12};
+    constexpr QPoint LeftOfTheNotch{686, 12};
     constexpr QPoint LeftEndOfTheNotch{708, 12};
     constexpr QPoint RightEndOfTheCard{1138, 200};
     WaylandDesk desk({.kind = kind, .scale = scale});

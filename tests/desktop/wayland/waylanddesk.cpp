@@ -128,7 +128,7 @@ void WaylandDesk::startBackground()
 Program WaylandDesk::startQuib() const
 {
     auto program = start(quib());
-    waitFor("the panel", [this] { return isPanelShown(); });
+    waitFor("the panel", [this] { return isPanelShown() && isCollapsed(); });
     return program;
 }
 

@@ -52,6 +52,7 @@ public:
 
     bool isPanelShown() const;
     bool isExpanded() const;
+    bool isCollapsed() const;
     bool waitForExpanded(bool expanded) const;
     int selectedTab() const; ///< -1 while none shows.
     /// Of where the panel's window lies: the middle of the screen's upper edge. Null when there is

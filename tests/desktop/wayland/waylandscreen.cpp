@@ -139,16 +139,18 @@ bool WaylandDesk::isPanelShown() const
     return !seen.isNull() && seen.pixelColor(scaled({380, 12})) == QColor(Qt::black);
 }
 
-/// By the corner of the card that is black only once the spring has come to rest. Windows of X are
-/// as large as what is seen of them.
+/// By the corner of the card that is black only once the spring has come to rest.
 bool WaylandDesk::isExpanded() const
 {
-    if (!hasLayers()) {
-        return m_xPanel->place().value_or(QRect()).size() == Panel.size();
-    }
     const auto seen = picture();
     return !seen.isNull() && seen.pixelColor(scaled({42, 255})) == QColor(Qt::black)
         && seen.pixelColor(scaled({380, 287})) == QColor(Qt::black);
+}
+
+/// A window of X has been large before, and lies above others as far as it reaches.
+bool WaylandDesk::isCollapsed() const
+{
+    return hasLayers() ? !isExpanded() : m_xPanel->place().value_or(Panel).size() != Panel.size();
 }
 
 int WaylandDesk::selectedTab() const
@@ -168,8 +170,13 @@ QPoint WaylandDesk::scaled(QPoint point) const
     return (QPointF(point) * m_options.scale).toPoint();
 }
 
+/// Compositors hear of a window of X that has grown after X, and until then the pointer falls
+/// through.
 bool WaylandDesk::waitForExpanded(bool expanded) const
 {
+    if (expanded && !hasLayers()) {
+        return waitForLasting("the panel to expand", [this] { return isExpanded(); });
+    }
     return waitFor(expanded ? "the panel to expand" : "the panel to collapse",
-                   [&] { return isExpanded() == expanded; });
+                   [&] { return expanded ? isExpanded() : isCollapsed(); });
 }
