@@ -38,6 +38,11 @@ void WindowPointer::setOrigin(QPointF origin)
     m_origin = origin;
 }
 
+void WindowPointer::doubtNextEnter()
+{
+    m_isNextEnterDoubted = true;
+}
+
 PointerState WindowPointer::state() const
 {
     const bool isHere = m_isInside || m_isDraggedOver || m_afterDrag.isActive();
@@ -55,8 +60,10 @@ void WindowPointer::follow(const QEvent& event)
 {
     switch (event.type()) {
     case QEvent::Enter:
-        setLeftHeld(QGuiApplication::mouseButtons().testFlag(Qt::LeftButton));
-        comeTo(placeOf(static_cast<const QEnterEvent&>(event)));
+        if (!std::exchange(m_isNextEnterDoubted, false)) {
+            setLeftHeld(QGuiApplication::mouseButtons().testFlag(Qt::LeftButton));
+            comeTo(placeOf(static_cast<const QEnterEvent&>(event)));
+        }
         return;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
@@ -102,12 +109,11 @@ void WindowPointer::followDrag(const QEvent& event)
     case QEvent::DragLeave: m_isDraggedOver = false; break;
     case QEvent::Drop: endDrag(); break;
     case QEvent::ChildRemoved:
-        if (!m_isDragOurs || isOurDrag()) {
-            return; // Another child.
+        if (m_isDragOurs && !isOurDrag()) {
+            m_isDragOurs = false;
+            endDrag();
         }
-        m_isDragOurs = false;
-        endDrag();
-        break;
+        break; // One that was never over the window is over too.
     default: Q_UNREACHABLE();
     }
     Q_EMIT changed();
@@ -132,6 +138,7 @@ void WindowPointer::setLeftHeld(bool isHeld)
 void WindowPointer::comeTo(QPointF place)
 {
     m_isInside = true;
+    m_isNextEnterDoubted = false;
     m_place = place;
     m_afterDrag.stop();
     Q_EMIT changed();

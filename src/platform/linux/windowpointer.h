@@ -26,6 +26,8 @@ public:
     void watch(QWindow& window);
     /// Where the window lies, in global points, for desktops that do not tell its program.
     void setOrigin(QPointF origin);
+    /// The next entering may be long past, and counts once the pointer moves.
+    void doubtNextEnter();
 
     /// Far away while it is not over the window.
     PointerState state() const override;
@@ -50,6 +52,7 @@ private:
     std::optional<QPointF> m_origin; ///< Absent where the window knows where it lies.
     QPointF m_place; ///< Where it was last told of: the window may move away from under it.
     bool m_isInside = false;
+    bool m_isNextEnterDoubted = false;
     bool m_isLeftHeld = false; ///< As far as the window knows.
     bool m_isDraggedOver = false;
     bool m_isDragOurs = false;

@@ -8,25 +8,13 @@ using Kind = WaylandDesk::Kind;
 
 namespace {
 
-bool hasKeyboard(Output& heard)
-{
-    return heard.count("focus") > heard.count("blur");
-}
-
-/// What is typed before the window has lost the keyboard is the window's.
-bool pressField(const WaylandDesk& desk, Output& heard)
-{
-    desk.click(WaylandDesk::TaskField);
-    return waitFor("the keyboard", [&] { return !hasKeyboard(heard); });
-}
-
 /// Typed again and again: it has the keyboard a moment before the panel has given it back.
 bool keysReach(const WaylandDesk& desk, Output& heard)
 {
     const auto before = heard.count("key z");
     return waitFor("keys in the native window", [&] {
         desk.type(u"z"_s);
-        return hasKeyboard(heard) && heard.count("key z") > before;
+        return WaylandDesk::hasKeyboard(heard) && heard.count("key z") > before;
     });
 }
 
@@ -55,7 +43,7 @@ void WaylandKeyboardTest::tasksInARow_areSavedAndNoKeyGoesElsewhere()
     const auto quib = desk.startQuib();
     desk.openWithPointer();
     desk.showTab(3);
-    QVERIFY(pressField(desk, heard));
+    QVERIFY(desk.pressField(WaylandDesk::TaskField, heard));
 
     QStringList tasks;
     for (int number = 0; number < 10; ++number) {
@@ -81,7 +69,7 @@ void WaylandKeyboardTest::keyboard_isTakenAgainAndAgain()
 
     for (const auto& task : {u"first"_s, u"second"_s, u"third"_s}) {
         desk.openWithPointer();
-        QVERIFY(pressField(desk, heard));
+        QVERIFY(desk.pressField(WaylandDesk::TaskField, heard));
         const auto before = heard.count("key");
         desk.type(task);
         desk.key(u"Return"_s);

@@ -19,10 +19,12 @@ void WaylandSavingTest::compositorGoneSoonAfterAChange_leavesItOnDisk()
     QFETCH(const Kind, kind);
     WaylandDesk desk({.kind = kind});
     SKIP_UNLESS_UP(desk);
+    const auto window = desk.startWindow();
+    Output heard(*window);
     const auto quib = desk.startQuib();
     desk.openWithPointer();
     desk.showTab(3);
-    desk.click(WaylandDesk::TaskField);
+    QVERIFY(desk.pressField(WaylandDesk::TaskField, heard));
     desk.type(u"just now"_s);
     const auto before = desk.picture();
     desk.key(u"Return"_s);

@@ -49,6 +49,10 @@ public:
     void key(const QString& name) const;
     void showTab(int number) const;
     void openWithPointer() const;
+    /// Until the window has lost the keyboard, whose all is that is typed before. `heard` is what
+    /// the window prints.
+    bool pressField(QPoint field, Output& heard) const;
+    static bool hasKeyboard(Output& heard);
 
     bool isPanelShown() const;
     bool isExpanded() const;

@@ -106,6 +106,17 @@ void WaylandDesk::openWithPointer() const
     moveTo(InTheCard);
 }
 
+bool WaylandDesk::pressField(QPoint field, Output& heard) const
+{
+    click(field);
+    return waitFor("the keyboard", [&] { return !hasKeyboard(heard); });
+}
+
+bool WaylandDesk::hasKeyboard(Output& heard)
+{
+    return heard.count("focus") > heard.count("blur");
+}
+
 QImage WaylandDesk::pictureByProgram() const
 {
     const auto place

@@ -40,7 +40,9 @@ private Q_SLOTS:
     void drop_isThereForAMoment();
     void drop_enterComesLate_isWhereItEntered();
     void ourDrag_isHeldWhereverItIs();
+    void doubtedEnter_countsOnceThePointerMoves();
     void ourDragEnds_beyond_isFarAway();
+    void ourDragEnds_withoutHavingBeenOverTheWindow_isTold();
     void ourDragEnds_overTheWindow_isThereForAMoment();
     void ourDragLivesOn_buttonIsUp_isNotHeld();
     void ourDragAfterOneThatLivesOn_isHeld();
@@ -281,6 +283,36 @@ void WindowPointerTest::ourDragEnds_beyond_isFarAway()
     QCOMPARE(changes.size(), 1);
     QVERIFY(isFarAway());
     QVERIFY(!isHeld());
+}
+
+void WindowPointerTest::ourDragEnds_withoutHavingBeenOverTheWindow_isTold()
+{
+    enter();
+    mouse(QEvent::MouseButtonPress, Place, Qt::LeftButton);
+    auto drag = std::make_unique<QDrag>(m_window.get());
+    leave();
+    QVERIFY(isHeld());
+    const QSignalSpy changes(m_pointer.get(), &PointerSource::changed);
+
+    drag.reset();
+
+    QCOMPARE(changes.size(), 1);
+    QVERIFY(!isHeld());
+}
+
+/// A server may tell of a pointer that went elsewhere without its knowing.
+void WindowPointerTest::doubtedEnter_countsOnceThePointerMoves()
+{
+    m_pointer->doubtNextEnter();
+    enter();
+    QVERIFY(isFarAway());
+
+    mouse(QEvent::MouseMove, Place, {});
+    QVERIFY(isAt(Place));
+
+    leave();
+    enter();
+    QVERIFY(isAt(Place));
 }
 
 void WindowPointerTest::ourDragEnds_overTheWindow_isThereForAMoment()

@@ -88,6 +88,9 @@ bool XwaylandPanelHost::eventFilter(QObject* object, QEvent* event)
             return true;
         }
         break;
+    case QEvent::Show:
+        m_pointer.doubtNextEnter();
+        break; // The server may not know where it is now.
     case QEvent::Move:
     case QEvent::Resize: goOn(); break;
     default: break; // NOLINT: Qt's events are not ours to list
