@@ -7,6 +7,7 @@
 
 #include <atomic>
 #include <memory>
+#include <utility>
 
 #include <wayland-client-core.h>
 
@@ -18,14 +19,18 @@ namespace {
 
 constexpr int LongestSaveMs = 3000;
 
-std::atomic<wl_display*> watched = nullptr; // Null once the quit has been announced.
+std::atomic<wl_display*> watched = nullptr;
 QtMessageHandler printer = nullptr;
+bool isAnnounced = false; // Of the main thread, as the announcing is.
 
 void announceQuit()
 {
-    QMetaObject::invokeMethod(qApp, "aboutToQuit", Qt::DirectConnection);
+    if (!std::exchange(isAnnounced, true)) {
+        QMetaObject::invokeMethod(qApp, "aboutToQuit", Qt::DirectConnection);
+    }
 }
 
+/// Any thread may be the first to notice, and the main one may notice too while another waits.
 void announceQuitOnItsThread()
 {
     if (QThread::currentThread() == qApp->thread()) {
@@ -51,8 +56,7 @@ bool isDefaultWarning(QtMsgType type, const QMessageLogContext& context)
 void hear(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     auto* display = watched.load();
-    const auto isLost = display != nullptr && wl_display_get_error(display) != 0;
-    if (isLost && watched.compare_exchange_strong(display, nullptr)) {
+    if (display != nullptr && wl_display_get_error(display) != 0) {
         announceQuitOnItsThread();
     }
     if (!isDefaultWarning(type, context)) {
@@ -67,6 +71,7 @@ LostCompositor::LostCompositor(wl_display* display, QObject* parent)
     , m_wereWarningsShown(QLoggingCategory::defaultCategory()->isWarningEnabled())
 {
     watched = display;
+    isAnnounced = false;
     // Qt's word is one of them.
     QLoggingCategory::defaultCategory()->setEnabled(QtWarningMsg, true);
     printer = qInstallMessageHandler(hear);
