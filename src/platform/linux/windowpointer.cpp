@@ -17,14 +17,18 @@ namespace {
 
 constexpr QPointF FarAway(-1e6, -1e6);
 constexpr auto AfterDrag = 250ms; // Compositors take up to a fifth of it.
+constexpr auto AfterGrowing = 250ms; // mutter takes some 100 ms.
 
 } // namespace
 
 WindowPointer::WindowPointer()
 {
-    m_afterDrag.setSingleShot(true);
     m_afterDrag.setInterval(AfterDrag);
-    connect(&m_afterDrag, &QTimer::timeout, this, &PointerSource::changed);
+    m_leavingDoubted.setInterval(AfterGrowing);
+    for (auto* timer : {&m_afterDrag, &m_leavingDoubted}) {
+        timer->setSingleShot(true);
+        connect(timer, &QTimer::timeout, this, &PointerSource::changed);
+    }
 }
 
 void WindowPointer::watch(QWindow& window)
@@ -43,9 +47,17 @@ void WindowPointer::doubtNextEnter()
     m_isNextEnterDoubted = true;
 }
 
+void WindowPointer::doubtLeaving()
+{
+    if (m_isInside || m_isDraggedOver) {
+        m_leavingDoubted.start();
+    }
+}
+
 PointerState WindowPointer::state() const
 {
-    const bool isHere = m_isInside || m_isDraggedOver || m_afterDrag.isActive();
+    const bool isHere
+        = m_isInside || m_isDraggedOver || m_afterDrag.isActive() || m_leavingDoubted.isActive();
     return {.position = isHere && m_window ? m_place : FarAway,
             .leftHeld = m_isLeftHeld || m_isDraggedOver || isOurDrag()};
 }

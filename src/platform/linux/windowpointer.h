@@ -28,6 +28,9 @@ public:
     void setOrigin(QPointF origin);
     /// The next entering may be long past, and counts once the pointer moves.
     void doubtNextEnter();
+    /// For a moment leaving does not count: the window grows under the pointer, and whoever tells
+    /// of the pointer may learn of that late.
+    void doubtLeaving();
 
     /// Far away while it is not over the window.
     PointerState state() const override;
@@ -57,6 +60,7 @@ private:
     bool m_isDraggedOver = false;
     bool m_isDragOurs = false;
     QPointer<QObject> m_endedDrag; ///< The latest of ours that is known to be over.
+    QTimer m_leavingDoubted; ///< Runs while it is.
     QTimer m_afterDrag; ///< Runs until the desktop has found out where a drag has left the pointer.
 };
 

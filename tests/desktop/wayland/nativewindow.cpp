@@ -96,6 +96,9 @@ protected:
         contents->setUrls(urls);
         auto* drag = new QDrag(this);
         drag->setMimeData(contents);
+        connect(drag, &QDrag::actionChanged, this, [](Qt::DropAction action) {
+            say(action == Qt::IgnoreAction ? u"drag is refused"_s : u"drag is welcome"_s);
+        });
         say(u"drag begins"_s);
         const auto action = drag->exec(Qt::CopyAction);
         say(u"drag ended with action %1"_s.arg(static_cast<int>(action)));

@@ -9,6 +9,36 @@ namespace {
 
 constexpr QPoint FirstTile{800 - 350 + 22 + 56, 140};
 
+/// Whether the native window's drag is over somebody else, who has agreed to take it. Of windows of
+/// X mutter tells nobody whether they have.
+bool isWelcomeElsewhere(const WaylandDesk& desk, Output& heard)
+{
+    return heard.count("drag enter") == heard.count("drag leave")
+        && (!desk.hasLayers() || heard.count("drag is welcome") > heard.count("drag is refused"));
+}
+
+void carryOntoTheShelf(const WaylandDesk& desk, Output& heard)
+{
+    heard.forget();
+    desk.moveTo(WaylandDesk::FarAway);
+    QVERIFY(desk.waitForExpanded(false));
+    desk.button(true);
+    QTRY_COMPARE(heard.count("drag begins"), 1);
+    desk.glideTo(WaylandDesk::Notch);
+    QVERIFY(desk.waitForExpanded(true));
+    QTRY_COMPARE(desk.selectedTab(), 5);
+    desk.glideTo(WaylandDesk::InTheCard);
+    QTRY_VERIFY(isWelcomeElsewhere(desk, heard));
+    desk.button(false);
+    QTRY_COMPARE(heard.count("drag ended"), 1);
+}
+
+/// What is let go over a window of X before that has agreed.
+bool hasFallen(Output& heard)
+{
+    return !QTest::currentTestFailed() && heard.count("drag ended with action 0") == 1;
+}
+
 } // namespace
 
 /// Files carried between the shelf and native windows.
@@ -34,14 +64,10 @@ void WaylandFilesTest::fileOfANativeWindow_liesOnTheShelf()
     Output heard(*window);
     const auto quib = desk.startQuib();
 
-    desk.moveTo(WaylandDesk::FarAway);
-    desk.button(true);
-    QTRY_COMPARE(heard.count("drag begins"), 1);
-    desk.glideTo(WaylandDesk::Notch);
-    QVERIFY(desk.waitForExpanded(true));
-    QTRY_COMPARE(desk.selectedTab(), 5);
-    desk.glideTo(WaylandDesk::InTheCard);
-    desk.button(false);
+    carryOntoTheShelf(desk, heard);
+    while (desk.kind() == Kind::Mutter && hasFallen(heard)) {
+        carryOntoTheShelf(desk, heard);
+    }
 
     QTRY_COMPARE(shelfOf(desk), QStringList{file});
     QTRY_COMPARE(heard.count("drag ended with action 1"), 1);

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void drop_enterComesLate_isWhereItEntered();
     void ourDrag_isHeldWhereverItIs();
     void doubtedEnter_countsOnceThePointerMoves();
+    void doubtedLeaving_countsAMomentLater();
     void ourDragEnds_beyond_isFarAway();
     void ourDragEnds_withoutHavingBeenOverTheWindow_isTold();
     void ourDragEnds_overTheWindow_isThereForAMoment();
@@ -313,6 +314,19 @@ void WindowPointerTest::doubtedEnter_countsOnceThePointerMoves()
     leave();
     enter();
     QVERIFY(isAt(Place));
+}
+
+void WindowPointerTest::doubtedLeaving_countsAMomentLater()
+{
+    enter();
+    m_pointer->doubtLeaving();
+    QSignalSpy changes(m_pointer.get(), &PointerSource::changed);
+
+    leave();
+    QVERIFY(isAt(Place));
+
+    QVERIFY(changes.wait());
+    QVERIFY(isFarAway());
 }
 
 void WindowPointerTest::ourDragEnds_overTheWindow_isThereForAMoment()

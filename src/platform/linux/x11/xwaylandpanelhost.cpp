@@ -144,6 +144,7 @@ void XwaylandPanelHost::apply()
     }
     if (!m_extent.contains(needed())) {
         m_extent = {{}, frame().size()};
+        m_pointer.doubtLeaving();
         arrange();
     }
     if (m_extent != needed() && isDrawnWithin(needed())) {
