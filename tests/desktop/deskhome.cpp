@@ -24,6 +24,19 @@ void become(uint user)
     }
 }
 
+/// Where everybody may run it: the folders above that of the build may be closed to all but us.
+QString copyForAll(const QString& program)
+{
+    static const QTemporaryDir copies;
+    const auto copy = copies.filePath(QFileInfo(program).fileName());
+    if (!QFile::exists(copy)) {
+        QFile::setPermissions(copies.path(),
+                              QFile::Permissions(0x7755)); // Qt writes modes in hexadecimal.
+        QFile::copy(program, copy);
+    }
+    return copy;
+}
+
 } // namespace
 
 DeskHome::DeskHome(Owner owner)
@@ -88,7 +101,8 @@ Program DeskHome::start(const QString& program, const QStringList& arguments) co
     if (m_user) {
         process->setChildProcessModifier([user = *m_user] { become(user); });
     }
-    process->start(program, arguments);
+    const auto isInTheBuild = program.startsWith(u'/') && !program.startsWith(m_home.path());
+    process->start(m_user && isInTheBuild ? copyForAll(program) : program, arguments);
     process->waitForStarted();
     return process;
 }

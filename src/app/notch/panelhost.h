@@ -31,7 +31,8 @@ public:
     /// window with what lies beneath; elsewhere it costs nothing.
     virtual void setVisibleShape(const QPainterPath& shape) = 0;
     virtual void orderFront() = 0;
-    /// Remembers who has the keyboard and takes it. False where the panel has it already.
+    /// Remembers who has the keyboard and takes it. False where the panel has it or has asked for
+    /// it already, or can not have it now.
     virtual bool takeKeyboard() = 0;
     /// Where the panel has it: to the window that it was last taken from. `click` is the stamp of
     /// the click that ended our use, if one did.

@@ -88,8 +88,12 @@ void WindowPointer::follow(const QEvent& event)
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd: followTouch(static_cast<const QTouchEvent&>(event)); return;
-    case QEvent::Leave:
     case QEvent::Hide:
+        m_isDraggedOver = false;
+        m_isDragOurs = false;
+        leave();
+        return;
+    case QEvent::Leave:
     case QEvent::TouchCancel: leave(); return;
     case QEvent::DragEnter:
     case QEvent::DragMove:
@@ -103,7 +107,7 @@ void WindowPointer::follow(const QEvent& event)
 /// A finger is where it was lifted, as a mouse would be.
 void WindowPointer::followTouch(const QTouchEvent& event)
 {
-    m_isLeftHeld = event.type() != QEvent::TouchEnd;
+    setLeftHeld(event.type() != QEvent::TouchEnd);
     comeTo(origin() + event.points().constFirst().position());
 }
 

@@ -1,6 +1,10 @@
 #include "wayland/waylanddesk.h"
 
+#include "deskconnection.h"
+
 #include <QTest>
+
+#include <utility>
 
 using Kind = WaylandDesk::Kind;
 using namespace Qt::StringLiterals;
@@ -36,7 +40,11 @@ void WaylandSavingTest::compositorGoneSoonAfterAChange_leavesItOnDisk()
     desk.showTab(3);
     QVERIFY(desk.pressField(WaylandDesk::TaskField, heard));
     desk.type(u"just now"_s);
-    const auto before = rowsOf(desk);
+    auto before = rowsOf(desk);
+    QVERIFY(waitForLasting("rows at rest", [&] {
+        const auto last = std::exchange(before, rowsOf(desk));
+        return last == before;
+    }));
     desk.key(u"Return"_s);
     QTRY_VERIFY(rowsOf(desk) != before);
 

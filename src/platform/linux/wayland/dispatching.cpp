@@ -2,6 +2,8 @@
 
 #include <QDeadlineTimer>
 
+#include <cerrno>
+
 #include <poll.h>
 
 #include <wayland-client-core.h>
@@ -18,7 +20,11 @@ constexpr auto Patience = 1s; // Compositors answer in a millisecond.
 bool hasAnswer(wl_display* display, const QDeadlineTimer& deadline)
 {
     pollfd connection{.fd = wl_display_get_fd(display), .events = POLLIN, .revents = 0};
-    return poll(&connection, 1, int(deadline.remainingTime())) > 0;
+    int ready = 0;
+    do {
+        ready = poll(&connection, 1, int(deadline.remainingTime()));
+    } while (ready < 0 && errno == EINTR);
+    return ready > 0;
 }
 
 } // namespace

@@ -5,13 +5,22 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 
 #include <utility>
 
 #include <qpa/qplatformwindow.h>
 #include <wayland-client.h>
 
+using namespace std::chrono_literals;
+
 namespace quib {
+
+namespace {
+
+constexpr auto BeforeTheNextTry = 1s;
+
+} // namespace
 
 WaylandPanelHost::WaylandPanelHost(WindowPointer& pointer)
     : m_shell(qtDisplay())
@@ -73,7 +82,8 @@ bool WaylandPanelHost::takeKeyboard()
 
 void WaylandPanelHost::giveBackKeyboard(std::optional<quint32> /*click*/)
 {
-    if (m_surface && std::exchange(m_keyboard, Keyboard::NotWanted) != Keyboard::NotWanted) {
+    const bool wasWanted = std::exchange(m_keyboard, Keyboard::NotWanted) != Keyboard::NotWanted;
+    if (m_surface && wasWanted) {
         m_surface->setKeyboard(LayerSurface::Keyboard::Never);
     }
     returnWhatWasNotAskedFor();
@@ -94,6 +104,7 @@ bool WaylandPanelHost::eventFilter(QObject* object, QEvent* event)
     switch (event->type()) {
     case QEvent::FocusIn: followKeyboard(true); break;
     case QEvent::FocusOut: followKeyboard(false); break;
+    case QEvent::TouchEnd:
     case QEvent::MouseButtonRelease: returnWhatWasNotAskedFor(); break;
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
@@ -144,6 +155,7 @@ void WaylandPanelHost::makeSurface(QScreen& screen)
     if (!m_surface->isReady()) {
         m_surface.reset();
         m_window->destroy();
+        QTimer::singleShot(BeforeTheNextTry, this, &WaylandPanelHost::show);
         return;
     }
     m_screen = &screen;
@@ -159,9 +171,10 @@ void WaylandPanelHost::makeSurface(QScreen& screen)
 
 void WaylandPanelHost::applyHoverRect()
 {
-    if (m_window) {
-        m_window->setMask(m_hoverRect.isEmpty() ? Nowhere : m_hoverRect);
+    if (!m_window) {
+        return;
     }
+    m_window->setMask(m_hoverRect.isEmpty() ? Nowhere : m_hoverRect);
     if (m_surface) {
         wl_surface_commit(surfaceOf(*m_window)); // Not all versions of Qt do.
     }
@@ -170,6 +183,9 @@ void WaylandPanelHost::applyHoverRect()
 /// Once the panel has it, whoever is pressed next may have it.
 void WaylandPanelHost::followKeyboard(bool hasIt)
 {
+    if (!m_surface) {
+        return;
+    }
     if (hasIt && m_keyboard == Keyboard::Asked) {
         m_keyboard = Keyboard::Lent;
         m_surface->setKeyboard(LayerSurface::Keyboard::OnDemand);
