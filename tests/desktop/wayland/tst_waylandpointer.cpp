@@ -110,7 +110,7 @@ void WaylandPointerTest::pinned_itStaysOpen()
     desk.showTab(4);
     QVERIFY(desk.isExpanded());
     desk.click(WaylandDesk::Pin);
-    desk.moveTo(Elsewhere);
+    desk.glideTo(Elsewhere);
     QVERIFY(desk.waitForExpanded(false));
 }
 
