@@ -90,7 +90,7 @@ KeyboardReturn::~KeyboardReturn()
 void KeyboardReturn::start(QWindow& panel)
 {
     m_panel = &panel;
-    if (m_answer == nullptr && !m_thenTake.isActive() && !m_taker) {
+    if (!isUnderWay()) {
         m_answers = 0;
         ask();
     }
@@ -104,6 +104,11 @@ void KeyboardReturn::cancel()
     if (m_answer != nullptr) {
         wl_callback_destroy(std::exchange(m_answer, nullptr));
     }
+}
+
+bool KeyboardReturn::isUnderWay() const
+{
+    return m_answer != nullptr || m_thenTake.isActive() || m_taker;
 }
 
 void KeyboardReturn::ask()

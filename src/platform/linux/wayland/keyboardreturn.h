@@ -29,8 +29,8 @@ public:
     /// is borrowed and may die first.
     void start(QWindow& panel);
     void cancel();
-    /// While it is on its way.
-    bool isTaking() const { return m_taker != nullptr; }
+    /// From the start until the panel has lost it, or it is known to have done so.
+    bool isUnderWay() const;
 
 private:
     struct Listening;

@@ -4,6 +4,7 @@
 #include "platform/linux/windowpointer.h"
 
 #include <QGuiApplication>
+#include <QPlatformSurfaceEvent>
 #include <QScreen>
 #include <QTimer>
 
@@ -56,8 +57,9 @@ void WaylandPanelHost::setInputRegion(const QRegion& region)
 
 void WaylandPanelHost::setHoverRect(const QRect& rect)
 {
-    m_hoverRect = rect;
-    applyHoverRect();
+    if (std::exchange(m_hoverRect, rect) != rect) {
+        applyHoverRect();
+    }
 }
 
 void WaylandPanelHost::orderFront()
@@ -72,7 +74,7 @@ bool WaylandPanelHost::takeKeyboard()
     if (!m_surface || m_keyboard != Keyboard::NotWanted) {
         return false;
     }
-    const auto isHere = isFocused() && !m_return.isTaking();
+    const auto isHere = isFocused() && !m_return.isUnderWay();
     m_return.cancel();
     m_keyboard = isHere ? Keyboard::Lent : Keyboard::Asked;
     m_surface->setKeyboard(isHere ? LayerSurface::Keyboard::OnDemand
@@ -106,13 +108,24 @@ bool WaylandPanelHost::eventFilter(QObject* object, QEvent* event)
     case QEvent::FocusOut: followKeyboard(false); break;
     case QEvent::TouchEnd:
     case QEvent::MouseButtonRelease: returnWhatWasNotAskedFor(); break;
+    case QEvent::PlatformSurface: followSurface(static_cast<QPlatformSurfaceEvent&>(*event)); break;
     case QEvent::KeyPress:
+        followKeyboard(true); // Qt tells nothing of one that was lost and came back at once.
+        [[fallthrough]];
     case QEvent::KeyRelease:
         // What is typed while the keyboard is on its way back is not meant for hidden fields.
         return m_inputRegion.isEmpty();
     default: break; // NOLINT: Qt's events are not ours to list
     }
     return LinuxPanelHost::eventFilter(object, event);
+}
+
+/// What has gone is not spoken of any more.
+void WaylandPanelHost::followSurface(const QPlatformSurfaceEvent& event)
+{
+    if (event.surfaceEventType() == QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed) {
+        m_surface.reset();
+    }
 }
 
 /// On the screen where its place is; not while there is no such screen.

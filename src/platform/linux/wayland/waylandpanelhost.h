@@ -8,6 +8,8 @@
 #include <QPointer>
 #include <QWindow>
 
+class QPlatformSurfaceEvent;
+
 namespace quib {
 
 class WindowPointer;
@@ -46,6 +48,7 @@ private:
     void applyHoverRect();
     void followKeyboard(bool hasIt);
     void returnWhatWasNotAskedFor();
+    void followSurface(const QPlatformSurfaceEvent& event);
     bool isFocused() const;
 
     LayerShell m_shell;
