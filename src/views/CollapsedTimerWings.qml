@@ -1,6 +1,7 @@
 import QtQuick
 
 import Quib.Brand
+import Quib.Notch
 import Quib.Views
 
 /*!
@@ -9,10 +10,11 @@ import Quib.Views
 Item {
     id: root
 
+    required property NotchModel model
     required property RunningTimer timer
-    required property bool shown
-    required property bool isMotionReduced
+    required property SpringValue spring
 
+    opacity: 1 - Math.min(1, root.spring.value)
     visible: root.timer.isRunning && root.opacity > 0
 
     Item {
@@ -44,7 +46,7 @@ Item {
                 Pulse {
                     id: pulse
 
-                    running: root.shown && !root.isMotionReduced
+                    running: !root.model.isExpanded && !root.model.isMotionReduced
                 }
             }
 

@@ -21,7 +21,7 @@ FocusScope {
     required property IconSource icons
     required property FileProbe files
     required property Commands commands
-    required property real arrival
+    required property SpringValue spring
 
     visible: root.opacity > 0
     transformOrigin: Item.Top
@@ -92,101 +92,87 @@ FocusScope {
 
         Page {
             tab: Tab.Home
-
-            view: HomeView {
-                objectName: "homeView"
-                anchors.fill: parent
-                focus: true
-                media: root.media
-                calendar: root.calendar
-                store: root.store
-                model: root.model
-                actions: root.actions
-                icons: root.icons
+            source: "HomeView.qml"
+            properties: ({
+                objectName: "homeView",
+                media: root.media,
+                calendar: root.calendar,
+                store: root.store,
+                model: root.model,
+                actions: root.actions,
+                icons: root.icons,
                 commands: root.commands
-            }
+            })
         }
 
         Page {
             id: linksPage
 
             tab: Tab.Links
-
-            view: ShortcutsView {
-                objectName: "shortcutsView"
-                anchors.fill: parent
-                focus: true
-                shortcuts: root.shortcuts
-                actions: root.actions
-                icons: root.icons
-                commands: root.commands
-                shown: linksPage.shown
-            }
+            source: "ShortcutsView.qml"
+            properties: ({
+                objectName: "shortcutsView",
+                shortcuts: root.shortcuts,
+                actions: root.actions,
+                icons: root.icons,
+                commands: root.commands,
+                page: linksPage
+            })
         }
 
         Page {
             id: clientsPage
 
             tab: Tab.Clients
-
-            view: ClientsView {
-                objectName: "clientsView"
-                anchors.fill: parent
-                focus: true
-                store: root.store
-                actions: root.actions
-                commands: root.commands
-                shown: clientsPage.shown
-            }
+            source: "ClientsView.qml"
+            properties: ({
+                objectName: "clientsView",
+                store: root.store,
+                actions: root.actions,
+                commands: root.commands,
+                page: clientsPage
+            })
         }
 
         Page {
             tab: Tab.Tasks
-
-            view: TasksView {
-                objectName: "tasksView"
-                anchors.fill: parent
-                focus: true
+            source: "TasksView.qml"
+            properties: ({
+                objectName: "tasksView",
                 store: root.store
-            }
+            })
         }
 
         Page {
             tab: Tab.Time
-
-            view: TimeView {
-                objectName: "timeView"
-                anchors.fill: parent
-                focus: true
-                store: root.store
+            source: "TimeView.qml"
+            properties: ({
+                objectName: "timeView",
+                store: root.store,
                 actions: root.actions
-            }
+            })
         }
 
         Page {
             tab: Tab.Shelf
-
-            view: ShelfView {
-                objectName: "shelfView"
-                anchors.fill: parent
-                focus: true
-                store: root.store
-                actions: root.actions
-                icons: root.icons
-                files: root.files
-                isMotionReduced: root.model.isMotionReduced
-            }
+            source: "ShelfView.qml"
+            properties: ({
+                objectName: "shelfView",
+                store: root.store,
+                actions: root.actions,
+                icons: root.icons,
+                files: root.files,
+                model: root.model
+            })
         }
 
         Page {
             tab: Tab.Notes
-
-            view: NotesView {
-                objectName: "notesView"
-                anchors.fill: parent
-                focus: true
+            source: "NotesView.qml"
+            properties: ({
+                objectName: "notesView",
                 store: root.store
-            }
+            })
         }
     }
 
@@ -197,8 +183,8 @@ FocusScope {
 
             PropertyChanges {
                 target: root
-                opacity: Math.min(1, root.arrival)
-                scale: 0.97 + 0.03 * root.arrival
+                opacity: Math.min(1, root.spring.value)
+                scale: 0.97 + 0.03 * root.spring.value
             }
         },
         State {

@@ -1,14 +1,16 @@
 import QtQuick
 
 /*!
-    A view that is built when it is first shown and then kept. Hidden it neither paints nor beats.
-    (A Loader of Qt 6.4 cannot make a component with bound ids.)
+    A view that is loaded and built when it is first shown, and then kept: nobody waits for what
+    nobody looks at. Hidden it neither paints nor beats. It fills this item and has its focus.
 */
 FocusScope {
     id: root
 
     required property bool shown
-    required property Component view
+    required property url source
+    /// What the view is made with, by name.
+    required property var properties
 
     property Item item: null
 
@@ -16,8 +18,12 @@ FocusScope {
     Component.onCompleted: root.build()
 
     function build() {
-        if (root.shown && !root.item) {
-            root.item = root.view.createObject(root);
+        if (!root.shown || root.item) {
+            return;
         }
+        const component = Qt.createComponent(root.source);
+        root.item = component.createObject(root, root.properties);
+        root.item.anchors.fill = root;
+        root.item.focus = true;
     }
 }

@@ -100,14 +100,8 @@ FocusScope {
             visible: root.hasWings
             shown: root.hasWings
 
-            view: CollapsedTimerWings {
-                objectName: "wings"
-                anchors.fill: parent
-                opacity: 1 - Math.min(1, spring.value)
-                timer: timer
-                shown: !root.model.isExpanded
-                isMotionReduced: root.model.isMotionReduced
-            }
+            source: "CollapsedTimerWings.qml"
+            properties: ({objectName: "wings", model: root.model, timer: timer, spring: spring})
         }
 
         LazyView {
@@ -117,21 +111,20 @@ FocusScope {
             shown: root.model.isExpanded
             focus: true
 
-            view: ExpandedView {
-                objectName: "expandedView"
-                anchors.fill: parent
-                focus: true
-                model: root.model
-                store: root.store
-                media: root.media
-                calendar: root.calendar
-                shortcuts: root.shortcuts
-                actions: root.actions
-                icons: root.icons
-                files: root.files
-                commands: root.commands
-                arrival: spring.value
-            }
+            source: "ExpandedView.qml"
+            properties: ({
+                objectName: "expandedView",
+                model: root.model,
+                store: root.store,
+                media: root.media,
+                calendar: root.calendar,
+                shortcuts: root.shortcuts,
+                actions: root.actions,
+                icons: root.icons,
+                files: root.files,
+                commands: root.commands,
+                spring: spring
+            })
         }
     }
 

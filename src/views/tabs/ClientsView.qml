@@ -15,7 +15,7 @@ FocusScope {
     required property Store store
     required property Actions actions
     required property Commands commands
-    required property bool shown
+    required property LazyView page
 
     property uuid selection: NoClient.id
 
@@ -81,7 +81,7 @@ FocusScope {
                 actions: root.actions
                 commands: root.commands
                 clientID: modelData
-                shown: root.shown
+                shown: root.page.shown
 
                 onDeleted: root.deleteClient()
             }

@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 import Quib.Brand
+import Quib.Notch
 import Quib.Views
 
 /*!
@@ -15,7 +16,7 @@ FocusScope {
     required property Actions actions
     required property IconSource icons
     required property FileProbe files
-    required property bool isMotionReduced
+    required property NotchModel model
 
     ShelfListModel {
         id: items
@@ -78,7 +79,7 @@ FocusScope {
         actions: root.actions
         icons: root.icons
         files: root.files
-        isMotionReduced: root.isMotionReduced
+        isMotionReduced: root.model.isMotionReduced
 
         onRemoved: itemID => root.store.removeFromShelf(itemID)
     }

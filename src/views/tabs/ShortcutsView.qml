@@ -17,13 +17,13 @@ FocusScope {
     required property Actions actions
     required property IconSource icons
     required property Commands commands
-    required property bool shown
+    required property LazyView page
 
     readonly property real boxGap: 10
     readonly property real smallestBox: 136
     readonly property real boxWidth: Math.max(
         root.smallestBox, (boxes.width - root.boxGap * (groups.count - 1)) / Math.max(1, groups.count))
-    readonly property Shortcuts shownShortcuts: root.shown ? root.shortcuts : null
+    readonly property Shortcuts shownShortcuts: root.page.shown ? root.shortcuts : null
 
     onShownShortcutsChanged: root.shownShortcuts?.reload()
 
