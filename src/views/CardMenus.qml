@@ -15,7 +15,7 @@ Item {
 
     property bool hasTaken: false // Not where the panel had the keyboard before.
 
-    readonly property T.Popup menu: OpenMenu.menu
+    readonly property T.Popup menu: OpenMenu.menu as T.Popup
 
     onMenuChanged: root.menu ? root.take() : root.giveBack()
 
