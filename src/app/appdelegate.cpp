@@ -1,6 +1,7 @@
 #include "app/appdelegate.h"
 
 #include "app/notchpanel.h"
+#include "app/panelengine.h"
 #include "shortcuts/shortcuts.h"
 
 #include <QRegion>
@@ -56,11 +57,11 @@ QRectF AppDelegate::collapsedRect() const
     return quib::collapsedRect(m_screen, m_model.notchSize(), m_store.hasRunningEntry());
 }
 
-void AppDelegate::applicationDidFinishLaunching()
+void AppDelegate::applicationDidFinishLaunching(std::unique_ptr<PanelEngine> engine)
 {
     Store::removeLeftovers();
     Shortcuts::shared().reload();
-    m_panel = std::make_unique<NotchPanel>(viewContext(), *m_platform.panelHost);
+    m_panel = std::make_unique<NotchPanel>(viewContext(), *m_platform.panelHost, std::move(engine));
     layout();
     m_platform.panelHost->setInputRegion({});
     m_platform.panelHost->orderFront();
@@ -75,7 +76,14 @@ void AppDelegate::applicationDidFinishLaunching()
     connect(m_platform.sessionLock.get(), &SessionLock::isLockedChanged, this,
             &AppDelegate::followLock);
     followLock();
+    connect(m_panel.get(), &QQuickWindow::frameSwapped, this, &AppDelegate::applicationDidShow,
+            Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+}
+
+void AppDelegate::applicationDidShow()
+{
     setupStatusItem();
+    Q_EMIT shown();
 }
 
 void AppDelegate::applicationWillTerminate()

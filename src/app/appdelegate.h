@@ -22,6 +22,7 @@
 namespace quib {
 
 class NotchPanel;
+class PanelEngine;
 struct ViewContext;
 
 /// The owner of everything that lives as long as the process. It reads the world through the
@@ -44,7 +45,10 @@ public:
     /// Where the pointer opens the card, in global points.
     QRectF collapsedRect() const;
 
-    void applicationDidFinishLaunching();
+    /// Shows the panel, whose views the engine makes.
+    void applicationDidFinishLaunching(std::unique_ptr<PanelEngine> engine);
+    /// What the user does not see before the panel is there: the status item.
+    void applicationDidShow();
     void applicationWillTerminate();
     /// Measures the notch and places the panel. Without any screen the last geometry stays.
     void layout();
@@ -71,6 +75,10 @@ public:
     void dismiss() override;
     StatusMenu* menu() override { return &m_menu; }
     bool isMenuInStatusBar() const override;
+
+Q_SIGNALS:
+    /// The first frame of the panel is on the screen.
+    void shown();
 
 private:
     void cancelCollapse();

@@ -2,6 +2,7 @@
 
 #include "app/appdelegate.h"
 #include "app/commandline.h"
+#include "app/panelengine.h"
 #include "app/snapshot.h"
 
 #include <QFont>
@@ -43,6 +44,25 @@ std::unique_ptr<QGuiApplication> makeApplication(int& count, char** arguments)
     return std::make_unique<QGuiApplication>(count, arguments);
 }
 
+/// To choose it every font of the system is looked at: not before a text is shown.
+void useFontOnceNeeded(AppDelegate& delegate)
+{
+    auto* waiting = new QObject(&delegate);
+    const auto use = [&delegate, waiting] {
+        useFont(*delegate.platform().desktop);
+        delete waiting;
+    };
+    const auto useForTimer = [&delegate, use] {
+        if (delegate.store().hasRunningEntry()) {
+            use();
+        }
+    };
+    QObject::connect(&delegate.model(), &NotchModel::isExpandedChanged, waiting, use);
+    QObject::connect(&delegate.store(), &Store::entriesChanged, waiting, useForTimer);
+    QObject::connect(&delegate, &AppDelegate::shown, waiting, use);
+    useForTimer();
+}
+
 int say(const QString& text)
 {
     QTextStream(stdout) << text;
@@ -70,12 +90,13 @@ int runPanel(char** argv)
     prepareToDraw(windowSystem.qtPlatform);
     int ours = 1; // Qt's own options are not ours: what is not known is passed over.
     const auto app = makeApplication(ours, argv);
+    auto engine = std::make_unique<PanelEngine>(); // Reads the views meanwhile.
     auto platform = makePlatform();
     if (!platform.instance->claim(Store::folder())) {
         return 0; // The panel that is open already has been called.
     }
     AppDelegate delegate(std::move(platform));
-    useFont(*delegate.platform().desktop);
+    useFontOnceNeeded(delegate);
     QObject::connect(app.get(), &QCoreApplication::aboutToQuit, &delegate,
                      &AppDelegate::applicationWillTerminate);
     QObject::connect(
@@ -83,7 +104,7 @@ int runPanel(char** argv)
             QObject::disconnect(app.get(), &QCoreApplication::aboutToQuit, &delegate, nullptr);
             QCoreApplication::exit();
         });
-    delegate.applicationDidFinishLaunching();
+    delegate.applicationDidFinishLaunching(std::move(engine));
     return QGuiApplication::exec();
 }
 

@@ -4,6 +4,7 @@
 #include "app/notch/geometry.h"
 #include "app/notch/notchmodel.h"
 #include "app/notch/panelhost.h"
+#include "app/panelengine.h"
 #include "integrations/actions.h"
 #include "integrations/calendarcontroller.h"
 #include "integrations/fileprobe.h"
@@ -16,7 +17,6 @@
 
 #include <QGuiApplication>
 #include <QMouseEvent>
-#include <QQmlEngine>
 #include <QQuickItem>
 #include <QStyleHints>
 #include <QSurfaceFormat>
@@ -27,9 +27,12 @@ using namespace Qt::StringLiterals;
 
 namespace quib {
 
-NotchPanel::NotchPanel(const ViewContext& context, PanelHost& host)
-    : m_host(host)
+NotchPanel::NotchPanel(const ViewContext& context, PanelHost& host,
+                       std::unique_ptr<PanelEngine> engine)
+    : QQuickView(engine.get(), nullptr)
+    , m_host(host)
 {
+    engine.release()->setParent(this); // Until the views are gone.
     auto format = requestedFormat();
     format.setAlphaBufferSize(8);
     setFormat(format);
@@ -37,9 +40,8 @@ NotchPanel::NotchPanel(const ViewContext& context, PanelHost& host)
     setTitle(u"Korvel Quib"_s);
     setResizeMode(SizeRootObjectToView);
     resize(PanelSize.toSize());
-    engine()->addImportPath(u"qrc:/qt/qml"_s);
     setInitialProperties(rootProperties(context));
-    setSource(rootSource());
+    setSource(PanelEngine::rootSource());
     rootObject()->setFocus(true); // The view does not hand it on.
     m_afterPress.setSingleShot(true);
     connect(&m_afterPress, &QTimer::timeout, this, [this] { takeKeyboardForText(m_press); });
@@ -115,11 +117,6 @@ QVariantMap rootProperties(const ViewContext& context)
         {u"files"_s, QVariant::fromValue(&context.files)},
         {u"commands"_s, QVariant::fromValue(&context.commands)},
     };
-}
-
-QUrl rootSource()
-{
-    return {u"qrc:/qt/qml/Quib/Views/NotchRootView.qml"_s};
 }
 
 } // namespace quib

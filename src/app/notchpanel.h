@@ -5,6 +5,8 @@
 #include <QQuickView>
 #include <QTimer>
 
+#include <memory>
+
 namespace quib {
 
 class Actions;
@@ -15,6 +17,7 @@ class IconSource;
 class MediaController;
 class NotchModel;
 class NotchShape;
+class PanelEngine;
 class PanelHost;
 class Shortcuts;
 class Store;
@@ -39,7 +42,7 @@ class NotchPanel : public QQuickView {
 
 public:
     /// The host is borrowed too.
-    NotchPanel(const ViewContext& context, PanelHost& host);
+    NotchPanel(const ViewContext& context, PanelHost& host, std::unique_ptr<PanelEngine> engine);
 
 protected:
     bool event(QEvent* event) override;
@@ -60,8 +63,5 @@ private:
 
 /// What the root view of every panel and picture is made with.
 QVariantMap rootProperties(const ViewContext& context);
-
-/// Where the root view lies.
-QUrl rootSource();
 
 } // namespace quib

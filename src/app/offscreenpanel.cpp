@@ -14,8 +14,7 @@ namespace quib {
 OffscreenPanel::OffscreenPanel(const ViewContext& context)
 {
     prepareWindow();
-    m_engine.addImportPath(u"qrc:/qt/qml"_s);
-    QQmlComponent component(&m_engine, rootSource());
+    QQmlComponent component(&m_engine, PanelEngine::rootSource());
     m_root.reset(
         qobject_cast<QQuickItem*>(component.createWithInitialProperties(rootProperties(context))));
     if (m_root) {

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "app/panelengine.h"
+
 #include <QImage>
-#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickRenderControl>
 #include <QQuickWindow>
@@ -29,7 +30,7 @@ public:
 private:
     void prepareWindow();
 
-    QQmlEngine m_engine;
+    PanelEngine m_engine;
     QQuickRenderControl m_control;
     QImage m_picture; ///< Drawn over: the scene graph draws anew only what has changed.
     QQuickWindow m_window{&m_control};

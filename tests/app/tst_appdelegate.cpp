@@ -37,11 +37,14 @@ void AppDelegateTest::launch_goesInOrder()
     connect(&quib::Shortcuts::shared(), &quib::Shortcuts::groupsChanged, &m_quib->delegate,
             [this] { m_quib->shell.asked << u"reload shortcuts"_s; });
 
-    m_quib->delegate.applicationDidFinishLaunching();
+    m_quib->delegate.applicationDidFinishLaunching(std::make_unique<quib::PanelEngine>());
+    m_quib->shell.asked << u"first frame"_s;
+    m_quib->delegate.applicationDidShow();
 
     QCOMPARE(m_quib->shell.asked,
              (QStringList{u"reload shortcuts"_s, u"adopt"_s, u"place at 580,0"_s,
-                          u"let clicks through"_s, u"order front"_s, u"install status item"_s}));
+                          u"let clicks through"_s, u"order front"_s, u"first frame"_s,
+                          u"install status item"_s}));
 }
 
 void AppDelegateTest::secondStart_opensPinsAndTakesTheKeyboard()

@@ -1,4 +1,5 @@
 #include "app/appdelegate.h"
+#include "app/panelengine.h"
 
 #include "support/fakeshell.h"
 #include "support/handclock.h"
@@ -53,7 +54,8 @@ void AppDelegateCommandsTest::init()
     m_shell->pointer.now.position = {960, 700};
     m_delegate = std::make_unique<AppDelegate>(std::move(m_shell->platform), m_hands.clock(),
                                                m_hands.scheduler());
-    m_delegate->applicationDidFinishLaunching();
+    m_delegate->applicationDidFinishLaunching(std::make_unique<quib::PanelEngine>());
+    m_delegate->applicationDidShow();
     m_shell->asked.clear();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/appdelegate.h"
+#include "app/panelengine.h"
 #include "support/datafolderfortest.h"
 #include "support/fakeshell.h"
 #include "support/handclock.h"
@@ -17,7 +18,8 @@ struct DelegateForTest {
     /// Launches it and forgets what that asked of the panel's host.
     quib::AppDelegate& launched()
     {
-        delegate.applicationDidFinishLaunching();
+        delegate.applicationDidFinishLaunching(std::make_unique<quib::PanelEngine>());
+        delegate.applicationDidShow();
         shell.asked.clear();
         return delegate;
     }
