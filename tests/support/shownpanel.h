@@ -2,6 +2,7 @@
 
 #include "app/notch/notchmodel.h"
 #include "app/notchpanel.h"
+#include "app/panelengine.h"
 #include "integrations/actions.h"
 #include "integrations/calendarcontroller.h"
 #include "integrations/mediacontroller.h"
@@ -51,7 +52,7 @@ struct ShownPanel {
                                                                       .icons = icons,
                                                                       .files = files,
                                                                       .commands = commands},
-                                                    host);
+                                                    host, std::make_unique<quib::PanelEngine>());
         window->show();
         [[maybe_unused]] const bool isExposed = QTest::qWaitForWindowExposed(window.get());
     }
