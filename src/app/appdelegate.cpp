@@ -16,6 +16,7 @@ namespace {
 
 constexpr auto PollInterval = 16ms; // The whole milliseconds next to a sixtieth of a second.
 constexpr auto CollapseDelay = 60ms;
+constexpr auto TrimDelay = 3s; // Nobody goes to and fro any more.
 
 } // namespace
 
@@ -83,6 +84,7 @@ void AppDelegate::applicationDidFinishLaunching(std::unique_ptr<PanelEngine> eng
 void AppDelegate::applicationDidShow()
 {
     setupStatusItem();
+    trimMemoryLater();
     Q_EMIT shown();
 }
 
@@ -175,10 +177,20 @@ void AppDelegate::followWhatDecides()
     connect(&m_store, &Store::entriesChanged, this, look, Qt::QueuedConnection);
 }
 
+/// Starting and building views leave holes behind.
+void AppDelegate::trimMemoryLater()
+{
+    m_trimWork = m_schedule(TrimDelay, [this] {
+        m_trimWork.reset();
+        m_platform.trimMemory();
+    });
+}
+
 void AppDelegate::followExpansion()
 {
     auto& host = *m_platform.panelHost;
     followHoverRect();
+    m_trimWork.reset();
     if (m_model.isExpanded()) {
         host.orderFront(); // Some window managers raise full-screen windows above everything.
         host.setInputRegion(CardInPanel.toRect());
@@ -189,6 +201,7 @@ void AppDelegate::followExpansion()
     host.setInputRegion({});
     m_media.stopPolling();
     giveBackKeyboard();
+    trimMemoryLater();
 }
 
 /// Of the window only: the pointer can not be beyond the screen's edge.

@@ -86,6 +86,7 @@ private:
     void runCommand(const QString& title);
     void installMouseMonitors();
     void followWhatDecides();
+    void trimMemoryLater();
     void followExpansion();
     void followHoverRect();
     void followLock();
@@ -107,6 +108,7 @@ private:
     std::unique_ptr<NotchPanel> m_panel;
     Screen m_screen; ///< As of the last layout.
     QTimer m_hoverTimer;
+    std::unique_ptr<QObject> m_trimWork;
     std::unique_ptr<QObject> m_collapseWork; ///< Present while a collapse is pending.
     std::optional<quint32> m_endingClick; ///< The click that the pending collapse is due to.
 };

@@ -42,7 +42,12 @@ struct Platform {
     std::unique_ptr<QObject> quitSignals;
     /// Makes the calling thread, not the main one, one of utility priority.
     std::function<void()> enterBackground = [] {};
+    /// Gives the memory that is free back to the system. Takes a few milliseconds.
+    std::function<void()> trimMemory = [] {};
 };
+
+/// Settles how the process gets its memory. To be called before there is a second thread.
+void prepareMemory();
 
 /// By which of Qt's platforms a panel can be shown on a desktop, or why by none.
 struct WindowSystem {

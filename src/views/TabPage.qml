@@ -12,8 +12,13 @@ LazyView {
     required property NotchModel model
     required property int tab
 
+    readonly property bool isSelected: root.model.tab === root.tab
+
     anchors.fill: parent
-    visible: root.model.tab === root.tab
-    shown: root.model.isExpanded && root.model.tab === root.tab
-    focus: root.model.tab === root.tab
+    visible: root.isSelected
+    shown: root.model.isExpanded && root.isSelected
+    focus: root.isSelected
+
+    // Not when the card closes: it opens with this tab again.
+    onVisibleChanged: if (!root.isSelected) Unseen.letGo(root)
 }

@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <memory>
+#include <utility>
 
 namespace quib {
 
@@ -24,6 +25,14 @@ RasterItem::RasterItem(QQuickItem* parent)
     setFlag(ItemHasContents);
 }
 
+void RasterItem::letGo()
+{
+    if (!isVisible()) {
+        m_isLetGo = true;
+        redraw();
+    }
+}
+
 void RasterItem::redraw()
 {
     m_isStale = true;
@@ -41,7 +50,9 @@ void RasterItem::geometryChange(const QRectF& now, const QRectF& before)
 void RasterItem::itemChange(ItemChange change, const ItemChangeData& value)
 {
     QQuickItem::itemChange(change, value);
-    if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange) {
+    const bool isSeenAgain
+        = change == ItemVisibleHasChanged && value.boolValue && std::exchange(m_isLetGo, false);
+    if (isSeenAgain || change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange) {
         redraw();
     }
 }
@@ -53,8 +64,12 @@ QSGNode* RasterItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/
     }
     m_isStale = false;
     std::unique_ptr<QSGNode> outdated(old);
+    if (m_isLetGo) {
+        return nullptr;
+    }
     const double pixelsPerPoint = window()->effectiveDevicePixelRatio();
-    const QImage image = picture(pixelsPerPoint);
+    // A copy: what was painted on keeps the means of painting, which take more room than it does.
+    const auto image = picture(pixelsPerPoint).copy();
     if (image.isNull()) {
         return nullptr;
     }

@@ -16,6 +16,9 @@ class RasterItem : public QQuickItem {
 public:
     explicit RasterItem(QQuickItem* parent = nullptr);
 
+    /// Frees the picture of a hidden item until it comes into sight.
+    void letGo();
+
 protected:
     /// The picture at so many device pixels to a point; null for nothing to see. Its middle comes
     /// to lie in the item's, as near as whole pixels allow.
@@ -29,6 +32,7 @@ protected:
 
 private:
     bool m_isStale = true;
+    bool m_isLetGo = false;
 };
 
 } // namespace quib

@@ -8,6 +8,7 @@
 #include "platform/linux/gioappcatalog.h"
 #include "platform/linux/gioopener.h"
 #include "platform/linux/linuxinstance.h"
+#include "platform/linux/memory.h"
 #include "platform/linux/mprisplayerlink.h"
 #include "platform/linux/pickerprogram.h"
 #include "platform/linux/portaldesktop.h"
@@ -133,6 +134,7 @@ Platform makePlatform()
         new LostCompositor(qtDisplay(), platform.quitSignals.get());
     }
     platform.enterBackground = enterBackground;
+    platform.trimMemory = trimMemory;
     awaitReaders(*bus);
     return platform;
 }

@@ -1,12 +1,11 @@
 import QtQuick
-import QtQuick.Layouts
 
 import Quib.Brand
 import Quib.Views
 
 /*!
     A surface for one content, which keeps its own size in the top left corner unless it asks for
-    more. As wide as there is room: what holds cards is a layout, or says their width.
+    more. As wide as what holds it, unless that says otherwise.
 */
 Item {
     id: root
@@ -16,7 +15,7 @@ Item {
 
     implicitWidth: (root.content?.implicitWidth ?? 0) + 2 * root.padding
     implicitHeight: (root.content?.implicitHeight ?? 0) + 2 * root.padding
-    Layout.fillWidth: true
+    width: root.parent?.width ?? root.implicitWidth
 
     onContentChanged: root.content.parent = inside
 
