@@ -56,6 +56,7 @@ FocusScope {
 
     Shortcut {
         sequence: "Ctrl+Q" // Where Ctrl is the platform's command modifier.
+        enabled: !OpenMenu.menu // The menu that quits has one of its own: of two, neither would do.
 
         onActivated: root.commands.quit()
     }

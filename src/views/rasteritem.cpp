@@ -5,7 +5,6 @@
 
 #include <cmath>
 #include <memory>
-#include <utility>
 
 namespace quib {
 
@@ -28,7 +27,6 @@ RasterItem::RasterItem(QQuickItem* parent)
 void RasterItem::letGo()
 {
     if (!isVisible()) {
-        m_isLetGo = true;
         redraw();
     }
 }
@@ -50,9 +48,8 @@ void RasterItem::geometryChange(const QRectF& now, const QRectF& before)
 void RasterItem::itemChange(ItemChange change, const ItemChangeData& value)
 {
     QQuickItem::itemChange(change, value);
-    const bool isSeenAgain
-        = change == ItemVisibleHasChanged && value.boolValue && std::exchange(m_isLetGo, false);
-    if (isSeenAgain || change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange) {
+    const bool isToBeMade = change == ItemVisibleHasChanged && value.boolValue && m_isStale;
+    if (isToBeMade || change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange) {
         redraw();
     }
 }
@@ -62,11 +59,11 @@ QSGNode* RasterItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/
     if (old && !m_isStale) {
         return old;
     }
-    m_isStale = false;
     std::unique_ptr<QSGNode> outdated(old);
-    if (m_isLetGo) {
+    if (!isVisible()) {
         return nullptr;
     }
+    m_isStale = false;
     const double pixelsPerPoint = window()->effectiveDevicePixelRatio();
     // A copy: what was painted on keeps the means of painting, which take more room than it does.
     const auto image = picture(pixelsPerPoint).copy();

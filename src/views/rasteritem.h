@@ -16,7 +16,7 @@ class RasterItem : public QQuickItem {
 public:
     explicit RasterItem(QQuickItem* parent = nullptr);
 
-    /// Frees the picture of a hidden item until it comes into sight.
+    /// Frees the picture of an item that is hidden; one that comes into sight is made anew.
     void letGo();
 
 protected:
@@ -31,8 +31,7 @@ protected:
     QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
 
 private:
-    bool m_isStale = true;
-    bool m_isLetGo = false;
+    bool m_isStale = true; ///< Hidden it has no picture then.
 };
 
 } // namespace quib

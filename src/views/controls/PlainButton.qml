@@ -21,6 +21,7 @@ T.AbstractButton {
     property bool isChecked: false
 
     property QuibToolTip toolTip: null
+    property FocusRing ring: null
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
@@ -32,7 +33,10 @@ T.AbstractButton {
     Accessible.checked: root.isChecked
 
     onHoveredChanged: root.prepareToolTip()
-    onVisualFocusChanged: root.prepareToolTip()
+    onVisualFocusChanged: {
+        root.prepareToolTip();
+        root.prepareRing();
+    }
 
     Accessible.onPressAction: root.clicked()
 
@@ -49,17 +53,27 @@ T.AbstractButton {
         }
     }
 
-    // Most buttons never meet the pointer.
+    // Most buttons never meet the pointer, nor the keyboard.
     function prepareToolTip() {
         if (root.help !== "" && !root.toolTip) {
             root.toolTip = explanation.createObject(root);
         }
     }
 
-    FocusRing {
-        objectName: "focusRing"
-        visible: root.visualFocus
-        radius: root.ringRadius
+    function prepareRing() {
+        if (!root.ring) {
+            root.ring = mark.createObject(root);
+        }
+    }
+
+    Component {
+        id: mark
+
+        FocusRing {
+            objectName: "focusRing"
+            visible: root.visualFocus
+            radius: root.ringRadius
+        }
     }
 
     Component {

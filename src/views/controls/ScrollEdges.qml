@@ -27,6 +27,10 @@ Item {
         ? root.flickable.originX + root.flickable.contentWidth + root.flickable.rightMargin - root.extent
         : root.flickable.originY + root.flickable.contentHeight + root.flickable.bottomMargin - root.extent)
 
+    readonly property bool isCut: root.end > root.start
+
+    property Item marks: null
+
     parent: root.flickable.parent
     x: root.flickable.x
     y: root.flickable.y
@@ -34,6 +38,9 @@ Item {
     width: root.flickable.width
     height: root.flickable.height
     visible: root.flickable.visible
+
+    onIsCutChanged: root.build()
+    Component.onCompleted: root.build()
 
     // Of a list or a grid.
     function revealRow(row) {
@@ -63,34 +70,49 @@ Item {
         }
     }
 
-    Fade {
-        objectName: "moreBefore"
-        x: root.isSideways ? -1 : 0
-        y: root.isSideways ? 0 : -1
-        hidden: root.position - root.start
-        isAtStart: true
+    // Most lists never meet more than they have room for.
+    function build() {
+        if (root.isCut && !root.marks) {
+            root.marks = allMarks.createObject(root);
+        }
     }
 
-    Fade {
-        objectName: "moreAfter"
-        x: root.isSideways ? root.width + 1 - width : 0
-        y: root.isSideways ? 0 : root.height + 1 - height
-        hidden: root.end - root.position
-        isAtStart: false
-    }
+    Component {
+        id: allMarks
 
-    Item {
-        id: rail
+        Item {
+            anchors.fill: parent
 
-        objectName: "rail"
-        anchors.fill: parent
-        visible: root.hasThumb
+            Fade {
+                objectName: "moreBefore"
+                x: root.isSideways ? -1 : 0
+                y: root.isSideways ? 0 : -1
+                hidden: root.position - root.start
+                isAtStart: true
+            }
 
-        ScrollThumb {
-            objectName: "thumb"
-            parent: rail
-            x: rail.width + root.thumbMargin
-            flickable: root.flickable
+            Fade {
+                objectName: "moreAfter"
+                x: root.isSideways ? root.width + 1 - width : 0
+                y: root.isSideways ? 0 : root.height + 1 - height
+                hidden: root.end - root.position
+                isAtStart: false
+            }
+
+            Item {
+                id: rail
+
+                objectName: "rail"
+                anchors.fill: parent
+                visible: root.hasThumb
+
+                ScrollThumb {
+                    objectName: "thumb"
+                    parent: rail
+                    x: rail.width + root.thumbMargin
+                    flickable: root.flickable
+                }
+            }
         }
     }
 
