@@ -1,4 +1,4 @@
-#include "platform/linux/hungfile.h"
+#include "support/hungfile.h"
 #include "platform/linux/openerdesk.h"
 #include "support/sendsignal.h"
 

@@ -1,4 +1,4 @@
-#include "platform/linux/hungfile.h"
+#include "support/hungfile.h"
 #include "platform/linux/iconhome.h"
 
 #include <QSignalSpy>
