@@ -23,7 +23,7 @@ public:
     AppCatalog& operator=(const AppCatalog&) = delete;
 
     /// Full path of the visible application of exactly that unlocalised name; absent when there is
-    /// none.
+    /// none. Asked on another thread, by one thread at a time.
     virtual std::optional<QString> applicationNamed(const QString& name) const = 0;
     /// What the application at a full path is called, in the user's language; its file's name where
     /// the file does not tell.

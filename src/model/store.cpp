@@ -1,10 +1,8 @@
 #include "model/store.h"
 
-#include "model/datafile.h"
 #include "model/datafolder.h"
 #include "model/fileaddress.h"
 #include "model/leftovers.h"
-#include "model/sampledata.h"
 
 #include <algorithm>
 #include <array>
@@ -34,17 +32,6 @@ qsizetype rowOf(const QList<Record>& records, const QUuid& id)
 
 } // namespace
 
-Store::Store(Surroundings surroundings, QObject* parent)
-    : QObject(parent)
-    , m_surroundings(std::move(surroundings))
-    , m_saver(m_surroundings.schedule, m_surroundings.enterBackground)
-{
-    auto loaded = loadQuibData(dataFile());
-    m_data = loaded ? *std::move(loaded)
-                    : sampleData(m_surroundings.clock(), m_surroundings.findApplication);
-    entriesWereReplaced();
-}
-
 std::filesystem::path Store::folder()
 {
     return dataFolder();
@@ -52,15 +39,16 @@ std::filesystem::path Store::folder()
 
 void Store::setData(const QuibData& data)
 {
+    const auto& before = this->data();
     const std::array<std::pair<bool, Signal>, 6> changes{{
-        {data.clients != m_data.clients, &Store::clientsChanged},
-        {data.tasks != m_data.tasks, &Store::tasksChanged},
-        {data.entries != m_data.entries, &Store::entriesChanged},
-        {data.shelf != m_data.shelf, &Store::shelfChanged},
-        {data.launch != m_data.launch, &Store::launchChanged},
-        {data.notes != m_data.notes, &Store::notesChanged},
+        {data.clients != before.clients, &Store::clientsChanged},
+        {data.tasks != before.tasks, &Store::tasksChanged},
+        {data.entries != before.entries, &Store::entriesChanged},
+        {data.shelf != before.shelf, &Store::shelfChanged},
+        {data.launch != before.launch, &Store::launchChanged},
+        {data.notes != before.notes, &Store::notesChanged},
     }};
-    m_data = data;
+    workspace() = data;
     entriesWereReplaced();
     for (const auto& [differs, changed] : changes) {
         if (differs) {
@@ -74,32 +62,33 @@ void Store::setData(const QuibData& data)
 
 std::optional<Client> Store::client(const std::optional<QUuid>& id) const
 {
-    const auto found = std::ranges::find(m_data.clients, id, &Client::id);
-    return found == m_data.clients.end() ? std::nullopt : std::optional(*found);
+    const auto& clients = data().clients;
+    const auto found = std::ranges::find(clients, id, &Client::id);
+    return found == clients.end() ? std::nullopt : std::optional(*found);
 }
 
 QUuid Store::addClient()
 {
     const auto id = QUuid::createUuid();
-    m_data.clients.prepend({.id = id, .name = u"New client"_s, .hourlyRate = FirstRate});
+    workspace().clients.prepend({.id = id, .name = u"New client"_s, .hourlyRate = FirstRate});
     announce(&Store::clientsChanged);
     return id;
 }
 
 void Store::deleteClient(const QUuid& id)
 {
-    if (removeAll(m_data.clients, id)) {
+    if (removeAll(workspace().clients, id)) {
         announce(&Store::clientsChanged);
     }
 }
 
 void Store::updateClient(const Client& client)
 {
-    const auto row = rowOf(m_data.clients, client.id);
-    if (row < 0 || m_data.clients.at(row) == client) {
+    const auto row = rowOf(data().clients, client.id);
+    if (row < 0 || data().clients.at(row) == client) {
         return;
     }
-    m_data.clients[row] = client;
+    workspace().clients[row] = client;
     announce(&Store::clientsChanged);
 }
 
@@ -109,34 +98,34 @@ void Store::addTask(const QString& title, const std::optional<QUuid>& client)
     if (trimmed.isEmpty()) {
         return;
     }
-    m_data.tasks.prepend({.id = QUuid::createUuid(),
-                          .title = trimmed,
-                          .clientID = client,
-                          .created = m_surroundings.clock()});
+    workspace().tasks.prepend({.id = QUuid::createUuid(),
+                               .title = trimmed,
+                               .clientID = client,
+                               .created = m_surroundings.clock()});
     announce(&Store::tasksChanged);
 }
 
 void Store::toggleTask(const QUuid& id)
 {
-    const auto row = rowOf(m_data.tasks, id);
+    const auto row = rowOf(data().tasks, id);
     if (row < 0) {
         return;
     }
-    auto& task = m_data.tasks[row];
+    auto& task = workspace().tasks[row];
     task.done = !task.done;
     announce(&Store::tasksChanged);
 }
 
 void Store::deleteTask(const QUuid& id)
 {
-    if (removeAll(m_data.tasks, id)) {
+    if (removeAll(workspace().tasks, id)) {
         announce(&Store::tasksChanged);
     }
 }
 
 void Store::clearDoneTasks()
 {
-    if (m_data.tasks.removeIf([](const TaskItem& task) { return task.done; }) > 0) {
+    if (workspace().tasks.removeIf([](const TaskItem& task) { return task.done; }) > 0) {
         announce(&Store::tasksChanged);
     }
 }
@@ -144,55 +133,55 @@ void Store::clearDoneTasks()
 void Store::addToShelf(const QList<QUrl>& urls)
 {
     const auto isOnIt = [this](const QString& path) {
-        const auto& shelf = std::as_const(m_data.shelf);
+        const auto& shelf = data().shelf;
         return std::ranges::find(shelf, path, &ShelfItem::path) != shelf.end();
     };
-    const auto sizeBefore = m_data.shelf.size();
+    const auto sizeBefore = data().shelf.size();
     for (const auto& url : urls) {
         const auto path = pathOfFile(url);
         if (!path.isEmpty() && !isOnIt(path)) {
-            m_data.shelf.prepend({.id = QUuid::createUuid(), .path = path});
+            workspace().shelf.prepend({.id = QUuid::createUuid(), .path = path});
         }
     }
-    if (m_data.shelf.size() != sizeBefore) {
+    if (data().shelf.size() != sizeBefore) {
         announce(&Store::shelfChanged);
     }
 }
 
 void Store::removeFromShelf(const QUuid& id)
 {
-    if (removeAll(m_data.shelf, id)) {
+    if (removeAll(workspace().shelf, id)) {
         announce(&Store::shelfChanged);
     }
 }
 
 void Store::clearShelf()
 {
-    if (!m_data.shelf.isEmpty()) {
-        m_data.shelf.clear();
+    if (!data().shelf.isEmpty()) {
+        workspace().shelf.clear();
         announce(&Store::shelfChanged);
     }
 }
 
 void Store::addLaunchItem(const LaunchItem& item)
 {
-    m_data.launch.append(item);
+    workspace().launch.append(item);
     announce(&Store::launchChanged);
 }
 
 void Store::removeLaunchItem(const QUuid& id)
 {
-    if (removeAll(m_data.launch, id)) {
+    if (removeAll(workspace().launch, id)) {
         announce(&Store::launchChanged);
     }
 }
 
 void Store::setNotes(const QString& notes)
 {
-    if (notes == m_data.notes) {
+    if (notes == data().notes) {
         return;
     }
-    m_data.notes = notes;
+    workspace().notes = notes;
     announce(&Store::notesChanged);
 }
 
@@ -203,7 +192,7 @@ void Store::removeLeftovers()
 
 void Store::scheduleSave()
 {
-    m_saver.scheduleSave(m_data);
+    m_saver.scheduleSave(data());
 }
 
 void Store::saveNow()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/clock.h"
+#include "model/dataloader.h"
 #include "model/datasaver.h"
 #include "model/quibdata.h"
 #include "model/scheduler.h"
@@ -22,7 +23,7 @@ struct StoreSurroundings {
     Clock clock = systemClock;
     Scheduler schedule = scheduleOnMainLoop;
     /// Full path of the installed application of that unlocalised name, or absent. Asked only to
-    /// build the sample data.
+    /// build the sample data, on the thread that loads.
     std::function<std::optional<QString>(const QString& name)> findApplication;
     UserLocale locale = UserLocale::fromEnvironment();
     /// Makes the calling thread one of utility priority: the one that saves.
@@ -31,6 +32,7 @@ struct StoreSurroundings {
 
 /// The one owner of the workspace, on the main thread. Every operation changes it in one step,
 /// announces what changed, and has it saved 0.4 s after the last change.
+/// It is loaded on another thread: whoever asks for it or changes it before that is done waits.
 /// Ids may repeat in a file that a hand edited: a look-up or a toggle means the first, a deletion
 /// all of them.
 class Store : public QObject {
@@ -42,7 +44,7 @@ class Store : public QObject {
 public:
     using Surroundings = StoreSurroundings;
 
-    /// Loads data.json from the data folder, else builds sample data. Never fails.
+    /// Begins to load data.json from the data folder, else to build sample data. Never fails.
     explicit Store(Surroundings surroundings = {}, QObject* parent = nullptr);
 
     /// The data folder, made with its parents each time it is asked for; a failure to make it shows
@@ -52,14 +54,15 @@ public:
     QDateTime now() const { return m_surroundings.clock(); }
     const UserLocale& locale() const { return m_surroundings.locale; }
 
-    const QuibData& data() const { return m_data; }
+    const QuibData& data() const;
     void setData(const QuibData& data);
 
     /// The first client of that id; absent when there is none, or no id.
     std::optional<Client> client(const std::optional<QUuid>& id) const;
-    QString notes() const { return m_data.notes; }
+    QString notes() const { return data().notes; }
     std::optional<TimeEntry> runningEntry() const;
-    /// At no cost: asked 60 times a second.
+    /// At no cost: asked 60 times a second. Never waits: while the workspace is being loaded no
+    /// timer runs, and afterwards a change of the entries is announced when one does.
     bool hasRunningEntry() const { return m_runningRow >= 0; }
     QDateTime runningSince() const; ///< Invalid when no timer runs.
     /// The entries that had not ended by then, in stored order; a running one ends now.
@@ -96,7 +99,8 @@ public:
     /// Removes what saves that were killed have left. For the one program that uses the folder.
     static void removeLeftovers();
     void scheduleSave();
-    /// Writes at once what is not on disk yet; waits for a write in progress first.
+    /// Writes at once what is not on disk yet; waits for a write in progress first, but not for the
+    /// loading: who has loaded nothing has changed nothing.
     void saveNow();
 
 Q_SIGNALS:
@@ -110,15 +114,20 @@ Q_SIGNALS:
 private:
     using Signal = void (Store::*)();
 
+    std::function<QuibData()> loading();
+    void tellOfTimer();
+    void awaitData() const;
+    QuibData& workspace(); ///< To be changed.
     void announce(Signal changed);
     bool endRunningEntry(); ///< False when no timer runs. Announces nothing.
-    void entriesWereReplaced();
+    void entriesWereReplaced() const;
 
     Surroundings m_surroundings;
-    QuibData m_data;
-    qsizetype m_runningRow = -1; ///< Of the first entry that runs; -1 without one.
+    mutable QuibData m_data; ///< Empty until it was waited for.
+    mutable qsizetype m_runningRow = -1; ///< Of the first entry that runs; -1 without one.
     mutable std::vector<Tally> m_tallies; ///< Of the entries as they are, for moments asked about.
     DataSaver m_saver;
+    mutable DataLoader m_loader; ///< Last: waits when it goes.
 };
 
 } // namespace quib

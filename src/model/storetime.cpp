@@ -27,38 +27,41 @@ bool isRunning(const TimeEntry& entry)
 
 std::optional<TimeEntry> Store::runningEntry() const
 {
-    return hasRunningEntry() ? std::optional(m_data.entries.at(m_runningRow)) : std::nullopt;
+    const auto& entries = data().entries;
+    return hasRunningEntry() ? std::optional(entries.at(m_runningRow)) : std::nullopt;
 }
 
 QDateTime Store::runningSince() const
 {
-    return hasRunningEntry() ? m_data.entries.at(m_runningRow).start : QDateTime();
+    const auto& entries = data().entries;
+    return hasRunningEntry() ? entries.at(m_runningRow).start : QDateTime();
 }
 
 QList<TimeEntry> Store::entries(const QDateTime& since) const
 {
-    return entriesSince(m_data.entries, since, m_surroundings.clock());
+    return entriesSince(data().entries, since, m_surroundings.clock());
 }
 
 QList<ClientTotal> Store::totals(const QDateTime& since) const
 {
+    const auto& workspace = data();
     auto found = std::ranges::find(m_tallies, since, &Tally::since);
     if (found == m_tallies.end()) {
         if (m_tallies.size() == MostTallies) {
             m_tallies.clear();
         }
-        found = m_tallies.emplace(m_tallies.end(), m_data.entries, since);
+        found = m_tallies.emplace(m_tallies.end(), workspace.entries, since);
     }
-    return found->totals(m_data.clients, m_surroundings.clock());
+    return found->totals(workspace.clients, m_surroundings.clock());
 }
 
 void Store::startTimer(const std::optional<QUuid>& client, const QString& note)
 {
     endRunningEntry();
-    m_data.entries.prepend({.id = QUuid::createUuid(),
-                            .clientID = client,
-                            .start = m_surroundings.clock(),
-                            .note = note});
+    workspace().entries.prepend({.id = QUuid::createUuid(),
+                                 .clientID = client,
+                                 .start = m_surroundings.clock(),
+                                 .note = note});
     entriesWereReplaced();
     announce(&Store::entriesChanged);
 }
@@ -78,25 +81,26 @@ std::optional<QUrl> Store::exportTimesheet() const
         return {};
     }
     const auto path = *folder + u'/' + timesheetName(now, m_surroundings.locale);
-    const bool isWritten = replaceFile(nativePath(path), timesheetCsv(m_data, now), NewFile::Usual);
+    const bool isWritten = replaceFile(nativePath(path), timesheetCsv(data(), now), NewFile::Usual);
     return isWritten ? std::optional(QUrl::fromLocalFile(path)) : std::nullopt;
 }
 
 bool Store::endRunningEntry()
 {
+    auto& entries = workspace().entries;
     if (!hasRunningEntry()) {
         return false;
     }
-    auto& running = m_data.entries[m_runningRow];
+    auto& running = entries[m_runningRow];
     running.end = m_surroundings.clock();
     if (running.start.msecsTo(*running.end) < ShortestKept.count()) {
-        m_data.entries.removeAt(m_runningRow);
+        entries.removeAt(m_runningRow);
     }
     entriesWereReplaced();
     return true;
 }
 
-void Store::entriesWereReplaced()
+void Store::entriesWereReplaced() const
 {
     const auto running = std::ranges::find_if(std::as_const(m_data.entries), isRunning);
     const bool found = running != m_data.entries.cend();

@@ -42,7 +42,8 @@ void RunningTimer::follow()
 
 RunningTimer::Shown RunningTimer::wanted() const
 {
-    const auto entry = m_store ? m_store->runningEntry() : std::nullopt;
+    const bool isRunning = m_store && m_store->hasRunningEntry(); // Made before all is loaded.
+    const auto entry = isRunning ? m_store->runningEntry() : std::nullopt;
     if (!entry) {
         return {};
     }

@@ -1,6 +1,8 @@
 #include "support/delegatefortest.h"
 
+#include "model/datafile.h"
 #include "shortcuts/shortcuts.h"
+#include "support/hungfile.h"
 #include "support/writefile.h"
 
 #include <QGuiApplication>
@@ -18,6 +20,7 @@ private Q_SLOTS:
     void cleanup() { m_quib.reset(); }
 
     void launch_goesInOrder();
+    void fileThatDoesNotAnswer_holdsUpNoLaunch();
     void secondStart_opensPinsAndTakesTheKeyboard();
     void screensChanged_movesThePanelAndMeasuresTheNotch();
     void noScreen_keepsTheLastGeometry();
@@ -45,6 +48,26 @@ void AppDelegateTest::launch_goesInOrder()
              (QStringList{u"reload shortcuts"_s, u"adopt"_s, u"place at 580,0"_s,
                           u"let clicks through"_s, u"order front"_s, u"first frame"_s,
                           u"install status item"_s}));
+}
+
+void AppDelegateTest::fileThatDoesNotAnswer_holdsUpNoLaunch()
+{
+    m_quib.reset();
+    const DataFolderForTest folder;
+    folder.put(quib::encodeQuibData({.entries = {{.start = HandClock().now}}}).value());
+    HungFile file(folder.file());
+    QVERIFY(file.isHung());
+    FakeShell shell;
+    quib::AppDelegate delegate(std::move(shell.platform));
+
+    delegate.applicationDidFinishLaunching(std::make_unique<quib::PanelEngine>());
+
+    const auto& hoverRect = shell.host.hoverRect;
+    const auto width = hoverRect.width();
+    QTRY_VERIFY(file.isWaitedFor());
+    QCOMPARE(hoverRect.width(), width);
+    file.answerAtLast();
+    QTRY_VERIFY(hoverRect.width() > width); // The wings of the running timer.
 }
 
 void AppDelegateTest::secondStart_opensPinsAndTakesTheKeyboard()

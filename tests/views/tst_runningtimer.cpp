@@ -1,5 +1,8 @@
 #include "views/runningtimer.h"
 
+#include "model/datafile.h"
+#include "support/datafolderfortest.h"
+#include "support/hungfile.h"
 #include "support/workspace.h"
 #include "views/noclient.h"
 
@@ -22,6 +25,7 @@ private Q_SLOTS:
     void start_startsForAClientOrNobody();
     void start_forADeletedClient_keepsItsId();
     void otherEntries_sayNothing();
+    void storeThatStillLoads_isNotWaitedFor();
 };
 
 void RunningTimerTest::noTimer_isNotRunning()
@@ -139,6 +143,25 @@ void RunningTimerTest::otherEntries_sayNothing()
     workspace.client(u"Corner Café"_s);
 
     QCOMPARE(changes.count(), 0);
+}
+
+void RunningTimerTest::storeThatStillLoads_isNotWaitedFor()
+{
+    const DataFolderForTest folder;
+    folder.put(encodeQuibData({.entries = {{.start = QDateTime({2026, 3, 2}, {9, 0}, Utc),
+                                            .note = u"overnight"_s}}})
+                   .value());
+    HungFile file(folder.file());
+    QVERIFY(file.isHung());
+    Store store;
+    RunningTimer timer;
+
+    timer.setStore(&store);
+
+    QVERIFY(!timer.isRunning());
+    file.answerAtLast();
+    QTRY_VERIFY(timer.isRunning());
+    QCOMPARE(timer.note(), u"overnight"_s);
 }
 
 QTEST_GUILESS_MAIN(RunningTimerTest)
