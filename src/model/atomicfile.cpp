@@ -51,6 +51,12 @@ void syncFolder(const std::filesystem::path& folder)
 
 bool replaceFile(const std::filesystem::path& path, const QByteArray& bytes, NewFile kind)
 {
+    return replaceFile(
+        path, [&](const ByteSink& sink) { return sink(bytes); }, kind);
+}
+
+bool replaceFile(const std::filesystem::path& path, const FileWriter& write, NewFile kind)
+{
     const auto target = linkTarget(path);
     const auto old = factsOf(target);
     if (old && (!S_ISREG(old->st_mode) || ::access(target.c_str(), W_OK) != 0)) {
@@ -58,7 +64,8 @@ bool replaceFile(const std::filesystem::path& path, const QByteArray& bytes, New
     }
     const auto folder = target.parent_path();
     const auto file = newFile(folder, old, kind);
-    if (!file->write(bytes) || !file->reachesDisk() || !file->takePlaceOf(target)) {
+    const ByteSink sink = [&](QByteArrayView bytes) { return file->write(bytes); };
+    if (!write(sink) || !file->reachesDisk() || !file->takePlaceOf(target)) {
         return false;
     }
     syncFolder(folder);

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "model/bytesink.h"
+
 #include <QByteArray>
 
 #include <filesystem>
+#include <functional>
 
 namespace quib {
 
@@ -16,5 +19,12 @@ enum class NewFile {
 /// sees the old bytes or the new ones, never a part. What is there keeps its mode. A symbolic link
 /// is written through.
 bool replaceFile(const std::filesystem::path& path, const QByteArray& bytes, NewFile kind);
+
+/// Gives all that a file is to hold to a sink; false when the sink says so, or when the file is not
+/// to be replaced after all.
+using FileWriter = std::function<bool(const ByteSink& sink)>;
+
+/// The same piece by piece, for what should not be in memory as a whole.
+bool replaceFile(const std::filesystem::path& path, const FileWriter& write, NewFile kind);
 
 } // namespace quib

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/bytesink.h"
 #include "model/quibdata.h"
 
 #include <QByteArray>
@@ -9,8 +10,12 @@
 
 namespace quib {
 
-/// The bytes of the data file: JSON with sorted keys and a member a line, the same bytes for the
-/// same data. Absent when a rate is not finite or a date is outside the years 0 to 9999.
+/// Writes the bytes of the data file: JSON with sorted keys and a member a line, the same bytes for
+/// the same data. False when a rate is not finite, a date is outside the years 0 to 9999 or the
+/// sink took not all: what was written is worth nothing then.
+bool writeQuibData(const QuibData& data, const ByteSink& sink);
+
+/// The same bytes as a whole; absent instead of false.
 std::optional<QByteArray> encodeQuibData(const QuibData& data);
 
 /// The workspace that the bytes of a data file stand for. Strict: one missing member, wrong type,

@@ -8,7 +8,7 @@
 #endif
 #include <rapidjson/prettywriter.h>
 
-#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -18,6 +18,7 @@ namespace {
 
 constexpr double FirstUnsureInteger = 9007199254740992; // 2^53
 constexpr qsizetype BytesPerEntry = 256;
+constexpr auto Piece = static_cast<std::size_t>(PieceOfBytes);
 
 rapidjson::SizeType lengthOf(std::string_view text)
 {
@@ -37,18 +38,31 @@ char* writeNumber(std::array<char, 32>& out, double value)
                    : std::to_chars(out.data(), end, value).ptr;
 }
 
+/// "/" stands only inside texts, where the file has it escaped.
+QByteArray withEscapedSlashes(std::string_view json)
+{
+    QByteArray out;
+    out.reserve(static_cast<qsizetype>(json.size()));
+    for (auto slash = json.find('/'); slash != std::string_view::npos; slash = json.find('/')) {
+        out.append(json.data(), static_cast<qsizetype>(slash)).append("\\/");
+        json.remove_prefix(slash + 1);
+    }
+    return out.append(json.data(), static_cast<qsizetype>(json.size()));
+}
+
 /// Writes values one after the other. Once one could not be written the whole is worth nothing.
 class Writer {
 public:
-    explicit Writer(qsizetype expectedSize)
-        : m_buffer(nullptr, static_cast<std::size_t>(expectedSize))
+    explicit Writer(const ByteSink& sink)
+        : m_sink(sink)
+        , m_buffer(nullptr, 2 * Piece)
         , m_json(m_buffer)
     {
         m_json.SetIndent(' ', 2);
     }
 
-    bool isWhole() const { return m_whole; }
-    std::string_view text() const { return {m_buffer.GetString(), m_buffer.GetSize()}; }
+    /// False when something was not.
+    bool isWritten() const { return m_whole; }
 
     template <typename T>
     void member(std::string_view key, const T& value)
@@ -75,6 +89,7 @@ private:
     void put(const QUuid& id);
     void put(const QDateTime& moment);
     void putNothing();
+    void flush();
     void putMembers(const Client& client);
     void putMembers(const TaskItem& task);
     void putMembers(const TimeEntry& entry);
@@ -89,11 +104,15 @@ private:
             m_json.StartObject();
             putMembers(record);
             m_json.EndObject();
+            if (m_buffer.GetSize() >= Piece) {
+                flush();
+            }
         }
         m_json.EndArray();
     }
 
-    rapidjson::StringBuffer m_buffer;
+    const ByteSink& m_sink;
+    rapidjson::StringBuffer m_buffer; ///< What the sink has not been given yet.
     rapidjson::PrettyWriter<rapidjson::StringBuffer> m_json;
     bool m_whole = true;
 };
@@ -141,6 +160,12 @@ void Writer::putNothing()
 {
     m_whole = false;
     m_json.Null();
+}
+
+void Writer::flush()
+{
+    m_whole = m_whole && m_sink(withEscapedSlashes({m_buffer.GetString(), m_buffer.GetSize()}));
+    m_buffer.Clear();
 }
 
 // Members stand in the order of their keys.
@@ -197,31 +222,24 @@ void Writer::put(const QuibData& data)
     member("shelf", data.shelf);
     member("tasks", data.tasks);
     m_json.EndObject();
-}
-
-/// "/" stands only inside texts, where the file has it escaped.
-QByteArray withEscapedSlashes(std::string_view json)
-{
-    const auto slashes = std::ranges::count(json, '/');
-    QByteArray out;
-    out.reserve(static_cast<qsizetype>(json.size()) + slashes);
-    for (auto slash = json.find('/'); slash != std::string_view::npos; slash = json.find('/')) {
-        out.append(json.data(), static_cast<qsizetype>(slash)).append("\\/");
-        json.remove_prefix(slash + 1);
-    }
-    return out.append(json.data(), static_cast<qsizetype>(json.size()));
+    flush();
 }
 
 } // namespace
 
+bool writeQuibData(const QuibData& data, const ByteSink& sink)
+{
+    Writer writer(sink);
+    writer.put(data);
+    return writer.isWritten();
+}
+
 std::optional<QByteArray> encodeQuibData(const QuibData& data)
 {
-    Writer writer((data.entries.size() + 1) * BytesPerEntry);
-    writer.put(data);
-    if (!writer.isWhole()) {
-        return {};
-    }
-    return withEscapedSlashes(writer.text());
+    QByteArray bytes;
+    bytes.reserve((data.entries.size() + 1) * BytesPerEntry);
+    const bool isWritten = writeQuibData(data, appendingTo(bytes));
+    return isWritten ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 } // namespace quib

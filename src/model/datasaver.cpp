@@ -16,8 +16,8 @@ constexpr auto Debounce = 400ms;
 
 bool write(const QuibData& data)
 {
-    const auto bytes = encodeQuibData(data);
-    return bytes && replaceFile(dataFile(), *bytes, NewFile::Private);
+    const auto pieces = [&](const ByteSink& sink) { return writeQuibData(data, sink); };
+    return replaceFile(dataFile(), pieces, NewFile::Private);
 }
 
 } // namespace

@@ -81,7 +81,8 @@ std::optional<QUrl> Store::exportTimesheet() const
         return {};
     }
     const auto path = *folder + u'/' + timesheetName(now, m_surroundings.locale);
-    const bool isWritten = replaceFile(nativePath(path), timesheetCsv(data(), now), NewFile::Usual);
+    const auto pieces = [&](const ByteSink& sink) { return writeTimesheet(data(), now, sink); };
+    const bool isWritten = replaceFile(nativePath(path), pieces, NewFile::Usual);
     return isWritten ? std::optional(QUrl::fromLocalFile(path)) : std::nullopt;
 }
 

@@ -28,10 +28,10 @@ TemporaryFile::~TemporaryFile()
     }
 }
 
-bool TemporaryFile::write(const QByteArray& bytes) const
+bool TemporaryFile::write(QByteArrayView bytes) const
 {
     for (qsizetype written = 0; written < bytes.size();) {
-        const auto count = ::write(m_file.number(), bytes.constData() + written,
+        const auto count = ::write(m_file.number(), bytes.data() + written,
                                    static_cast<std::size_t>(bytes.size() - written));
         if (count < 0 && errno != EINTR) {
             return false;

@@ -2,7 +2,7 @@
 
 #include "model/descriptor.h"
 
-#include <QByteArray>
+#include <QByteArrayView>
 
 #include <filesystem>
 
@@ -20,8 +20,8 @@ public:
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
 
-    /// Each is false when it fails.
-    bool write(const QByteArray& bytes) const;
+    /// Each is false when it fails. Bytes are written behind those of before.
+    bool write(QByteArrayView bytes) const;
     bool reachesDisk() const;
     bool takePlaceOf(const std::filesystem::path& path);
 

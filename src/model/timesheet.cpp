@@ -82,20 +82,38 @@ void appendLine(QByteArray& out, const TimeEntry& entry, const ClientColumns& cl
     appendQuoted(out.append(','), withDoubledQuotes(entry.note));
 }
 
+bool giveAway(QByteArray& bytes, const ByteSink& sink)
+{
+    const bool isTaken = sink(bytes);
+    bytes.resize(0); // Keeps its room.
+    return isTaken;
+}
+
 } // namespace
 
-QByteArray timesheetCsv(const QuibData& data, const QDateTime& now)
+bool writeTimesheet(const QuibData& data, const QDateTime& now, const ByteSink& sink)
 {
     const auto columns = columnsByClient(data.clients);
     const ClientColumns nobody{.name = "No client"_ba};
     QByteArray out;
-    out.reserve((data.entries.size() + 1) * BytesPerLine);
+    out.reserve(2 * PieceOfBytes);
     out.append("client,start,end,hours,rate,amount,note");
     for (const auto& entry : data.entries) {
         const auto found = entry.clientID ? columns.constFind(*entry.clientID) : columns.cend();
         appendLine(out, entry, found == columns.cend() ? nobody : *found, now);
+        if (out.size() >= PieceOfBytes && !giveAway(out, sink)) {
+            return false;
+        }
     }
-    return out;
+    return sink(out);
+}
+
+QByteArray timesheetCsv(const QuibData& data, const QDateTime& now)
+{
+    QByteArray bytes;
+    bytes.reserve((data.entries.size() + 1) * BytesPerLine);
+    writeTimesheet(data, now, appendingTo(bytes));
+    return bytes;
 }
 
 QString timesheetName(const QDateTime& now, const UserLocale& locale)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/bytesink.h"
 #include "model/quibdata.h"
 #include "model/userlocale.h"
 
@@ -9,8 +10,12 @@
 
 namespace quib {
 
-/// All entries of all time as CSV in UTF-8, a line each under a heading; running ones end now.
-/// Quotes are doubled in notes but, by choice, not in clients' names.
+/// Writes all entries of all time as CSV in UTF-8, a line each under a heading; running ones end
+/// now. Quotes are doubled in notes but, by choice, not in clients' names. False when the sink says
+/// so.
+bool writeTimesheet(const QuibData& data, const QDateTime& now, const ByteSink& sink);
+
+/// The same as a whole.
 QByteArray timesheetCsv(const QuibData& data, const QDateTime& now);
 
 /// "Korvel-timesheet-2026-03-02.csv", dated by the user's calendar and time zone.

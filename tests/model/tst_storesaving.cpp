@@ -1,7 +1,9 @@
 #include "model/datafile.h"
+#include "support/downloadsfortest.h"
 #include "support/storefixture.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QTest>
 #include <QThread>
 
@@ -34,6 +36,31 @@ private:
     QString m_path;
 };
 
+/// What the process has of the memory for itself, in bytes.
+qint64 privateMemory()
+{
+    QFile status(u"/proc/self/status"_s);
+    if (!status.open(QIODevice::ReadOnly)) {
+        qFatal("the system does not tell of the process");
+    }
+    const auto text = status.readAll();
+    const auto start = text.indexOf("RssAnon:") + 8;
+    return text.mid(start, text.indexOf("kB", start) - start).trimmed().toLongLong() * 1024;
+}
+
+quib::QuibData entriesOf(int count)
+{
+    quib::QuibData data;
+    const QDateTime start({2026, 3, 2}, {9, 0}, quib::Utc);
+    for (int number = 0; number < count; ++number) {
+        data.entries.append({.id = QUuid::createUuid(),
+                             .start = start,
+                             .end = start,
+                             .note = u"Homepage, round %1"_s.arg(number)});
+    }
+    return data;
+}
+
 } // namespace
 
 class StoreSavingTest : public QObject {
@@ -56,6 +83,7 @@ private Q_SLOTS:
     void scheduleSave_writesWithoutAChange();
     void storeGone_writesNoMore();
     void threadThatSaves_entersTheBackground();
+    void manyEntries_leaveNoMemoryBehind();
 };
 
 void StoreSavingTest::change_isWritten400MillisecondsLater()
@@ -277,6 +305,28 @@ void StoreSavingTest::threadThatSaves_entersTheBackground()
     QVERIFY(entered != nullptr);
     QVERIFY(entered != QThread::currentThread());
     QVERIFY(!wasWritten);
+}
+
+void StoreSavingTest::manyEntries_leaveNoMemoryBehind()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    QSKIP("the sanitizer keeps what is freed");
+#endif
+    const DownloadsForTest downloads;
+    StoreFixture f;
+    f.startWith(entriesOf(100'000));
+    const auto before = privateMemory();
+
+    for (const auto& notes : {u"first"_s, u"second"_s, u"third"_s}) {
+        f.store.setNotes(notes);
+        f.hands.advance(400ms);
+        f.store.saveNow(); // Waits for the thread that saves.
+        QVERIFY(f.store.exportTimesheet());
+    }
+
+    const auto left = privateMemory() - before;
+    QVERIFY2(left < 2'000'000, qPrintable(u"%1 bytes"_s.arg(left)));
+    QVERIFY(QFileInfo(f.folder.file()).size() > 15'000'000);
 }
 
 QTEST_GUILESS_MAIN(StoreSavingTest)
