@@ -12,27 +12,46 @@ namespace quib {
 namespace {
 
 namespace dom = simdjson::dom;
+namespace ondemand = simdjson::ondemand;
 
 constexpr auto LargestFile = qsizetype(512) * 1024 * 1024; // Two million entries.
 
-// Each readValue() puts a value of exactly its type into the last argument, or says false.
+// The file is read in one pass, without a tree of it in between. Such a reader checks nothing but
+// what it is asked for: numbers, and all that is unknown, are read from their text by the strict
+// one.
 
-bool readValue(dom::element value, std::string_view& out)
+/// In brackets: at the start of a whole text a byte order mark would be skipped.
+auto parseAlone(dom::parser& parser, std::string_view json)
 {
-    return !value.get_string().get(out);
+    const QByteArrayView bytes(json.data(), static_cast<qsizetype>(json.size()));
+    return parseJson(parser, '[' + bytes.toByteArray() + ']');
 }
 
-bool readValue(dom::element value, bool& out)
+// Each readValue() puts a value of exactly its type into the last argument, or says false.
+
+/// A text that has nothing escaped is read where it stands.
+bool readValue(ondemand::value value, std::string_view& out)
+{
+    const auto token = value.raw_json_token();
+    if (token.find('\\') != std::string_view::npos) {
+        return !value.get_string().get(out);
+    }
+    out = token.substr(1, token.rfind('"') - 1);
+    return !value.get_raw_json_string().error();
+}
+
+bool readValue(ondemand::value value, bool& out)
 {
     return !value.get_bool().get(out);
 }
 
-bool readValue(dom::element value, double& out)
+bool readValue(ondemand::value value, double& out)
 {
-    return !value.get_double().get(out);
+    dom::parser parser;
+    return !parseAlone(parser, value.raw_json_token()).at(0).get_double().get(out);
 }
 
-bool readValue(dom::element value, QString& out)
+bool readValue(ondemand::value value, QString& out)
 {
     std::string_view text;
     const bool isText = readValue(value, text);
@@ -47,90 +66,155 @@ bool take(const std::optional<T>& parsed, T& out)
     return parsed.has_value();
 }
 
-bool readValue(dom::element value, QUuid& out)
+bool readValue(ondemand::value value, QUuid& out)
 {
     std::string_view text;
     return readValue(value, text) && take(parseUuid(text), out);
 }
 
-bool readValue(dom::element value, QDateTime& out)
+bool readValue(ondemand::value value, QDateTime& out)
 {
     std::string_view text;
     return readValue(value, text) && take(parseIsoDate(text), out);
 }
 
-bool readValue(dom::element value, ClientStatus& out)
+bool readValue(ondemand::value value, ClientStatus& out)
 {
     QString text;
     return readValue(value, text) && take(clientStatus(text), out);
 }
 
-template <typename Record>
-bool readValue(dom::element value, QList<Record>& out);
-
+/// Null is absent.
 template <typename T>
-bool readMember(const dom::object& object, std::string_view key, T& out)
+bool readValue(ondemand::value value, std::optional<T>& out)
 {
-    dom::element value;
-    return !object.at_key(key).get(value) && readValue(value, out);
+    bool isNull = false;
+    return (!value.is_null().get(isNull) && isNull) || readValue(value, out.emplace());
 }
 
-/// Absent when the member is missing or null.
-template <typename T>
-bool readMember(const dom::object& object, std::string_view key, std::optional<T>& out)
+template <typename Record>
+bool readValue(ondemand::value value, QList<Record>& out);
+
+/// What nobody asks for must be JSON nevertheless.
+bool passOver(ondemand::value value)
 {
-    dom::element value;
-    if (object.at_key(key).get(value) || value.is_null()) {
-        out.reset();
-        return true;
+    auto type = ondemand::json_type::null;
+    std::string_view json;
+    if (value.type().get(type)) {
+        return false;
     }
-    return readValue(value, out.emplace());
+    if (type == ondemand::json_type::string) {
+        return readValue(value, json);
+    }
+    dom::parser parser;
+    return !simdjson::to_json_string(value).get(json) && !parseAlone(parser, json).error();
 }
 
-bool readRecord(const dom::object& object, Client& out)
+template <typename T>
+constexpr bool IsOptional = false;
+
+template <typename T>
+constexpr bool IsOptional<std::optional<T>> = true;
+
+/// A member that an object is asked for. Of repeated ones the first counts.
+template <typename T>
+struct Member {
+    std::string_view key;
+    T& value;
+    bool isRead = false;
+
+    bool isMeant(std::string_view other) const { return !isRead && key == other; }
+    bool read(ondemand::value from)
+    {
+        isRead = true;
+        return readValue(from, value);
+    }
+    bool mayBeMissing() const { return IsOptional<T>; }
+};
+
+template <typename T>
+Member<T> member(std::string_view key, T& value)
 {
-    return readMember(object, "id", out.id) && readMember(object, "name", out.name)
-        && readMember(object, "status", out.status) && readMember(object, "siteURL", out.siteURL)
-        && readMember(object, "folderPath", out.folderPath)
-        && readMember(object, "hourlyRate", out.hourlyRate)
-        && readMember(object, "notes", out.notes);
+    return {key, value};
 }
 
-bool readRecord(const dom::object& object, TaskItem& out)
+/// A key that has nothing escaped is read where it stands, too.
+bool readKey(ondemand::field& field, std::string_view& out)
 {
-    return readMember(object, "id", out.id) && readMember(object, "title", out.title)
-        && readMember(object, "clientID", out.clientID) && readMember(object, "done", out.done)
-        && readMember(object, "created", out.created);
+    const auto* const start = field.key().raw();
+    const auto* end = start;
+    while (*end != '"' && *end != '\\') {
+        ++end;
+    }
+    out = {start, static_cast<std::size_t>(end - start)};
+    return *end == '"' || !field.unescaped_key().get(out);
 }
 
-bool readRecord(const dom::object& object, TimeEntry& out)
+template <typename... T>
+bool readMember(std::string_view key, ondemand::value value, Member<T>&... members)
 {
-    return readMember(object, "id", out.id) && readMember(object, "clientID", out.clientID)
-        && readMember(object, "start", out.start) && readMember(object, "end", out.end)
-        && readMember(object, "note", out.note);
+    bool isRead = false;
+    const bool isMeant = ((members.isMeant(key) && (isRead = members.read(value), true)) || ...);
+    return isMeant ? isRead : passOver(value);
 }
 
-bool readRecord(const dom::object& object, ShelfItem& out)
+/// Reads a whole object: these members, each there unless it is optional, and all others.
+template <typename... T>
+bool readMembers(ondemand::object object, Member<T>... members)
 {
-    return readMember(object, "id", out.id) && readMember(object, "path", out.path);
+    for (auto next : object) {
+        ondemand::field field;
+        std::string_view key;
+        if (std::move(next).get(field) || !readKey(field, key)
+            || !readMember(key, field.value(), members...)) {
+            return false;
+        }
+    }
+    return ((members.isRead || members.mayBeMissing()) && ...);
 }
 
-bool readRecord(const dom::object& object, LaunchItem& out)
+bool readRecord(ondemand::object object, Client& out)
 {
-    return readMember(object, "id", out.id) && readMember(object, "name", out.name)
-        && readMember(object, "target", out.target);
+    return readMembers(object, member("id", out.id), member("name", out.name),
+                       member("status", out.status), member("siteURL", out.siteURL),
+                       member("folderPath", out.folderPath), member("hourlyRate", out.hourlyRate),
+                       member("notes", out.notes));
+}
+
+bool readRecord(ondemand::object object, TaskItem& out)
+{
+    return readMembers(object, member("id", out.id), member("title", out.title),
+                       member("clientID", out.clientID), member("done", out.done),
+                       member("created", out.created));
+}
+
+bool readRecord(ondemand::object object, TimeEntry& out)
+{
+    return readMembers(object, member("id", out.id), member("clientID", out.clientID),
+                       member("start", out.start), member("end", out.end),
+                       member("note", out.note));
+}
+
+bool readRecord(ondemand::object object, ShelfItem& out)
+{
+    return readMembers(object, member("id", out.id), member("path", out.path));
+}
+
+bool readRecord(ondemand::object object, LaunchItem& out)
+{
+    return readMembers(object, member("id", out.id), member("name", out.name),
+                       member("target", out.target));
 }
 
 template <typename Record>
-bool readValue(dom::element value, QList<Record>& out)
+bool readValue(ondemand::value value, QList<Record>& out)
 {
-    dom::array array;
+    ondemand::array array;
     if (value.get_array().get(array)) {
         return false;
     }
-    out.reserve(static_cast<qsizetype>(array.size()));
-    for (const auto element : array) {
-        dom::object object;
+    for (auto element : array) {
+        ondemand::object object;
         if (element.get_object().get(object) || !readRecord(object, out.emplaceBack())) {
             return false;
         }
@@ -138,23 +222,28 @@ bool readValue(dom::element value, QList<Record>& out)
     return true;
 }
 
-bool readWorkspace(const dom::object& object, QuibData& out)
+bool readWorkspace(ondemand::object object, QuibData& out)
 {
-    return readMember(object, "clients", out.clients) && readMember(object, "tasks", out.tasks)
-        && readMember(object, "entries", out.entries) && readMember(object, "shelf", out.shelf)
-        && readMember(object, "launch", out.launch) && readMember(object, "notes", out.notes);
+    return readMembers(object, member("clients", out.clients), member("tasks", out.tasks),
+                       member("entries", out.entries), member("shelf", out.shelf),
+                       member("launch", out.launch), member("notes", out.notes));
 }
 
 } // namespace
 
 std::optional<QuibData> decodeQuibData(const QByteArray& bytes)
 {
-    dom::parser parser;
-    dom::object object;
+    const auto roomy = withRoomBehind(bytes);
+    ondemand::parser parser;
+    ondemand::document document;
+    ondemand::object object;
     QuibData data;
-    const bool isRead
-        = !parseJson(parser, bytes).get_object().get(object) && readWorkspace(object, data);
-    return isRead ? std::optional(std::move(data)) : std::nullopt;
+    if (parser.iterate(withoutMark(roomy)).get(document) || document.get_object().get(object)
+        || !readWorkspace(object, data)) {
+        return std::nullopt;
+    }
+    const bool isAtEnd = document.current_location().error() == simdjson::OUT_OF_BOUNDS;
+    return isAtEnd ? std::optional(std::move(data)) : std::nullopt;
 }
 
 std::optional<QuibData> loadQuibData(const std::filesystem::path& path)

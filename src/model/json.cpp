@@ -45,4 +45,21 @@ simdjson::simdjson_result<simdjson::dom::element> parseJson(simdjson::dom::parse
     return other ? parseAsItStands(parser, *other) : tree;
 }
 
+QByteArray withRoomBehind(const QByteArray& bytes)
+{
+    auto roomy = bytes;
+    if (bytes.capacity() - bytes.size() < Padding) {
+        roomy.reserve(bytes.size() + Padding);
+    }
+    return roomy;
+}
+
+simdjson::padded_string_view withoutMark(const QByteArray& bytes)
+{
+    const auto marked = bytes.startsWith(ByteOrderMark) ? ByteOrderMark.size() : 0;
+    return simdjson::padded_string_view(bytes.constData() + marked,
+                                        static_cast<std::size_t>(bytes.size() - marked),
+                                        static_cast<std::size_t>(bytes.capacity() - marked));
+}
+
 } // namespace quib

@@ -11,4 +11,10 @@ namespace quib {
 simdjson::simdjson_result<simdjson::dom::element> parseJson(simdjson::dom::parser& parser,
                                                             const QByteArray& bytes);
 
+/// The same bytes with room behind them that a parser may read.
+QByteArray withRoomBehind(const QByteArray& bytes);
+
+/// What a parser is to read of bytes with such room; a byte order mark is skipped.
+simdjson::padded_string_view withoutMark(const QByteArray& bytes);
+
 } // namespace quib

@@ -20,3 +20,6 @@ struct TimeEntry {
 };
 
 } // namespace quib
+
+/// A list of them grows without each being taken along.
+Q_DECLARE_TYPEINFO(quib::TimeEntry, Q_RELOCATABLE_TYPE);

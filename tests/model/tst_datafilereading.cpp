@@ -90,6 +90,7 @@ private Q_SLOTS:
     void byteOrderMark_isSkipped();
     void unknownMembers_areIgnored();
     void repeatedKey_countsTheFirst();
+    void escapedKey_isTheSameKey();
     void slash_isReadInEitherForm();
     void repeatedIds_areAllRead();
     void fiftyMegabytes_areRead();
@@ -231,6 +232,22 @@ void DataFileReadingTest::malformedFile_isUnreadable_data()
     QTest::addRow("overlong UTF-8") << QByteArray(file).replace("all of it", "\xC0\xAF");
     QTest::addRow("a raw line break in a text") << QByteArray(file).replace("all of it", "a\nb");
     QTest::addRow("half an escaped pair") << QByteArray(file).replace("all of it", "\\ud800");
+    QTest::addRow("a byte order mark before a rate") << QByteArray(file).replace(": 35",
+                                                                                 ": \xEF\xBB\xBF"
+                                                                                 "35");
+    QTest::addRow("a value too many of an unknown member")
+        << QByteArray(file).replace("\"notes\"", R"("theme": "a": 1, "notes")");
+    QTest::addRow("brackets that do not match, of an unknown member")
+        << QByteArray(file).replace("\"notes\"", R"("theme": [}, "notes")");
+    QTest::addRow("a word that is none, of an unknown member")
+        << QByteArray(file).replace("\"notes\"", R"("theme": tru, "notes")");
+    QTest::addRow("a text with a wrong escape, of an unknown member")
+        << QByteArray(file).replace("\"notes\"", R"("theme": "\q", "notes")");
+    QTest::addRow("a key with a wrong escape")
+        << QByteArray(file).replace("\"notes\"", R"("\q": 1, "notes")");
+    QTest::addRow("a repeated key with a broken value")
+        << QByteArray(file).replace("\"all of it\"", R"("all of it", "notes": [1 2])");
+    QTest::addRow("a brace too few") << file.trimmed().chopped(1);
     QTest::addRow("a comma too many") << QByteArray(file).replace("all of it\"", "\",");
 }
 
@@ -261,6 +278,14 @@ void DataFileReadingTest::repeatedKey_countsTheFirst()
     file.replace(R"("all of it")", R"("first", "notes": "second")");
 
     QCOMPARE(decodeQuibData(file)->notes, u"first"_s);
+}
+
+void DataFileReadingTest::escapedKey_isTheSameKey()
+{
+    auto file = QJsonDocument(wholeFile()).toJson();
+    file.replace(R"("target")", R"("t\u0061rget")");
+
+    QCOMPARE(decodeQuibData(file)->launch.front().target, u"/b"_s);
 }
 
 void DataFileReadingTest::slash_isReadInEitherForm()
