@@ -5,9 +5,70 @@
 #include "model/utf8.h"
 #include "model/uuidtext.h"
 
+#include <QFile>
+#include <QTemporaryDir>
+
 #include <simdjson.h>
 
+#include <sys/resource.h>
+
 namespace {
+
+/// A workspace on disk, in the system's memory too.
+struct Place {
+    QTemporaryDir folder;
+    std::string path
+        = QFile::encodeName(folder.filePath(QStringLiteral("data.json"))).toStdString();
+    qsizetype size = 0;
+
+    explicit Place(const benchmark::State& state)
+    {
+        QFile file(QFile::decodeName(path.c_str()));
+        const auto bytes = quib::encodeQuibData(workspaceOf(state.range(0))).value();
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+            qFatal("no file can be written here");
+        }
+        size = bytes.size();
+    }
+};
+
+long pageFaults()
+{
+    rusage usage{};
+    ::getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_minflt;
+}
+
+/// From the file to the workspace and back to nothing, as often as asked; says what it took.
+template <typename Read>
+void readAgainAndAgain(benchmark::State& state, Read read)
+{
+    const Place place(state);
+    const auto before = pageFaults();
+    for (auto _ : state) {
+        read(place.path);
+    }
+    state.SetBytesProcessed(state.iterations() * place.size);
+    state.counters["faults"] = benchmark::Counter(static_cast<double>(pageFaults() - before),
+                                                  benchmark::Counter::kAvgIterations);
+}
+
+void read(benchmark::State& state)
+{
+    readAgainAndAgain(
+        state, [](const std::string& path) { benchmark::DoNotOptimize(quib::loadQuibData(path)); });
+}
+BENCHMARK(read)->Apply(entryCounts);
+
+/// The same file as a tree, before any of it means anything.
+void readBaseline(benchmark::State& state)
+{
+    readAgainAndAgain(state, [](const std::string& path) {
+        simdjson::dom::parser parser;
+        benchmark::DoNotOptimize(parser.load(path));
+    });
+}
+BENCHMARK(readBaseline)->Apply(entryCounts);
 
 void load(benchmark::State& state)
 {
