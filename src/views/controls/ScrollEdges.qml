@@ -27,7 +27,7 @@ Item {
         ? root.flickable.originX + root.flickable.contentWidth + root.flickable.rightMargin - root.extent
         : root.flickable.originY + root.flickable.contentHeight + root.flickable.bottomMargin - root.extent)
 
-    readonly property bool isCut: root.end > root.start
+    readonly property bool isCut: root.extent > 0 && root.end > root.start
 
     property Item marks: null
 
