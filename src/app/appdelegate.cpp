@@ -14,7 +14,6 @@ namespace quib {
 
 namespace {
 
-constexpr auto PollInterval = 16ms; // The whole milliseconds next to a sixtieth of a second.
 constexpr auto CollapseDelay = 60ms;
 constexpr auto TrimDelay = 3s; // Nobody goes to and fro any more.
 
@@ -33,6 +32,7 @@ AppDelegate::AppDelegate(Platform platform, Clock clock, Scheduler schedule)
     , m_media(*m_platform.player, std::move(schedule))
     , m_calendar(m_platform.calendar.get(), std::move(clock))
     , m_actions(*m_platform.opener)
+    , m_poll(*m_platform.pointer, m_schedule)
 {
     connect(&m_menu, &StatusMenu::aboutToOpen, this, [this] { rebuildMenuStates(m_menu); });
     connect(&m_menu, &StatusMenu::chosen, this, &AppDelegate::runCommand);
@@ -112,7 +112,7 @@ void AppDelegate::checkHover()
     if (m_screen.frame.isEmpty() || m_platform.sessionLock->isLocked()) {
         return; // There has been no screen yet, or it shows the locker.
     }
-    switch (decideHover(tickAt(m_platform.pointer->state()))) {
+    switch (decideHover(tickAt(m_poll.look()))) {
     case HoverAction::None: return;
     case HoverAction::Expand: expand(false); return;
     case HoverAction::ExpandToShelf: expand(true); return;
@@ -155,26 +155,21 @@ void AppDelegate::openQuib()
 
 void AppDelegate::installMouseMonitors()
 {
-    auto& pointer = *m_platform.pointer;
-    connect(&pointer, &PointerSource::changed, this, &AppDelegate::checkHover);
-    connect(&pointer, &PointerSource::clicked, this, &AppDelegate::globalClick);
-    if (pointer.needsPolling()) {
-        connect(&m_hoverTimer, &QTimer::timeout, this, &AppDelegate::checkHover);
-        m_hoverTimer.setTimerType(Qt::PreciseTimer);
-        m_hoverTimer.start(PollInterval);
-    } else {
-        followWhatDecides();
-    }
+    connect(m_platform.pointer.get(), &PointerSource::clicked, this, &AppDelegate::globalClick);
+    connect(&m_poll, &PointerPoll::due, this, &AppDelegate::checkHover);
+    followWhatDecides();
+    m_poll.begin();
 }
 
 /// A pointer that rests tells nothing when something else changes what is to be done about it.
 void AppDelegate::followWhatDecides()
 {
-    const auto look = [this] { checkHover(); };
+    const auto look = [this] { m_poll.wake(); };
     connect(&m_model, &NotchModel::isExpandedChanged, this, look, Qt::QueuedConnection);
     connect(&m_model, &NotchModel::isPinnedChanged, this, look, Qt::QueuedConnection);
     connect(&m_model, &NotchModel::isLockedChanged, this, look, Qt::QueuedConnection);
     connect(&m_store, &Store::entriesChanged, this, look, Qt::QueuedConnection);
+    connect(m_platform.screens.get(), &ScreenSource::changed, this, look, Qt::QueuedConnection);
 }
 
 /// Starting and building views leave holes behind.
@@ -191,6 +186,7 @@ void AppDelegate::followExpansion()
     auto& host = *m_platform.panelHost;
     followHoverRect();
     m_trimWork.reset();
+    m_poll.setKeptAwake(m_model.isExpanded());
     if (m_model.isExpanded()) {
         host.orderFront(); // Some window managers raise full-screen windows above everything.
         host.setInputRegion(CardInPanel.toRect());
@@ -233,7 +229,7 @@ void AppDelegate::followDesktop()
 
 void AppDelegate::globalClick(quint32 time)
 {
-    switch (decideClick(tickAt(m_platform.pointer->state()))) {
+    switch (decideClick(tickAt(m_poll.look()))) {
     case ClickAction::None: return;
     case ClickAction::Collapse:
         m_endingClick = time;

@@ -4,6 +4,7 @@
 #include "app/notch/geometry.h"
 #include "app/notch/hover.h"
 #include "app/notch/notchmodel.h"
+#include "app/notch/pointerpoll.h"
 #include "app/notch/statusmenu.h"
 #include "integrations/actions.h"
 #include "integrations/calendarcontroller.h"
@@ -14,7 +15,6 @@
 #include "platform/platform.h"
 
 #include <QObject>
-#include <QTimer>
 
 #include <memory>
 #include <optional>
@@ -52,7 +52,7 @@ public:
     void applicationWillTerminate();
     /// Measures the notch and places the panel. Without any screen the last geometry stays.
     void layout();
-    /// One tick of the pointer poll.
+    /// One look at the pointer.
     void checkHover();
     void expand(bool toShelf) override;
     /// After 0.06 s, or at the next turn of the main loop. The tab stays.
@@ -107,7 +107,7 @@ private:
     StatusMenu m_menu;
     std::unique_ptr<NotchPanel> m_panel;
     Screen m_screen; ///< As of the last layout.
-    QTimer m_hoverTimer;
+    PointerPoll m_poll;
     std::unique_ptr<QObject> m_trimWork;
     std::unique_ptr<QObject> m_collapseWork; ///< Present while a collapse is pending.
     std::optional<quint32> m_endingClick; ///< The click that the pending collapse is due to.

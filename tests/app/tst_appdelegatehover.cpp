@@ -4,8 +4,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
-using quib::CalendarAuthorization;
-using quib::Player;
 using quib::Tab;
 
 namespace {
@@ -22,12 +20,14 @@ QPointF pointOf(QChar place)
 
 /// The panel opens and closes as the pointer goes, among fakes. A path of the pointer is a text,
 /// one letter for each tick of 16 ms: n on the notch, c in the card, o outside both; a capital when
-/// the left button is held; an x is a left click where the pointer stands.
+/// the left button is held; an x is a left click where the pointer stands. All of it happens three
+/// times: looked at by hand, polled alone, and polled by a desktop that tells when the rest ends.
 class AppDelegateHoverTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_quib = std::make_unique<DelegateForTest>(); }
+    void initTestCase_data();
+    void init();
     void cleanup() { m_quib.reset(); }
 
     void checkHover_data();
@@ -36,6 +36,8 @@ private Q_SLOTS:
     void keptOpen_neverCollapses();
     void pinTakenAway_collapsesAfterTheUsualDelay();
     void runningTimer_widensTheHitArea();
+    void restingPointer_isLookedAtWhenTheNotchComesToIt_data();
+    void restingPointer_isLookedAtWhenTheNotchComesToIt();
     void clickElsewhere_collapsesAtTheNextTurn();
     void clickElsewhere_whilePinned_isToldToTheViews();
     void clickInTheCard_leavesItOpen();
@@ -53,16 +55,49 @@ private:
     std::unique_ptr<DelegateForTest> m_quib;
 };
 
+void AppDelegateHoverTest::initTestCase_data()
+{
+    QTest::addColumn<bool>("polled");
+    QTest::addColumn<bool>("announces");
+
+    QTest::addRow("by hand") << false << false;
+    QTest::addRow("polled") << true << false;
+    QTest::addRow("polled and woken") << true << true;
+}
+
+void AppDelegateHoverTest::init()
+{
+    QFETCH_GLOBAL(const bool, polled);
+    QFETCH_GLOBAL(const bool, announces);
+    m_quib = std::make_unique<DelegateForTest>();
+    m_quib->shell.pointer.polled = polled;
+    m_quib->shell.pointer.announces = announces;
+    m_quib->shell.pointer.now.position = pointOf(u'o');
+    if (polled) {
+        m_quib->launched();
+        m_quib->hands.advance(3s);
+        QCOMPARE(m_quib->shell.pointer.announced, announces);
+    }
+}
+
 void AppDelegateHoverTest::move(const QString& path)
 {
+    QFETCH_GLOBAL(const bool, polled);
     auto& pointer = m_quib->shell.pointer;
     for (const auto letter : path) {
         if (letter == u'x') {
             Q_EMIT pointer.clicked(4711);
             continue;
         }
+        const quib::PointerState next{.position = pointOf(letter.toLower()),
+                                      .leftHeld = letter.isUpper()};
+        if (polled) {
+            pointer.become(next);
+            m_quib->hands.advance(16ms);
+            continue;
+        }
         m_quib->hands.advance(16ms);
-        pointer.now = {.position = pointOf(letter.toLower()), .leftHeld = letter.isUpper()};
+        pointer.now = next;
         m_quib->delegate.checkHover();
     }
 }
@@ -144,6 +179,41 @@ void AppDelegateHoverTest::runningTimer_widensTheHitArea()
     m_quib->delegate.store().startTimer({}, QString());
 
     QCOMPARE(m_quib->delegate.collapsedRect(), QRectF(960 - 202, -10, 404, 46));
+}
+
+void AppDelegateHoverTest::restingPointer_isLookedAtWhenTheNotchComesToIt_data()
+{
+    using Change = std::function<void(DelegateForTest&)>;
+    QTest::addColumn<QPointF>("pointer");
+    QTest::addColumn<bool>("locked");
+    QTest::addColumn<Change>("change");
+
+    QTest::addRow("a timer widens it")
+        << QPointF(800, 2) << false
+        << Change([](auto& quib) { quib.delegate.store().startTimer({}, {}); });
+    QTest::addRow("the screen is another") << QPointF(640, 2) << false << Change([](auto& quib) {
+        quib.shell.screens.list.front().frame.setWidth(1280);
+        Q_EMIT quib.shell.screens.changed();
+    });
+    QTest::addRow("the session is unlocked")
+        << QPointF(960, 2) << true
+        << Change([](auto& quib) { quib.shell.sessionLock.setLocked(false); });
+}
+
+void AppDelegateHoverTest::restingPointer_isLookedAtWhenTheNotchComesToIt()
+{
+    QFETCH(const QPointF, pointer);
+    QFETCH(const bool, locked);
+    QFETCH(const std::function<void(DelegateForTest&)>, change);
+    auto& model = m_quib->launched().model();
+    m_quib->shell.sessionLock.setLocked(locked);
+    m_quib->shell.pointer.move(pointer);
+    m_quib->hands.advance(3s);
+    QVERIFY(!model.isExpanded());
+
+    change(*m_quib);
+
+    QTRY_VERIFY(model.isExpanded());
 }
 
 void AppDelegateHoverTest::clickElsewhere_collapsesAtTheNextTurn()
@@ -250,7 +320,7 @@ void AppDelegateHoverTest::expand_cancelsAPendingCollapse()
     move(u"no"_s);
 
     m_quib->delegate.expand(false);
-    m_quib->hands.advance(1s);
+    m_quib->hands.advance(60ms);
 
     QVERIFY(m_quib->delegate.model().isExpanded());
 }

@@ -6,6 +6,8 @@
 #include "support/fakeshell.h"
 #include "support/handclock.h"
 
+#include <utility>
+
 /// The delegate among fakes, its panel not made yet; the time is the test's to turn.
 struct DelegateForTest {
     DataFolderForTest folder;
@@ -13,13 +15,17 @@ struct DelegateForTest {
     FakeShell shell;
     quib::AppDelegate delegate{std::move(shell.platform), hands.clock(), hands.scheduler()};
 
+    bool isLaunched = false;
+
     DelegateForTest() { delegate.layout(); }
 
-    /// Launches it and forgets what that asked of the panel's host.
+    /// Launches it, once, and forgets what was asked of the panel's host.
     quib::AppDelegate& launched()
     {
-        delegate.applicationDidFinishLaunching(std::make_unique<quib::PanelEngine>());
-        delegate.applicationDidShow();
+        if (!std::exchange(isLaunched, true)) {
+            delegate.applicationDidFinishLaunching(std::make_unique<quib::PanelEngine>());
+            delegate.applicationDidShow();
+        }
         shell.asked.clear();
         return delegate;
     }

@@ -20,12 +20,34 @@ public:
     QList<quib::Screen> screens() const override { return list; }
 };
 
+/// Tells of nothing by itself, unless a test says otherwise.
 class FakePointerSource final : public quib::PointerSource {
 public:
     quib::PointerState now;
+    bool polled = false;
+    bool announces = false;
+    bool announced = false; ///< The next move will be.
+    mutable int asked = 0; ///< How often for its state.
 
-    quib::PointerState state() const override { return now; }
-    bool needsPolling() const override { return false; }
+    quib::PointerState state() const override
+    {
+        ++asked;
+        return now;
+    }
+    bool needsPolling() const override { return polled; }
+    bool announceNextChange() override
+    {
+        announced = announces;
+        return announces;
+    }
+
+    void become(const quib::PointerState& state)
+    {
+        if (std::exchange(now, state) != state && std::exchange(announced, false)) {
+            Q_EMIT changed();
+        }
+    }
+    void move(QPointF position) { become({.position = position, .leftHeld = now.leftHeld}); }
 };
 
 /// Writes what was asked of it, in order, into the test's list.

@@ -9,6 +9,8 @@ namespace quib {
 struct PointerState {
     QPointF position;
     bool leftHeld = false;
+
+    bool operator==(const PointerState&) const = default;
 };
 
 /// The pointer, also while it is over other programs. Implemented once per platform.
@@ -19,6 +21,9 @@ public:
     virtual PointerState state() const = 0;
     /// True where state() has to be asked on every tick; else changed() tells when.
     virtual bool needsPolling() const = 0;
+    /// Has changed() told once more, when the pointer moves or a button goes down or up next. False
+    /// where nothing can tell.
+    virtual bool announceNextChange() = 0;
 
 Q_SIGNALS:
     void changed();

@@ -35,6 +35,7 @@ public:
     /// Far away while it is not over the window.
     PointerState state() const override;
     bool needsPolling() const override { return false; }
+    bool announceNextChange() override { return true; } // As every other.
 
     bool eventFilter(QObject* object, QEvent* event) override;
 

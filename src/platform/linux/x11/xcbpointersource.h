@@ -6,6 +6,8 @@
 #include <QAbstractNativeEventFilter>
 #include <QList>
 
+#include <xcb/xinput.h>
+
 #include <memory>
 #include <optional>
 
@@ -29,10 +31,12 @@ public:
     /// The last one where the server is gone.
     PointerState state() const override;
     bool needsPolling() const override { return true; }
+    bool announceNextChange() override;
 
 private:
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
-    bool followRawPresses();
+    bool followRawEvents();
+    void follow(const xcb_input_raw_button_press_event_t& event);
     bool isLeft(quint32 physicalButton);
 
     XcbConnection m_connection;
@@ -40,6 +44,8 @@ private:
     mutable PointerState m_last;
     std::unique_ptr<PressEdge> m_edge; ///< Only where clicks are found by polling.
     uint8_t m_xinput = 0; ///< The extension's number in events.
+    uint32_t m_changes = 0; ///< What the server can tell of them; nothing without XInput.
+    bool m_isAnnouncing = false; ///< Presses are told of all the time, other changes then.
     std::optional<QByteArray> m_mapping; ///< Logical button of each physical; absent when outdated.
 };
 
