@@ -1,15 +1,33 @@
 #include "views/pulse.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
-
-using namespace std::chrono_literals;
 
 namespace quib {
 
 namespace {
 
+using Seconds = std::chrono::duration<double>;
+
 constexpr double Lowest = 0.35;
+constexpr std::size_t StepsDown = 8;
+constexpr std::size_t Steps = 2 * StepsDown; ///< As many up again.
+constexpr Seconds Cycle{2};
+
+/// When the level is half way between two steps, since the cycle's begin.
+std::array<double, Steps> momentsOfSteps()
+{
+    std::array<double, Steps> moments{};
+    for (std::size_t step = 0; step < StepsDown; ++step) {
+        const auto eased = (double(step) + 0.5) / StepsDown;
+        const auto moment = std::acos(1 - 2 * eased) / std::numbers::pi;
+        moments.at(step) = moment;
+        moments.at(Steps - 1 - step) = Cycle.count() - moment;
+    }
+    return moments;
+}
 
 } // namespace
 
@@ -20,13 +38,25 @@ double pulseLevel(std::chrono::nanoseconds sinceBegin)
     return 1 - (1 - Lowest) * eased;
 }
 
+PulseStep pulseStep(std::chrono::nanoseconds sinceBegin)
+{
+    static const auto moments = momentsOfSteps();
+    const auto now = std::fmod(Seconds(sinceBegin).count(), Cycle.count());
+    const auto next = std::ranges::upper_bound(moments, now);
+    const auto taken = std::size_t(next - moments.begin());
+    const auto isLast = next == moments.end();
+    const Seconds untilNext(isLast ? Cycle.count() + moments.front() - now : *next - now);
+    const auto down = double(std::min(taken, Steps - taken));
+    return {.level = 1 - (1 - Lowest) * down / StepsDown,
+            .untilNext = std::chrono::ceil<std::chrono::nanoseconds>(untilNext)};
+}
+
 Pulse::Pulse(QObject* parent)
     : QObject(parent)
 {
-    m_timer.setInterval(50ms);
-    connect(&m_timer, &QTimer::timeout, this, [this] {
-        setLevel(pulseLevel(std::chrono::nanoseconds(m_sinceBegin.nsecsElapsed())));
-    });
+    m_timer.setSingleShot(true);
+    m_timer.setTimerType(Qt::PreciseTimer);
+    connect(&m_timer, &QTimer::timeout, this, &Pulse::beat);
 }
 
 void Pulse::setRunning(bool isRunning)
@@ -53,8 +83,15 @@ void Pulse::restart()
     setLevel(1);
     if (m_isWanted && m_item && m_item->isVisible()) {
         m_sinceBegin.start();
-        m_timer.start();
+        beat();
     }
+}
+
+void Pulse::beat()
+{
+    const auto step = pulseStep(std::chrono::nanoseconds(m_sinceBegin.nsecsElapsed()));
+    m_timer.start(std::chrono::ceil<std::chrono::milliseconds>(step.untilNext));
+    setLevel(step.level);
 }
 
 void Pulse::setLevel(double level)

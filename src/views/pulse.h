@@ -16,8 +16,17 @@ namespace quib {
 /// From 1 down to 0.35 in a second and back up in another, easing in and out.
 double pulseLevel(std::chrono::nanoseconds sinceBegin);
 
-/// A level that goes up and down for the item it stands in, twenty times a second: few enough to
-/// cost nothing, enough to look even. It rests at 1 while not running or while out of sight.
+/// What is shown of a pulse from one moment until another.
+struct PulseStep {
+    double level = 1; ///< Never far from pulseLevel().
+    std::chrono::nanoseconds untilNext{0};
+};
+
+PulseStep pulseStep(std::chrono::nanoseconds sinceBegin);
+
+/// A level that goes up and down for the item it stands in, in steps of one size: each frame wakes
+/// us and the window system several times, so there is none where little would change. It rests at
+/// 1 while not running or while out of sight.
 class Pulse : public QObject, public QQmlParserStatus {
     Q_OBJECT
     QML_ELEMENT
@@ -43,6 +52,7 @@ Q_SIGNALS:
 
 private:
     void restart();
+    void beat();
     void setLevel(double level);
 
     bool m_isWanted = false;

@@ -13,6 +13,8 @@ class PulseTest : public QObject {
 private Q_SLOTS:
     void pulseLevel_goesDownAndUpInASecondEach_data();
     void pulseLevel_goesDownAndUpInASecondEach();
+    void pulseStep_staysNearTheLevel();
+    void pulseStep_isAnotherEachTime_andFewTimes();
     void running_changesTheLevel();
     void notRunning_restsAtFull();
     void outOfSight_restsAtFull();
@@ -55,6 +57,32 @@ void PulseTest::pulseLevel_goesDownAndUpInASecondEach()
     QFETCH(double, level);
 
     QVERIFY(qAbs(quib::pulseLevel(std::chrono::milliseconds(milliseconds)) - level) < 0.001);
+}
+
+void PulseTest::pulseStep_staysNearTheLevel()
+{
+    for (auto time = 0ms; time < 6s; time += 1ms) {
+        const auto step = quib::pulseStep(time);
+
+        QVERIFY2(qAbs(step.level - quib::pulseLevel(time)) < 0.041,
+                 qPrintable(QString::number(time.count())));
+        QVERIFY(step.untilNext > 0ns);
+    }
+}
+
+void PulseTest::pulseStep_isAnotherEachTime_andFewTimes()
+{
+    auto before = quib::pulseStep(0ns);
+    std::chrono::nanoseconds time = before.untilNext;
+    int steps = 0;
+    for (; time < 60s; ++steps) {
+        const auto step = quib::pulseStep(time);
+        QVERIFY(qAbs(qAbs(step.level - before.level) - 0.65 / 8) < 0.001);
+        before = step;
+        time += step.untilNext;
+    }
+
+    QCOMPARE(steps, 8 * 60);
 }
 
 void PulseTest::running_changesTheLevel()
