@@ -27,8 +27,11 @@ Desk::Desk(Options options)
 Program Desk::startQuib(QStringList command, const QStringList& arguments)
 {
     command << quib() << arguments;
+    const auto display = variable(u"DISPLAY"_s);
+    setVariable(u"DISPLAY"_s, m_quibsDisplay.isEmpty() ? display : m_quibsDisplay);
     const auto first = command.takeFirst();
     auto program = start(first, command);
+    setVariable(u"DISPLAY"_s, display);
     waitFor("the panel", [this] {
         return isShown(u"Korvel Quib"_s) && pixel({800, 12}) == QColor(Qt::black);
     });

@@ -15,6 +15,7 @@ public:
         bool sessionBus = true;
         int scale = 1;
         bool outputs = false; ///< DUMMY0 to DUMMY3, which can have other sizes and be off.
+        bool xinput = true; ///< Without it Quib meets a server that does not know of it.
     };
 
     struct Connection;
@@ -30,6 +31,8 @@ public:
     static QString dragSource();
 
     void moveTo(QPoint point) const;
+    /// As a hand does: a device tells of it.
+    void pushTo(QPoint point) const;
     void click(QPoint point) const;
     void rightClick(QPoint point) const;
     void middleClick(QPoint point) const;
@@ -64,12 +67,15 @@ public:
 
 private:
     void startServer();
+    void hideXInput();
     QStringList serverCommand() const;
     bool isShown(const QString& title) const;
     QString xdotool(const QStringList& arguments) const;
 
     Options m_options;
     Program m_server;
+    Program m_withoutXInput;
+    QString m_quibsDisplay; ///< Where it is another one.
     Program m_windowManager;
     Program m_compositor;
     std::unique_ptr<Connection> m_connection;

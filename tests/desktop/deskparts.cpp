@@ -42,6 +42,11 @@ Section "Screen"
 EndSection
 )";
 
+QString socketOf(const QString& display)
+{
+    return u"/tmp/.X11-unix/X"_s + display.mid(1);
+}
+
 } // namespace
 
 Desk::~Desk()
@@ -49,6 +54,10 @@ Desk::~Desk()
     end(m_compositor);
     end(m_windowManager);
     m_connection.reset();
+    if (m_withoutXInput) {
+        end(m_withoutXInput);
+        QFile::remove(socketOf(m_quibsDisplay));
+    }
     end(m_server);
 }
 
@@ -74,6 +83,19 @@ void Desk::startServer()
     m_connection = std::make_unique<Connection>(display);
     start(u"xsetroot"_s, {u"-solid"_s, u"#406080"_s})
         ->waitForFinished(); // Not black like the panel.
+    if (!m_options.xinput) {
+        hideXInput();
+    }
+}
+
+/// At a display of its own, which nobody else takes while the server has its number.
+void Desk::hideXInput()
+{
+    const auto display = variable(u"DISPLAY"_s);
+    m_quibsDisplay = u":1000"_s + display.mid(1);
+    m_withoutXInput
+        = start(QStringLiteral(WITHOUT_XINPUT), {socketOf(m_quibsDisplay), socketOf(display)});
+    m_withoutXInput->waitForReadyRead(10'000);
 }
 
 void Desk::hangServer() const

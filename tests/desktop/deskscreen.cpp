@@ -24,6 +24,15 @@ void Desk::moveTo(QPoint point) const
     xdotool({u"mousemove"_s, QString::number(point.x()), QString::number(point.y())});
 }
 
+void Desk::pushTo(QPoint point) const
+{
+    const auto place = xdotool({u"getmouselocation"_s, u"--shell"_s}).split(u'\n');
+    const QPoint from(place.value(0).section(u'=', 1).toInt(),
+                      place.value(1).section(u'=', 1).toInt());
+    const auto way = point - from;
+    xdotool({u"mousemove_relative"_s, u"--"_s, QString::number(way.x()), QString::number(way.y())});
+}
+
 void Desk::click(QPoint point) const
 {
     moveTo(point);

@@ -12,13 +12,22 @@ constexpr auto RunningEntry = R"({"clients": [{"id": "6F1C0000-0000-4000-8000-00
     "entries": [{"id": "6F1C0000-0000-4000-8000-000000000002", "note": "",
     "clientID": "6F1C0000-0000-4000-8000-000000000001", "start": "2026-03-02T09:00:00Z"}]})";
 
+bool hasXInput()
+{
+    QFETCH_GLOBAL(const bool, xinput);
+    return xinput;
+}
+
 } // namespace
 
-/// The panel under a real pointer.
+/// The panel under a real pointer. All of it happens twice: where the server tells when the pointer
+/// goes on, and where it is only asked.
 class PanelTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase_data();
+    void pushedPointer_expandsAndCollapses();
     void pointerOnTheNotch_expandsAndLeavingCollapses_data();
     void pointerOnTheNotch_expandsAndLeavingCollapses();
     void clicksBesideTheNotch_reachTheWindowBeneath();
@@ -31,6 +40,27 @@ private Q_SLOTS:
     void fullScreenWindow_liesBeneathThePanel();
     void monitorsChange_thePanelFollows();
 };
+
+void PanelTest::initTestCase_data()
+{
+    QTest::addColumn<bool>("xinput");
+
+    QTest::addRow("woken") << true;
+    QTest::addRow("polled") << false;
+}
+
+void PanelTest::pushedPointer_expandsAndCollapses()
+{
+    Desk desk({.xinput = hasXInput()});
+    const auto quib = desk.startQuib();
+
+    for (int round = 0; round < 3; ++round) {
+        desk.pushTo(Desk::Notch);
+        QVERIFY(desk.waitForExpanded(true));
+        desk.pushTo(Desk::FarAway);
+        QVERIFY(desk.waitForExpanded(false));
+    }
+}
 
 void PanelTest::pointerOnTheNotch_expandsAndLeavingCollapses_data()
 {
@@ -46,7 +76,7 @@ void PanelTest::pointerOnTheNotch_expandsAndLeavingCollapses()
 {
     QFETCH(bool, compositor);
     QFETCH(int, scale);
-    Desk desk({.compositor = compositor, .scale = scale});
+    Desk desk({.compositor = compositor, .scale = scale, .xinput = hasXInput()});
     const auto quib = desk.startQuib();
     QVERIFY(!desk.isExpanded());
 
@@ -64,7 +94,7 @@ void PanelTest::pointerOnTheNotch_expandsAndLeavingCollapses()
 
 void PanelTest::clicksBesideTheNotch_reachTheWindowBeneath()
 {
-    Desk desk;
+    Desk desk({.xinput = hasXInput()});
     const auto listener = desk.startListener();
     Output heard(*listener);
     const auto quib = desk.startQuib();
@@ -78,7 +108,7 @@ void PanelTest::clicksBesideTheNotch_reachTheWindowBeneath()
 
 void PanelTest::clicksBesideTheCard_reachTheWindowBeneath()
 {
-    Desk desk;
+    Desk desk({.xinput = hasXInput()});
     const auto listener = desk.startListener();
     Output heard(*listener);
     const auto quib = desk.startQuib();
@@ -95,7 +125,7 @@ void PanelTest::clicksBesideTheCard_reachTheWindowBeneath()
 
 void PanelTest::clickElsewhere_collapsesAtOnce()
 {
-    Desk desk;
+    Desk desk({.xinput = hasXInput()});
     const auto listener = desk.startListener();
     const auto quib = desk.startQuib();
     desk.openWithPointer();
@@ -109,7 +139,7 @@ void PanelTest::clickElsewhere_collapsesAtOnce()
 /// 0.4 s, and any collapse would have come before.
 void PanelTest::pinned_itStaysOpen()
 {
-    Desk desk;
+    Desk desk({.xinput = hasXInput()});
     const auto quib = desk.startQuib();
     desk.openWithPointer();
     desk.showTab(3);
@@ -127,7 +157,7 @@ void PanelTest::pinned_itStaysOpen()
 /// A collapse would come with the click, and leave no tab to press.
 void PanelTest::pinned_clicksElsewhereLeaveItOpen()
 {
-    Desk desk;
+    Desk desk({.xinput = hasXInput()});
     const auto quib = desk.startQuib();
     desk.openWithPointer();
     desk.click(Desk::Pin);
@@ -141,7 +171,7 @@ void PanelTest::pinned_clicksElsewhereLeaveItOpen()
 
 void PanelTest::tab_isTheSameWhenItOpensAgain()
 {
-    Desk desk;
+    Desk desk({.xinput = hasXInput()});
     const auto quib = desk.startQuib();
     desk.openWithPointer();
     desk.showTab(4);
@@ -155,7 +185,7 @@ void PanelTest::tab_isTheSameWhenItOpensAgain()
 
 void PanelTest::runningEntry_showsWingsAndWidensTheHitArea()
 {
-    Desk desk;
+    Desk desk({.xinput = hasXInput()});
     desk.writeData(RunningEntry);
     const auto quib = desk.startQuib();
     const QPoint onTheWing(800 - 190, 12);
@@ -168,7 +198,7 @@ void PanelTest::runningEntry_showsWingsAndWidensTheHitArea()
 
 void PanelTest::fullScreenWindow_liesBeneathThePanel()
 {
-    Desk desk;
+    Desk desk({.xinput = hasXInput()});
     const auto quib = desk.startQuib();
     const auto window = desk.start(u"xterm"_s, {u"-fullscreen"_s, u"-bg"_s, u"#00ff00"_s});
     QTRY_COMPARE(desk.pixel({1500, 2}), QColor(Qt::green));
@@ -183,7 +213,7 @@ void PanelTest::fullScreenWindow_liesBeneathThePanel()
 
 void PanelTest::monitorsChange_thePanelFollows()
 {
-    Desk desk;
+    Desk desk({.xinput = hasXInput()});
     const auto quib = desk.startQuib();
 
     desk.start(u"xrandr"_s, {u"--setmonitor"_s, u"L"_s, u"800/200x900/200+0+0"_s, u"screen"_s})
