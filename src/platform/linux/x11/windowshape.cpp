@@ -2,6 +2,8 @@
 
 #include "platform/linux/x11/xserver.h"
 
+#include <QCoreApplication>
+
 #include <xcb/shape.h>
 #include <xcb/xfixes.h>
 
@@ -24,6 +26,16 @@ std::vector<xcb_rectangle_t> rectangles(const QRegion& region)
     return rectangles;
 }
 
+/// The number of the request.
+uint32_t shapeAs(xcb_window_t window, const QRegion& region)
+{
+    const auto shape = rectangles(region);
+    return xcb_shape_rectangles(qtConnection(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING,
+                                XCB_CLIP_ORDERING_YX_BANDED, window, 0, 0, uint32_t(shape.size()),
+                                shape.data())
+        .sequence;
+}
+
 /// An extension may be used once its version has been asked for.
 void askForVersion(xcb_connection_t* connection)
 {
@@ -35,11 +47,17 @@ void askForVersion(xcb_connection_t* connection)
 
 } // namespace
 
+WindowShape::WindowShape()
+{
+    qApp->installNativeEventFilter(this);
+}
+
 void WindowShape::setWindow(xcb_window_t window)
 {
     static const auto isAsked = (askForVersion(qtConnection()), true);
     Q_UNUSED(isAsked)
     m_window = window;
+    m_frames.clear();
     m_input.reset();
     m_bounding.reset();
 }
@@ -67,15 +85,39 @@ void WindowShape::setBounding(const std::optional<QRegion>& region)
     m_bounding = region;
     auto* connection = qtConnection();
     if (region) {
-        const auto shape = rectangles(*region);
-        xcb_shape_rectangles(connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING,
-                             XCB_CLIP_ORDERING_YX_BANDED, m_window, 0, 0, uint32_t(shape.size()),
-                             shape.data());
+        shapeAs(m_window, *region);
     } else {
         xcb_shape_mask(connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, m_window, 0, 0,
                        XCB_NONE);
     }
     xcb_flush(connection);
+}
+
+/// Something follows at once: what other programs bring into sight has another number.
+void WindowShape::setBoundingOfFrame(const QRegion& region)
+{
+    if (m_window == XCB_NONE || m_bounding == region) {
+        return;
+    }
+    m_bounding = region;
+    m_frames << shapeAs(m_window, region);
+    xcb_no_operation(qtConnection());
+    xcb_flush(qtConnection());
+}
+
+/// Events bear the number of the latest request that the server had done by then.
+bool WindowShape::nativeEventFilter(const QByteArray& type, void* message, qintptr* /*result*/)
+{
+    const auto* event = xcbEvent(type, message);
+    if (event == nullptr) {
+        return false;
+    }
+    while (!m_frames.isEmpty() && int32_t(m_frames.first() - event->full_sequence) < 0) {
+        m_frames.removeFirst();
+    }
+    return !m_frames.isEmpty() && m_frames.first() == event->full_sequence
+        && eventKind(*event) == XCB_EXPOSE
+        && reinterpret_cast<const xcb_expose_event_t*>(event)->window == m_window;
 }
 
 } // namespace quib

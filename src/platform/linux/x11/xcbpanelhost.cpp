@@ -40,7 +40,9 @@ XcbPanelHost::XcbPanelHost()
 void XcbPanelHost::setVisibleShape(const QPainterPath& shape)
 {
     m_visibleShape = shape;
-    applyVisibleShape();
+    if (window() != nullptr && !m_compositor.isRunning()) {
+        m_shape.setBoundingOfFrame(toPixels(shape, window()->devicePixelRatio()));
+    }
 }
 
 void XcbPanelHost::orderFront()

@@ -21,6 +21,20 @@ QPainterPath pathOf(const QRectF& rect)
     return path;
 }
 
+/// How often Qt has been told that a window is to be painted.
+class ExposeCounter final : public QObject {
+public:
+    int count = 0;
+
+    explicit ExposeCounter(QWindow& window) { window.installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        count += event->type() == QEvent::Expose ? 1 : 0;
+        return QObject::eventFilter(object, event);
+    }
+};
+
 } // namespace
 
 class XcbPanelHostTest : public QObject {
@@ -41,6 +55,7 @@ private Q_SLOTS:
     void inputRegion_isInPixels();
     void visibleShape_withoutCompositor_boundsTheWindow();
     void visibleShape_followsThePath();
+    void visibleShape_thatGrows_isNotToldOfAsUnpainted();
     void visibleShape_untold_leavesTheWindowWhole();
     void visibleShape_comesAndGoesWithTheCompositor_data();
     void visibleShape_comesAndGoesWithTheCompositor();
@@ -227,7 +242,26 @@ void XcbPanelHostTest::visibleShape_followsThePath()
 
     m_host->setVisibleShape(pathOf({20, 0, 40, 20}));
 
-    QCOMPARE(boundingShape(), QRegion(scaled({20, 0, 40, 20})));
+    QTRY_COMPARE(boundingShape(), QRegion(scaled({20, 0, 40, 20})));
+}
+
+void XcbPanelHostTest::visibleShape_thatGrows_isNotToldOfAsUnpainted()
+{
+    m_host->setVisibleShape(pathOf({10, 0, 100, 50}));
+    showPanel();
+    const ExposeCounter exposes(*m_window);
+    const OtherProgram above(scaled(Frame));
+
+    for (int width = 110; width <= 200; width += 10) {
+        const QRect rect(10, 0, width, 50);
+        m_host->setVisibleShape(pathOf(rect));
+        QTRY_COMPARE(boundingShape(), QRegion(scaled(rect)));
+    }
+    above.show();
+    above.hide(); // What it uncovers has to be painted.
+
+    QTRY_VERIFY(exposes.count > 0);
+    QCOMPARE(exposes.count, 1);
 }
 
 void XcbPanelHostTest::visibleShape_untold_leavesTheWindowWhole()
