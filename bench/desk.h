@@ -23,6 +23,8 @@ constexpr int TasksTab = 3;
 
 /// Nothing is left of starting by then.
 constexpr std::chrono::seconds Settled{3};
+/// Nor of what is put away some seconds after the panel has closed.
+constexpr std::chrono::seconds PutAway{5};
 /// Nor of a spring.
 constexpr std::chrono::milliseconds SprungBack{400};
 

@@ -49,10 +49,18 @@ void measure(std::string_view what, Words words)
         measureMemory(number(0), words.subspan(1));
     } else if (what == "idle") {
         measureIdle(number(0), number(1), words.subspan(2));
+    } else if (what == "moving") {
+        measureMoving(number(0), number(1), words.subspan(2));
     } else if (what == "redraws") {
         measureRedraws(number(0), words.subspan(1));
     } else if (what == "hover") {
         measureHover(number(0), words.subspan(1));
+    } else if (what == "first") {
+        measureFirst(number(0), words.subspan(1));
+    } else if (what == "tabs") {
+        measureTabs(number(0), words.subspan(1));
+    } else if (what == "save") {
+        measureSave(number(0), words.subspan(1));
     } else if (what == "keys") {
         measureKeys(number(0), words.subspan(1));
     } else if (what == "expansions") {

@@ -11,6 +11,7 @@
 using namespace std::chrono_literals;
 using std::chrono::steady_clock;
 using std::this_thread::sleep_for;
+using std::this_thread::sleep_until;
 
 namespace {
 
@@ -25,6 +26,26 @@ double startOnce(Screen& screen, const std::string& command)
         = screen.waitUntil("the first frame", [&] { return screen.pixel(InTheNotch) == Black; });
     sleep_for(300ms); // Ending while still starting is another thing.
     return Milliseconds(shown - begin).count();
+}
+
+/// What programs use while something goes on until a moment.
+template <typename GoOn>
+void measureUse(int seconds, pid_t server, Words commands, GoOn goOnUntil)
+{
+    const auto perMinute = [&](auto before, auto after) {
+        return Milliseconds(after.processor - before.processor).count() * 60 / seconds;
+    };
+    for (const auto* command : commands) {
+        const Program program(command);
+        sleep_for(Settled);
+        const auto own = usageOf(program.process());
+        const auto servers = usageOf(server);
+        goOnUntil(steady_clock::now() + std::chrono::seconds(seconds));
+        const auto ownLater = usageOf(program.process());
+        std::printf("%.0f %.0f %.1f\n", perMinute(own, ownLater),
+                    perMinute(servers, usageOf(server)),
+                    static_cast<double>(ownLater.switches - own.switches) / seconds);
+    }
 }
 
 } // namespace
@@ -68,20 +89,19 @@ void measureMemory(int rounds, Words commands)
 void measureIdle(int seconds, pid_t server, Words commands)
 {
     Screen().moveTo(FarAway);
-    const auto perMinute = [&](auto before, auto after) {
-        return Milliseconds(after.processor - before.processor).count() * 60 / seconds;
-    };
-    for (const auto* command : commands) {
-        const Program program(command);
-        sleep_for(Settled);
-        const auto own = usageOf(program.process());
-        const auto servers = usageOf(server);
-        sleep_for(std::chrono::seconds(seconds));
-        const auto ownLater = usageOf(program.process());
-        std::printf("%.0f %.0f %.1f\n", perMinute(own, ownLater),
-                    perMinute(servers, usageOf(server)),
-                    static_cast<double>(ownLater.switches - own.switches) / seconds);
-    }
+    measureUse(seconds, server, commands, [](steady_clock::time_point end) { sleep_until(end); });
+}
+
+void measureMoving(int seconds, pid_t server, Words commands)
+{
+    Screen screen;
+    screen.moveTo(FarAway);
+    measureUse(seconds, server, commands, [&screen](steady_clock::time_point end) {
+        for (int step = 0; steady_clock::now() < end; ++step) {
+            screen.moveTo({.x = FarAway.x + step % 200, .y = FarAway.y});
+            sleep_for(2ms);
+        }
+    });
 }
 
 void measureRedraws(int seconds, Words commands)

@@ -17,6 +17,7 @@ namespace {
 
 constexpr uint32_t LetterX = 'x';
 constexpr uint32_t Backspace = 0xff08;
+constexpr uint32_t Return = 0xff0d;
 
 /// At another scale things are farther from the middle of the screen's top edge.
 Point scaled(Point point, int scale)
@@ -66,10 +67,22 @@ void visitTab(Screen& screen, int number)
     screen.moveTo(Notch);
     screen.waitUntil("the card", [&] { return screen.pixel(InTheCard) != before; });
     screen.click(tabButton(number % TabCount));
-    sleep_for(100ms);
+    sleep_for(30ms);
     screen.moveTo(FarAway);
     screen.waitUntil("the collapse", [&] { return screen.pixel(BelowTheNotch) == before; });
-    sleep_for(50ms);
+}
+
+/// Brings the keyboard into the field for new tasks.
+void openTaskField(Screen& screen)
+{
+    for (const auto point : {Notch, tabButton(TasksTab), Field}) {
+        screen.moveTo(point);
+        sleep_for(SprungBack);
+        screen.click(point);
+        sleep_for(SprungBack);
+    }
+    screen.lendKeyboard();
+    sleep_for(SprungBack);
 }
 
 /// The gaps between the frames of one expansion, while the spring moves fast.
@@ -121,6 +134,71 @@ void measureHover(int rounds, Words commands)
     }
 }
 
+void measureFirst(int rounds, Words commands)
+{
+    Screen screen;
+    screen.moveTo(FarAway);
+    for (const auto* command : commands) {
+        Samples samples;
+        for (int round = 0; round < rounds; ++round) {
+            const Program program(command);
+            sleep_for(Settled);
+            waitByChance();
+            samples.push_back(expandOnce(screen));
+        }
+        std::printf("%.1f\n", percentile(samples, 0.5));
+    }
+}
+
+void measureTabs(int rounds, Words commands)
+{
+    Screen screen;
+    screen.moveTo(FarAway);
+    for (const auto* command : commands) {
+        Samples dirty;
+        for (int round = 0; round < rounds; ++round) {
+            const Program program(command);
+            sleep_for(Settled);
+            for (int number = 0; number < TabCount; ++number) {
+                visitTab(screen, number);
+                sleep_for(SprungBack);
+            }
+            sleep_for(PutAway);
+            dirty.push_back(static_cast<double>(memoryOf(program.process()).privateDirty));
+        }
+        std::printf("%.0f\n", percentile(dirty, 0.5));
+    }
+}
+
+void measureSave(int rounds, Words commands)
+{
+    Screen screen;
+    for (const auto* command : commands) {
+        Samples before;
+        Samples after;
+        for (int round = 0; round < rounds; ++round) {
+            screen.moveTo(FarAway);
+            const Program program(command);
+            sleep_for(Settled);
+            openTaskField(screen);
+            typeOnce(screen, LetterX);
+            screen.moveTo(FarAway);
+            sleep_for(PutAway);
+            before.push_back(static_cast<double>(memoryOf(program.process()).resident));
+            screen.moveTo(Notch);
+            sleep_for(SprungBack);
+            screen.click(Field);
+            screen.lendKeyboard();
+            screen.pressKey(Return);
+            sleep_for(Settled);
+            screen.moveTo(FarAway);
+            sleep_for(PutAway);
+            after.push_back(static_cast<double>(memoryOf(program.process()).resident));
+        }
+        std::printf("%.0f %.0f\n", percentile(before, 0.5), percentile(after, 0.5));
+    }
+}
+
 void measureKeys(int rounds, Words commands)
 {
     Screen screen;
@@ -128,14 +206,7 @@ void measureKeys(int rounds, Words commands)
         screen.moveTo(FarAway);
         const Program program(command);
         sleep_for(Settled);
-        for (const auto point : {Notch, tabButton(TasksTab), Field}) {
-            screen.moveTo(point);
-            sleep_for(SprungBack);
-            screen.click(point);
-            sleep_for(SprungBack);
-        }
-        screen.lendKeyboard();
-        sleep_for(SprungBack);
+        openTaskField(screen);
         Samples samples;
         for (int round = 0; round < rounds; ++round) {
             samples.push_back(typeOnce(screen, round % 2 == 0 ? LetterX : Backspace));
