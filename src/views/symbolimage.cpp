@@ -45,7 +45,7 @@ void paintOutline(QPainter& painter, const SymbolShape& shape, const SymbolLook&
     if (pen > 0) {
         painter.setPen(QPen(Qt::white, pen, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     }
-    painter.drawPath(shape.path);
+    painter.drawPath(ownCopy(shape.path)); // Or the one that is kept would grow by its outline.
 }
 
 /// Dims all from the first bar on that is not lit. Bars stand apart: none is cut.

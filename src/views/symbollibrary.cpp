@@ -141,6 +141,7 @@ std::optional<SymbolShape> shapeOf(const QString& name)
         shape = composedShape(name);
     }
     if (shape) {
+        shape->path = ownCopy(shape->path);
         shape->drawing = pixelDrawing(name);
     }
     return shape;
@@ -153,6 +154,14 @@ std::optional<SymbolShape> findSymbol(const QString& name)
     static QHash<QString, std::optional<SymbolShape>> known;
     const auto found = known.find(name);
     return found == known.end() ? *known.insert(name, shapeOf(name)) : *found;
+}
+
+QPainterPath ownCopy(const QPainterPath& path)
+{
+    QPainterPath copy;
+    copy.addPath(path);
+    copy.setFillRule(path.fillRule());
+    return copy;
 }
 
 } // namespace quib

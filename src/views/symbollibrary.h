@@ -22,4 +22,7 @@ struct SymbolShape {
 /// name is worked out once in the life of the program.
 std::optional<SymbolShape> findSymbol(const QString& name);
 
+/// The same path once more, in no more room than it needs and without what painting has left in it.
+QPainterPath ownCopy(const QPainterPath& path);
+
 } // namespace quib
