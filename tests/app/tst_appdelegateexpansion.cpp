@@ -21,6 +21,7 @@ private Q_SLOTS:
     void expansion_asksThePlayerUntilTheCollapse();
     void expansion_readsTheDayAnew();
     void hoverRect_isToldInTheWindow();
+    void closedForAWhile_givesMemoryBack();
     void unpinned_aPointerThatRestsElsewhere_collapses();
 
 private:
@@ -78,6 +79,25 @@ void AppDelegateExpansionTest::expansion_readsTheDayAnew()
     delegate.expand(false);
 
     QCOMPARE(calendar.readings.size(), readings + 1);
+}
+
+void AppDelegateExpansionTest::closedForAWhile_givesMemoryBack()
+{
+    auto& delegate = m_quib->launched();
+    const auto& trimmed = m_quib->shell.trimmed;
+    delegate.expand(false);
+    m_quib->hands.advance(10s);
+    QCOMPARE(trimmed, 0);
+
+    delegate.collapse(true);
+    m_quib->hands.advance(2s);
+    delegate.expand(false);
+    delegate.collapse(true);
+    m_quib->hands.advance(2s);
+    QCOMPARE(trimmed, 0);
+
+    m_quib->hands.advance(10s);
+    QCOMPARE(trimmed, 1);
 }
 
 void AppDelegateExpansionTest::hoverRect_isToldInTheWindow()

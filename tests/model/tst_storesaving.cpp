@@ -1,5 +1,6 @@
 #include "model/datafile.h"
 #include "support/downloadsfortest.h"
+#include "support/privatememory.h"
 #include "support/storefixture.h"
 
 #include <QDir>
@@ -35,18 +36,6 @@ public:
 private:
     QString m_path;
 };
-
-/// What the process has of the memory for itself, in bytes.
-qint64 privateMemory()
-{
-    QFile status(u"/proc/self/status"_s);
-    if (!status.open(QIODevice::ReadOnly)) {
-        qFatal("the system does not tell of the process");
-    }
-    const auto text = status.readAll();
-    const auto start = text.indexOf("RssAnon:") + 8;
-    return text.mid(start, text.indexOf("kB", start) - start).trimmed().toLongLong() * 1024;
-}
 
 quib::QuibData entriesOf(int count)
 {

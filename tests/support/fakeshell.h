@@ -279,6 +279,7 @@ public:
 /// A desktop of fakes, and ways to reach them once the delegate owns them.
 struct FakeShell {
     QStringList asked; ///< Of the panel's host, in order.
+    int trimmed = 0; ///< How often memory was given back.
     quib::Platform platform{.screens = std::make_unique<FakeScreenSource>(),
                             .pointer = std::make_unique<FakePointerSource>(),
                             .panelHost = std::make_unique<FakePanelHost>(asked),
@@ -293,7 +294,8 @@ struct FakeShell {
                             .files = std::make_unique<FakeFileProbe>(),
                             .statusItem = std::make_unique<FakeStatusItem>(asked),
                             .loginItem = std::make_unique<FakeLoginItem>(),
-                            .filePicker = std::make_unique<FakeFilePicker>()};
+                            .filePicker = std::make_unique<FakeFilePicker>(),
+                            .trimMemory = [this] { ++trimmed; }};
     FakeScreenSource& screens = static_cast<FakeScreenSource&>(*platform.screens);
     FakePointerSource& pointer = static_cast<FakePointerSource&>(*platform.pointer);
     FakePanelHost& host = static_cast<FakePanelHost&>(*platform.panelHost);

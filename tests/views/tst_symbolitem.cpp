@@ -1,4 +1,5 @@
 #include "views/symbol.h"
+#include "views/unseen.h"
 
 #include <QQuickWindow>
 #include <QTest>
@@ -13,6 +14,8 @@ private Q_SLOTS:
     void item_takesTheSizeOfTheSymbol();
     void item_betweenTwoPixels_goesToOne();
     void item_drawsOnlyWhatHasChanged();
+    void hiddenItem_isDrawnWhenItComesIntoSight();
+    void hiddenItem_whosePictureIsLetGo_isDrawnAnew();
 };
 
 namespace {
@@ -87,6 +90,41 @@ void SymbolItemTest::item_drawsOnlyWhatHasChanged()
 
     shown.symbol.setColor(Qt::red);
     shown.window.grabWindow();
+    QCOMPARE(shown.symbol.drawn, 2);
+}
+
+void SymbolItemTest::hiddenItem_isDrawnWhenItComesIntoSight()
+{
+    Shown shown;
+    shown.symbol.setVisible(false);
+    shown.window.grabWindow();
+    shown.symbol.setColor(Qt::red);
+    shown.window.grabWindow();
+    QCOMPARE(shown.symbol.drawn, 0);
+
+    shown.symbol.setVisible(true);
+    shown.window.grabWindow();
+    QCOMPARE(shown.symbol.drawn, 1);
+    shown.symbol.setVisible(false);
+    shown.symbol.setVisible(true);
+    shown.window.grabWindow();
+    QCOMPARE(shown.symbol.drawn, 1);
+}
+
+void SymbolItemTest::hiddenItem_whosePictureIsLetGo_isDrawnAnew()
+{
+    Shown shown;
+    const auto seen = shown.window.grabWindow();
+    quib::Unseen::letGo(shown.window.contentItem());
+    shown.window.grabWindow();
+    QCOMPARE(shown.symbol.drawn, 1); // It is in sight.
+
+    shown.symbol.setVisible(false);
+    quib::Unseen::letGo(shown.window.contentItem());
+    shown.window.grabWindow();
+    shown.symbol.setVisible(true);
+
+    QCOMPARE(shown.window.grabWindow(), seen);
     QCOMPARE(shown.symbol.drawn, 2);
 }
 
