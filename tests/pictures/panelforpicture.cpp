@@ -59,6 +59,7 @@ PanelForPicture::PanelForPicture(const Day& day, const QString& folder,
     m_delegate = std::make_unique<quib::AppDelegate>(std::move(m_shell.platform), m_hands.clock(),
                                                      m_hands.scheduler());
     m_delegate->layout();
+    [[maybe_unused]] const auto& loaded = m_delegate->store().data(); // Waits for it.
     tell(day);
     model().setMotionReduced(true);
     model().setTab(tab.value_or(quib::Tab::Home));

@@ -37,7 +37,8 @@ bool isSideways(const QQuickItem* list)
 
 bool fadesAt(const QQuickItem* list, const QString& edge)
 {
-    return ShownPanel::find(edgesOf(list), edge)->isVisible();
+    const auto* fade = ShownPanel::find(edgesOf(list), edge);
+    return fade && fade->isVisible(); // None is built where everything fits.
 }
 
 /// From 0, its beginning, to 1. What a list knows of its end it learns on the way.
