@@ -17,7 +17,7 @@ constexpr int LargestInHeap = 256 * 1024;
 
 } // namespace
 
-void prepareMemory()
+void useOneHeap()
 {
     // A heap of its own grows by single pages, each by a system call, and nobody else uses what is
     // free there.
@@ -32,7 +32,7 @@ void trimMemory()
 
 #else
 
-void prepareMemory() { }
+void useOneHeap() { }
 
 void trimMemory() { }
 

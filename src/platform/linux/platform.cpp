@@ -102,6 +102,11 @@ void showOnWayland(Platform& platform)
 
 } // namespace
 
+void prepareMemory()
+{
+    useOneHeap();
+}
+
 WindowSystem chooseWindowSystem()
 {
     return chooseWindowSystem(lookAround());

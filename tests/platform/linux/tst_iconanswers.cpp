@@ -1,5 +1,5 @@
-#include "support/hungfile.h"
 #include "platform/linux/iconhome.h"
+#include "support/hungfile.h"
 
 #include <QSignalSpy>
 

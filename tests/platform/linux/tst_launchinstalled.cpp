@@ -1,5 +1,5 @@
-#include "support/hungfile.h"
 #include "platform/linux/openerdesk.h"
+#include "support/hungfile.h"
 
 #include <QTest>
 

@@ -3,23 +3,20 @@
 
 #include <QTest>
 
-#include <cstring>
 #include <memory>
 #include <thread>
 #include <vector>
 
 namespace {
 
-using Block = std::unique_ptr<char[]>;
+using Block = std::vector<char>;
 
-constexpr qint64 MiB = 1024 * 1024;
+constexpr qint64 MiB = 1'048'576;
 
 /// A block of memory that is really used.
-Block usedBlock(std::size_t bytes)
+std::unique_ptr<Block> usedBlock(std::size_t bytes)
 {
-    auto block = std::make_unique_for_overwrite<char[]>(bytes);
-    std::memset(block.get(), 1, bytes);
-    return block;
+    return std::make_unique<Block>(bytes, '\1');
 }
 
 } // namespace
@@ -40,13 +37,13 @@ void MemoryTest::initTestCase()
 #if defined(__SANITIZE_ADDRESS__)
     QSKIP("the sanitizer has a heap of its own");
 #endif
-    quib::prepareMemory();
+    quib::useOneHeap();
 }
 
 void MemoryTest::trimming_givesBackWhatIsFreeBetweenWhatIsUsed()
 {
     const auto before = privateMemory();
-    std::vector<Block> blocks(512);
+    std::vector<std::unique_ptr<Block>> blocks(512);
     for (auto& block : blocks) {
         block = usedBlock(100'000);
     }
@@ -73,12 +70,12 @@ void MemoryTest::largeBlock_goesBackAtOnce_howeverLargeTheLastOneWas()
 
 void MemoryTest::threads_shareOneHeap()
 {
-    Block ofAnother;
+    std::unique_ptr<Block> ofAnother;
     std::thread([&] { ofAnother = usedBlock(1000); }).join();
     const auto own = usedBlock(1000);
 
     // Heaps of threads begin at multiples of 64 MiB, far away.
-    const auto distance = ofAnother.get() - own.get();
+    const auto distance = ofAnother->data() - own->data();
     QVERIFY(std::abs(distance) < 16 * MiB);
 }
 
