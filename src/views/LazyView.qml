@@ -12,12 +12,28 @@ FocusScope {
     /// What the view is made with, by name.
     required property var properties
 
+    /// Whether it may come a frame late, so that what is around it moves at once.
+    property bool mayWait: false
+
     property Item item: null
 
-    onShownChanged: root.build()
+    onShownChanged: root.mayWait && !root.item ? frames.enabled = true : root.build()
+    onMayWaitChanged: if (!root.mayWait) root.build()
     Component.onCompleted: root.build()
 
+    Connections {
+        id: frames
+
+        target: root.Window.window
+        enabled: false
+
+        function onFrameSwapped() {
+            root.build();
+        }
+    }
+
     function build() {
+        frames.enabled = false;
         if (!root.shown || root.item) {
             return;
         }

@@ -110,6 +110,7 @@ FocusScope {
             width: root.cardSize.width
             height: root.cardSize.height
             shown: root.model.isExpanded
+            mayWait: !root.model.isMotionReduced && !root.model.isPinned // Who pins it may go on by keys.
             focus: true
 
             source: "ExpandedView.qml"

@@ -25,6 +25,8 @@ private Q_SLOTS:
     void cardIsBuiltWhenFirstOpened();
     void topBar_isAsHighAsTheNotchButThirtyAtLeast();
     void contentsLeave_byFadingOut();
+    void firstOpening_growsBeforeTheCardIsBuilt();
+    void firstOpening_byCommand_hasTheCardAtOnce();
     void switchingTabs_keepsTheTabBar();
 };
 
@@ -153,6 +155,28 @@ void RootViewTest::contentsLeave_byFadingOut()
     QTRY_COMPARE(contents->opacity(), 0.0);
     QVERIFY(!contents->isVisible());
     QCOMPARE(contents->scale(), 1.0);
+}
+
+void RootViewTest::firstOpening_growsBeforeTheCardIsBuilt()
+{
+    ShownPanel panel;
+    panel.model.setMotionReduced(false);
+
+    panel.model.setExpanded(true);
+
+    QVERIFY(!panel.item(u"expandedView"_s));
+    QTRY_VERIFY(panel.item(u"expandedView"_s));
+}
+
+void RootViewTest::firstOpening_byCommand_hasTheCardAtOnce()
+{
+    ShownPanel panel;
+    panel.model.setMotionReduced(false);
+
+    panel.model.setExpanded(true);
+    panel.model.setPinned(true);
+
+    QVERIFY(panel.item(u"expandedView"_s)); // The next key is for it.
 }
 
 void RootViewTest::switchingTabs_keepsTheTabBar()
