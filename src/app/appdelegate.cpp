@@ -79,7 +79,6 @@ void AppDelegate::applicationDidShow()
 {
     setupStatusItem();
     trimMemoryLater();
-    Q_EMIT shown();
 }
 
 void AppDelegate::applicationWillTerminate()

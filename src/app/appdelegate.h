@@ -76,10 +76,6 @@ public:
     StatusMenu* menu() override { return &m_menu; }
     bool isMenuInStatusBar() const override;
 
-Q_SIGNALS:
-    /// The first frame of the panel is on the screen.
-    void shown();
-
 private:
     void cancelCollapse();
     void followMenu();

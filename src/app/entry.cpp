@@ -59,7 +59,6 @@ void useFontOnceNeeded(AppDelegate& delegate)
     };
     QObject::connect(&delegate.model(), &NotchModel::isExpandedChanged, waiting, use);
     QObject::connect(&delegate.store(), &Store::entriesChanged, waiting, useForTimer);
-    QObject::connect(&delegate, &AppDelegate::shown, waiting, use);
     useForTimer();
 }
 
