@@ -11,6 +11,7 @@ class LightStartTest : public QObject {
 
 private Q_SLOTS:
     void librariesOfTheCard_areReadWhenItOpens();
+    void viewsAreRead_withoutWaitingForAPlugin();
 };
 
 namespace {
@@ -34,6 +35,15 @@ void LightStartTest::librariesOfTheCard_areReadWhenItOpens()
     desk.openWithPointer();
 
     QVERIFY(hasRead(quib, "libQt6QuickTemplates2.so"));
+}
+
+void LightStartTest::viewsAreRead_withoutWaitingForAPlugin()
+{
+    Desk desk;
+    const auto quib = desk.startQuib();
+
+    QVERIFY(hasRead(quib, "libQt6QmlWorkerScript.so"));
+    QVERIFY(!hasRead(quib, "libworkerscriptplugin.so"));
 }
 
 QTEST_GUILESS_MAIN(LightStartTest)
