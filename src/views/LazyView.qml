@@ -12,10 +12,12 @@ FocusScope {
     /// What the view is made with, by name.
     required property var properties
 
-    /// Whether it may come a frame late, so that what is around it moves at once.
+    /// Whether it may come some frames late, so that what is around it moves at once and goes on while
+    /// another thread reads what it is made of.
     property bool mayWait: false
 
     property Item item: null
+    property Component reading: null
 
     onShownChanged: root.mayWait && !root.item ? frames.enabled = true : root.build()
     onMayWaitChanged: if (!root.mayWait) root.build()
@@ -28,7 +30,11 @@ FocusScope {
         enabled: false
 
         function onFrameSwapped() {
-            root.build();
+            if (!root.reading) {
+                root.reading = Qt.createComponent(root.source, Component.Asynchronous, root);
+            } else if (root.reading.status !== Component.Loading) {
+                root.build();
+            }
         }
     }
 
