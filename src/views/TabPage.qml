@@ -19,6 +19,7 @@ LazyView {
     shown: root.model.isExpanded && root.isSelected
     focus: root.isSelected
 
-    // Not when the card closes: it opens with this tab again.
+    // Not when the card closes: it opens with this tab again. Another may be selected while it is closed.
     onVisibleChanged: if (!root.isSelected) Unseen.letGo(root)
+    onIsSelectedChanged: if (!root.isSelected && !root.visible) Unseen.letGo(root)
 }
