@@ -1,10 +1,5 @@
-#include "model/datafile.h"
-#include "support/downloadsfortest.h"
-#include "support/privatememory.h"
 #include "support/storefixture.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QTest>
 #include <QThread>
 
@@ -13,44 +8,6 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using quib::Store;
-
-namespace {
-
-/// The notes in the file as it stands; empty when it cannot be read.
-QString notesOnDisk(const DataFolderForTest& folder)
-{
-    return quib::decodeQuibData(folder.bytes()).value_or(quib::QuibData()).notes;
-}
-
-/// Something in the way of the file, for as long as this lives: no save succeeds.
-class Obstacle {
-public:
-    explicit Obstacle(const DataFolderForTest& folder)
-        : m_path(folder.file())
-    {
-        QDir().mkpath(m_path);
-    }
-    ~Obstacle() { QDir().rmdir(m_path); }
-    Q_DISABLE_COPY_MOVE(Obstacle)
-
-private:
-    QString m_path;
-};
-
-quib::QuibData entriesOf(int count)
-{
-    quib::QuibData data;
-    const QDateTime start({2026, 3, 2}, {9, 0}, quib::Utc);
-    for (int number = 0; number < count; ++number) {
-        data.entries.append({.id = QUuid::createUuid(),
-                             .start = start,
-                             .end = start,
-                             .note = u"Homepage, round %1"_s.arg(number)});
-    }
-    return data;
-}
-
-} // namespace
 
 class StoreSavingTest : public QObject {
     Q_OBJECT
@@ -64,15 +21,10 @@ private Q_SLOTS:
     void saveNow_nothingPending_touchesNothing();
     void saveNow_afterASave_touchesNothing();
     void saveNow_cancelsThePendingSave();
-    void saveNow_afterAFailure_triesAgain();
-    void nextChange_afterAFailure_triesAgain();
-    void rateThatIsNotFinite_leavesTheOldFile();
     void olderCopy_neverReplacesANewerOne();
-    void folderRemovedMeanwhile_isMadeAgain();
     void scheduleSave_writesWithoutAChange();
     void storeGone_writesNoMore();
     void threadThatSaves_entersTheBackground();
-    void manyEntries_leaveNoMemoryBehind();
 };
 
 void StoreSavingTest::change_isWritten400MillisecondsLater()
@@ -175,55 +127,6 @@ void StoreSavingTest::saveNow_cancelsThePendingSave()
     QCOMPARE(f.hands.waiting(), 0);
 }
 
-void StoreSavingTest::saveNow_afterAFailure_triesAgain()
-{
-    StoreFixture f;
-    {
-        const Obstacle obstacle(f.folder);
-        f.store.setNotes(u"new"_s);
-        f.hands.advance(400ms);
-        f.store.saveNow(); // Waits for the background, then fails too.
-    }
-    QCOMPARE(notesOnDisk(f.folder), QString());
-
-    f.store.saveNow();
-
-    QCOMPARE(notesOnDisk(f.folder), u"new"_s);
-}
-
-void StoreSavingTest::nextChange_afterAFailure_triesAgain()
-{
-    StoreFixture f;
-    {
-        const Obstacle obstacle(f.folder);
-        f.store.setNotes(u"lost for now"_s);
-        f.store.saveNow();
-    }
-
-    f.store.addClient();
-    f.hands.advance(400ms);
-
-    QTRY_COMPARE(notesOnDisk(f.folder), u"lost for now"_s);
-}
-
-void StoreSavingTest::rateThatIsNotFinite_leavesTheOldFile()
-{
-    StoreFixture f;
-    auto client = quib::Client{.id = f.store.addClient(), .hourlyRate = 30};
-    f.store.saveNow();
-    const auto before = f.folder.bytes();
-
-    client.hourlyRate = std::numeric_limits<double>::infinity();
-    f.store.updateClient(client);
-    f.store.saveNow();
-    QCOMPARE(f.folder.bytes(), before);
-
-    client.hourlyRate = 31;
-    f.store.updateClient(client);
-    f.store.saveNow();
-    QVERIFY(f.folder.bytes().contains("31"));
-}
-
 void StoreSavingTest::olderCopy_neverReplacesANewerOne()
 {
     StoreFixture f;
@@ -236,17 +139,6 @@ void StoreSavingTest::olderCopy_neverReplacesANewerOne()
 
         QCOMPARE(notesOnDisk(f.folder), u"new %1"_s.arg(round));
     }
-}
-
-void StoreSavingTest::folderRemovedMeanwhile_isMadeAgain()
-{
-    StoreFixture f;
-    QVERIFY(QDir(f.folder.path()).removeRecursively());
-
-    f.store.setNotes(u"new"_s);
-    f.hands.advance(400ms);
-
-    QTRY_COMPARE(notesOnDisk(f.folder), u"new"_s);
 }
 
 void StoreSavingTest::scheduleSave_writesWithoutAChange()
@@ -294,28 +186,6 @@ void StoreSavingTest::threadThatSaves_entersTheBackground()
     QVERIFY(entered != nullptr);
     QVERIFY(entered != QThread::currentThread());
     QVERIFY(!wasWritten);
-}
-
-void StoreSavingTest::manyEntries_leaveNoMemoryBehind()
-{
-#if defined(__SANITIZE_ADDRESS__)
-    QSKIP("the sanitizer keeps what is freed");
-#endif
-    const DownloadsForTest downloads;
-    StoreFixture f;
-    f.startWith(entriesOf(100'000));
-    const auto before = privateMemory();
-
-    for (const auto& notes : {u"first"_s, u"second"_s, u"third"_s}) {
-        f.store.setNotes(notes);
-        f.hands.advance(400ms);
-        f.store.saveNow(); // Waits for the thread that saves.
-        QVERIFY(f.store.exportTimesheet());
-    }
-
-    const auto left = privateMemory() - before;
-    QVERIFY2(left < 2'000'000, qPrintable(u"%1 bytes"_s.arg(left)));
-    QVERIFY(QFileInfo(f.folder.file()).size() > 15'000'000);
 }
 
 QTEST_GUILESS_MAIN(StoreSavingTest)

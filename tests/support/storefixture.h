@@ -1,7 +1,7 @@
 #pragma once
 
+#include "model/datafile.h"
 #include "model/store.h"
-
 #include "support/datafolderfortest.h"
 #include "support/handclock.h"
 
@@ -50,4 +50,10 @@ struct StoreFixture {
 inline QUuid idOf(int number)
 {
     return QUuid::createUuidV5(QUuid(), QByteArray::number(number));
+}
+
+/// The notes in the file as it stands; empty when it cannot be read.
+inline QString notesOnDisk(const DataFolderForTest& folder)
+{
+    return quib::decodeQuibData(folder.bytes()).value_or(quib::QuibData()).notes;
 }
