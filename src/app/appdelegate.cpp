@@ -14,6 +14,7 @@ namespace quib {
 
 namespace {
 
+constexpr auto LatestShow = 1s; // A panel that lies below a locker or on no screen draws nothing.
 constexpr auto TrimDelay = 3s; // Nobody goes to and fro any more.
 
 } // namespace
@@ -23,10 +24,9 @@ AppDelegate::AppDelegate(Platform platform, Clock clock, Scheduler schedule)
     , m_schedule(schedule)
     , m_store({.clock = clock,
                .schedule = schedule,
-               .findApplication =
-                   [this](const QString& name) {
-                       return m_platform.applications->applicationNamed(name);
-                   },
+               .findApplication
+               = [applications = m_platform.applications](
+                     const QString& name) { return applications->applicationNamed(name); },
                .enterBackground = m_platform.enterBackground})
     , m_media(*m_platform.player, std::move(schedule))
     , m_calendar(m_platform.calendar.get(), std::move(clock))
@@ -71,12 +71,18 @@ void AppDelegate::applicationDidFinishLaunching(std::unique_ptr<PanelEngine> eng
     connect(m_platform.sessionLock.get(), &SessionLock::isLockedChanged, this,
             &AppDelegate::followLock);
     followLock();
+    m_showWork = m_schedule(LatestShow, [this] { applicationDidShow(); });
     connect(m_panel.get(), &QQuickWindow::frameSwapped, this, &AppDelegate::applicationDidShow,
             Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 void AppDelegate::applicationDidShow()
 {
+    if (!std::exchange(m_showWork, nullptr)) {
+        return;
+    }
+    m_store.beginLoading();
+    m_platform.reachServices();
     setupStatusItem();
     trimMemoryLater();
 }

@@ -47,7 +47,8 @@ public:
 
     /// Shows the panel, whose views the engine makes.
     void applicationDidFinishLaunching(std::unique_ptr<PanelEngine> engine);
-    /// What the user does not see before the panel is there: the status item.
+    /// What the user does not see before the panel is there: the workspace, the services and the
+    /// status item.
     void applicationDidShow();
     void applicationWillTerminate();
     /// Measures the notch and places the panel. Without any screen the last geometry stays.
@@ -104,6 +105,7 @@ private:
     std::unique_ptr<NotchPanel> m_panel;
     Screen m_screen; ///< As of the last layout.
     PointerPoll m_poll;
+    std::unique_ptr<QObject> m_showWork; ///< Present until applicationDidShow().
     std::unique_ptr<QObject> m_trimWork;
     std::unique_ptr<QObject> m_collapseWork; ///< Present while a collapse is pending.
     std::optional<quint32> m_endingClick; ///< The click that the pending collapse is due to.

@@ -37,13 +37,6 @@ void useFont(const Desktop& desktop)
     QGuiApplication::setFont(QFont(desktop.fontFamily()));
 }
 
-/// Qt may meet the session bus here, and would wait for one that hangs.
-std::unique_ptr<QGuiApplication> makeApplication(int& count, char** arguments)
-{
-    const auto hidden = hideWhatHangs();
-    return std::make_unique<QGuiApplication>(count, arguments);
-}
-
 /// To choose it every font of the system is looked at: not before a text is shown.
 void useFontOnceNeeded(AppDelegate& delegate)
 {
@@ -72,7 +65,9 @@ int runSnapshot(char** argv, const QString& folder)
 {
     prepareToDraw("offscreen");
     int ours = 1; // Qt's own options are not ours: what is not known is passed over.
-    const auto app = makeApplication(ours, argv);
+    auto services = lookAtServices();
+    const QGuiApplication app(ours, argv);
+    services.hidden.reset();
     AppDelegate delegate(makePlatformWithoutDisplay());
     useFont(*delegate.platform().desktop);
     Snapshot::run(folder, delegate);
@@ -88,21 +83,22 @@ int runPanel(char** argv)
     }
     prepareToDraw(windowSystem.qtPlatform);
     int ours = 1; // Qt's own options are not ours: what is not known is passed over.
-    const auto app = makeApplication(ours, argv);
-    auto engine = std::make_unique<PanelEngine>(); // Reads the views meanwhile.
-    auto platform = makePlatform();
+    auto services = lookAtServices(); // Qt meets the session bus, and waits for one that hangs.
+    const QGuiApplication app(ours, argv);
+    services.hidden.reset();
+    auto platform = makePlatform(services.arePrompt);
     if (!platform.instance->claim(Store::folder())) {
         return 0; // The panel that is open already has been called.
     }
+    auto engine = std::make_unique<PanelEngine>(); // Reads the views meanwhile.
     AppDelegate delegate(std::move(platform));
     useFontOnceNeeded(delegate);
-    QObject::connect(app.get(), &QCoreApplication::aboutToQuit, &delegate,
+    QObject::connect(&app, &QCoreApplication::aboutToQuit, &delegate,
                      &AppDelegate::applicationWillTerminate);
-    QObject::connect(
-        delegate.platform().instance.get(), &SingleInstance::superseded, app.get(), [&] {
-            QObject::disconnect(app.get(), &QCoreApplication::aboutToQuit, &delegate, nullptr);
-            QCoreApplication::exit();
-        });
+    QObject::connect(delegate.platform().instance.get(), &SingleInstance::superseded, &app, [&] {
+        QObject::disconnect(&app, &QCoreApplication::aboutToQuit, &delegate, nullptr);
+        QCoreApplication::exit();
+    });
     delegate.applicationDidFinishLaunching(std::move(engine));
     return QGuiApplication::exec();
 }

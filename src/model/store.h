@@ -32,9 +32,9 @@ struct StoreSurroundings {
 
 /// The one owner of the workspace, on the main thread. Every operation changes it in one step,
 /// announces what changed, and has it saved 0.4 s after the last change.
-/// It is loaded on another thread: whoever asks for it or changes it before that is done waits.
-/// Ids may repeat in a file that a hand edited: a look-up or a toggle means the first, a deletion
-/// all of them.
+/// It is loaded on another thread, or at the first use: whoever asks for it or changes it before
+/// that is done waits. Ids may repeat in a file that a hand edited: a look-up or a toggle means the
+/// first, a deletion all of them.
 class Store : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool hasRunningEntry READ hasRunningEntry NOTIFY entriesChanged)
@@ -44,8 +44,11 @@ class Store : public QObject {
 public:
     using Surroundings = StoreSurroundings;
 
-    /// Begins to load data.json from the data folder, else to build sample data. Never fails.
     explicit Store(Surroundings surroundings = {}, QObject* parent = nullptr);
+
+    /// Begins to load data.json from the data folder, else to build sample data, on a thread that
+    /// competes for the processor. Never fails.
+    void beginLoading() { m_loader.begin(); }
 
     /// The data folder, made with its parents each time it is asked for; a failure to make it shows
     /// in the use of it.
@@ -114,7 +117,6 @@ Q_SIGNALS:
 private:
     using Signal = void (Store::*)();
 
-    std::function<QuibData()> loading();
     void tellOfTimer();
     void awaitData() const;
     QuibData& workspace(); ///< To be changed.
@@ -127,7 +129,7 @@ private:
     mutable qsizetype m_runningRow = -1; ///< Of the first entry that runs; -1 without one.
     mutable std::vector<Tally> m_tallies; ///< Of the entries as they are, for moments asked about.
     DataSaver m_saver;
-    mutable DataLoader m_loader; ///< Last: waits when it goes.
+    mutable DataLoader m_loader;
 };
 
 } // namespace quib

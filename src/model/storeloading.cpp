@@ -3,7 +3,6 @@
 #include "model/sampledata.h"
 #include "model/store.h"
 
-#include <algorithm>
 #include <utility>
 
 // The store's workspace, read from its file while the program starts.
@@ -12,9 +11,14 @@ namespace quib {
 
 namespace {
 
-bool hasRunningEntry(const QuibData& data)
+/// What the thread that loads is to do. It shares nothing with the store.
+std::function<QuibData()> loading(const StoreSurroundings& surroundings)
 {
-    return std::ranges::any_of(data.entries, [](const TimeEntry& entry) { return !entry.end; });
+    return [file = dataFile(), now = surroundings.clock(),
+            findApplication = surroundings.findApplication] {
+        auto loaded = loadQuibData(file);
+        return loaded ? *std::move(loaded) : sampleData(now, findApplication);
+    };
 }
 
 } // namespace
@@ -23,8 +27,10 @@ Store::Store(Surroundings surroundings, QObject* parent)
     : QObject(parent)
     , m_surroundings(std::move(surroundings))
     , m_saver(m_surroundings.schedule, m_surroundings.enterBackground)
-    , m_loader(loading())
+    , m_loader(loading(m_surroundings))
 {
+    connect(&m_loader, &DataLoader::isRead, this, &Store::awaitData);
+    connect(&m_loader, &DataLoader::wasTaken, this, &Store::tellOfTimer, Qt::QueuedConnection);
 }
 
 const QuibData& Store::data() const
@@ -39,25 +45,12 @@ QuibData& Store::workspace()
     return m_data;
 }
 
-/// What the thread that loads is to do. It shares nothing with this one.
-std::function<QuibData()> Store::loading()
-{
-    return [this, file = dataFile(), now = m_surroundings.clock(),
-            findApplication = m_surroundings.findApplication] {
-        auto loaded = loadQuibData(file);
-        auto data = loaded ? *std::move(loaded) : sampleData(now, findApplication);
-        if (quib::hasRunningEntry(data)) {
-            QMetaObject::invokeMethod(this, &Store::tellOfTimer, Qt::QueuedConnection);
-        }
-        return data;
-    };
-}
-
 /// Who asked before was told that none runs.
 void Store::tellOfTimer()
 {
-    awaitData();
-    Q_EMIT entriesChanged();
+    if (hasRunningEntry()) {
+        Q_EMIT entriesChanged();
+    }
 }
 
 void Store::awaitData() const

@@ -29,7 +29,7 @@ struct Platform {
     std::unique_ptr<SingleInstance> instance;
     std::unique_ptr<SessionLock> sessionLock;
     std::unique_ptr<Desktop> desktop;
-    std::unique_ptr<AppCatalog> applications;
+    std::shared_ptr<AppCatalog> applications; ///< May be asked by a thread that outlives the rest.
     std::unique_ptr<Opener> opener;
     std::unique_ptr<PlayerLink> player;
     std::unique_ptr<CalendarStore> calendar;
@@ -42,6 +42,8 @@ struct Platform {
     std::unique_ptr<QObject> quitSignals;
     /// Makes the calling thread, not the main one, one of utility priority.
     std::function<void()> enterBackground = [] {};
+    /// Begins to talk with the services of the desktop, which takes threads and processor time.
+    std::function<void()> reachServices = [] {};
     /// Gives the memory that is free back to the system. Takes a few milliseconds.
     std::function<void()> trimMemory = [] {};
 };
@@ -60,13 +62,19 @@ struct WindowSystem {
 /// For the desktop that the environment tells of. Needs no application object.
 WindowSystem chooseWindowSystem();
 
-/// Hides what hangs from the application object while that is made; to be held until then. Null
-/// where nothing hangs.
-std::unique_ptr<QObject> hideWhatHangs();
+/// What is known of the services of the desktop before there is an application object.
+struct ServicesAtStart {
+    std::unique_ptr<QObject> hidden; ///< Hides what hangs while that object is made; null: nothing.
+    bool arePrompt = false; ///< Whoever meets them does not wait for them.
+};
+
+/// Takes up to a quarter of a second where they hang.
+ServicesAtStart lookAtServices();
 
 /// The one door. Defined in exactly one folder below this one; the build picks the folder. Needs a
-/// QGuiApplication on that desktop.
-Platform makePlatform();
+/// QGuiApplication on that desktop. Services that are not known to be prompt are waited for a
+/// moment, and hidden from whoever would wait longer.
+Platform makePlatform(bool areServicesPrompt = false);
 
 /// What remains where nothing is shown: from `desktop` to `files`; the rest is null.
 Platform makePlatformWithoutDisplay();

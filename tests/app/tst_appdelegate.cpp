@@ -10,6 +10,7 @@
 #include <QWindow>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 /// The launch and what follows it, among fakes.
 class AppDelegateTest : public QObject {
@@ -20,6 +21,8 @@ private Q_SLOTS:
     void cleanup() { m_quib.reset(); }
 
     void launch_goesInOrder();
+    void services_areReachedOnceAfterTheFirstFrame();
+    void panelThatDrawsNothing_reachesThemAllTheSame();
     void fileThatDoesNotAnswer_holdsUpNoLaunch();
     void secondStart_opensPinsAndTakesTheKeyboard();
     void screensChanged_movesThePanelAndMeasuresTheNotch();
@@ -48,6 +51,31 @@ void AppDelegateTest::launch_goesInOrder()
              (QStringList{u"reload shortcuts"_s, u"adopt"_s, u"place at 580,0"_s,
                           u"let clicks through"_s, u"order front"_s, u"first frame"_s,
                           u"install status item"_s}));
+}
+
+void AppDelegateTest::services_areReachedOnceAfterTheFirstFrame()
+{
+    m_quib->delegate.applicationDidFinishLaunching(std::make_unique<quib::PanelEngine>());
+    QCOMPARE(m_quib->shell.reached, 0);
+
+    QGuiApplication::allWindows().constFirst()->show();
+    QTRY_COMPARE(m_quib->shell.reached, 1);
+    m_quib->hands.advance(1min);
+
+    QCOMPARE(m_quib->shell.reached, 1);
+    QCOMPARE(m_quib->shell.asked.count(u"install status item"_s), 1);
+}
+
+/// As one does that a locker covers, or that no screen shows.
+void AppDelegateTest::panelThatDrawsNothing_reachesThemAllTheSame()
+{
+    m_quib->delegate.applicationDidFinishLaunching(std::make_unique<quib::PanelEngine>());
+
+    m_quib->hands.advance(1s);
+    m_quib->delegate.applicationDidShow();
+
+    QCOMPARE(m_quib->shell.reached, 1);
+    QCOMPARE(m_quib->shell.asked.count(u"install status item"_s), 1);
 }
 
 void AppDelegateTest::fileThatDoesNotAnswer_holdsUpNoLaunch()

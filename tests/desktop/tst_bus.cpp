@@ -95,7 +95,7 @@ void BusTest::back_aSecondStartIsHeard()
 {
     Desk desk;
     const auto quib = desk.startQuib();
-    QVERIFY(desk.isOnBus(OwnName));
+    QTRY_VERIFY_WITH_TIMEOUT(desk.isOnBus(OwnName), 10'000);
 
     desk.killBus();
     desk.startBus();
@@ -110,6 +110,7 @@ void BusTest::hung_thePanelWorksAndQuits()
 {
     Desk desk;
     const auto quib = desk.startQuib();
+    QTRY_VERIFY_WITH_TIMEOUT(desk.isOnBus(OwnName), 10'000); // Reached after the first frame.
 
     desk.hangBus();
 

@@ -34,6 +34,7 @@ struct SlowStart {
         file = std::make_unique<HungFile>(folder.file());
         store = std::make_unique<Store>(
             Store::Surroundings{.clock = hands.clock(), .schedule = hands.scheduler()});
+        store->beginLoading();
     }
 
     /// Answers once somebody waits for the file, while this thread does what it likes.
@@ -58,11 +59,13 @@ private Q_SLOTS:
     void fileThatDoesNotAnswer_holdsNothingUp();
     void runningTimer_isToldOnceItIsKnown();
     void noRunningTimer_isNothingToTell();
+    void noThread_theFirstQuestionReads();
     void question_waitsForTheFile_data();
     void question_waitsForTheFile();
     void changeBeforeTheAnswer_keepsWhatTheFileHolds_data();
     void changeBeforeTheAnswer_keepsWhatTheFileHolds();
     void quitBeforeTheAnswer_writesNothing();
+    void fileThatDoesNotAnswer_doesNotHoldUpTheEnd();
     void applications_areLookedForBesideTheStart();
 };
 
@@ -105,6 +108,21 @@ void StoreStartTest::noRunningTimer_isNothingToTell()
     QCOMPARE(start.store->notes(), u"before"_s);
     QCoreApplication::processEvents();
     QVERIFY(told.isEmpty());
+}
+
+void StoreStartTest::noThread_theFirstQuestionReads()
+{
+    const DataFolderForTest folder;
+    folder.put(quib::encodeQuibData(timed()).value());
+    Store store;
+
+    QVERIFY(!store.hasRunningEntry());
+    QCOMPARE(store.data(), timed());
+    folder.put(quib::encodeQuibData({.notes = u"of another"_s}).value());
+    store.beginLoading(); // Too late: nothing is read again.
+
+    QVERIFY(store.hasRunningEntry());
+    QCOMPARE(store.data(), timed());
 }
 
 void StoreStartTest::question_waitsForTheFile_data()
@@ -188,6 +206,16 @@ void StoreStartTest::quitBeforeTheAnswer_writesNothing()
     QCOMPARE(quib::decodeQuibData(start.folder.bytes()), std::optional(timed()));
 }
 
+void StoreStartTest::fileThatDoesNotAnswer_doesNotHoldUpTheEnd()
+{
+    SlowStart start;
+    QTRY_VERIFY(start.file->isWaitedFor());
+
+    start.store.reset(); // Runs into the time limit where it waits.
+
+    QVERIFY(start.file->isHung());
+}
+
 void StoreStartTest::applications_areLookedForBesideTheStart()
 {
     const DataFolderForTest folder;
@@ -197,7 +225,8 @@ void StoreStartTest::applications_areLookedForBesideTheStart()
         return std::optional(u"/opt/"_s + name);
     };
 
-    const Store store({.findApplication = slowly}); // Runs into the time limit where it waits.
+    Store store({.findApplication = slowly});
+    store.beginLoading(); // Runs into the time limit where it waits.
     found.release(100);
 
     QCOMPARE(store.data().launch.back().target, u"/opt/WhatsApp"_s);

@@ -154,6 +154,7 @@ void RunningTimerTest::storeThatStillLoads_isNotWaitedFor()
     HungFile file(folder.file());
     QVERIFY(file.isHung());
     Store store;
+    store.beginLoading();
     RunningTimer timer;
 
     timer.setStore(&store);

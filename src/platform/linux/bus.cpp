@@ -72,7 +72,7 @@ bool answersWithin(std::chrono::milliseconds patience, const QString& address)
     return isAnswered;
 }
 
-Bus::Bus(QString address)
+Bus::Bus(QString address, Reach reach)
     : m_address(withoutId(std::move(address)))
     , m_connection(NoConnection)
 {
@@ -81,7 +81,9 @@ Bus::Bus(QString address)
     }
     m_wait = std::make_unique<BusWait>(m_address);
     connect(m_wait.get(), &BusWait::isWorthATry, this, &Bus::reach);
-    reach();
+    if (reach == Reach::Now) {
+        attempt();
+    }
 }
 
 Bus::~Bus()
@@ -95,6 +97,7 @@ Bus::~Bus()
 
 bool Bus::wait(std::chrono::milliseconds patience)
 {
+    reach();
     if (m_attempt && m_attempt->wait(QDeadlineTimer(patience))) {
         takeConnection();
     }
@@ -102,9 +105,9 @@ bool Bus::wait(std::chrono::milliseconds patience)
 }
 
 /// Qt's own thread would wait for a bus that hangs, and with it whoever uses any bus.
-void Bus::reach()
+void Bus::attempt()
 {
-    if (m_attempt || isConnected()) {
+    if (!m_wait || m_attempt || isConnected()) {
         return;
     }
     m_name = u"quib "_s + QUuid::createUuid().toString(QUuid::Id128);

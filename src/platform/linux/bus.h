@@ -24,8 +24,10 @@ class Bus : public QObject {
     Q_OBJECT
 
 public:
-    /// None where the address is empty.
-    explicit Bus(QString address);
+    enum class Reach { Now, Later };
+
+    /// None where the address is empty. One that is reached later needs a call of reach().
+    explicit Bus(QString address, Reach reach = Reach::Now);
     ~Bus() override;
     Bus(const Bus&) = delete;
     Bus& operator=(const Bus&) = delete;
@@ -33,6 +35,8 @@ public:
     /// Not connected while there is none.
     const QDBusConnection& connection() const { return m_connection; }
     bool isConnected() const { return m_connection.isConnected(); }
+    /// Begins to connect, unless that is under way or done.
+    virtual void reach() { attempt(); }
     /// Until it is connected, or the attempt that is under way has failed; true where it is. For
     /// those who can do nothing without.
     bool wait(std::chrono::milliseconds patience);
@@ -48,7 +52,7 @@ private Q_SLOTS:
     void lose();
 
 private: // NOLINT(readability-redundant-access-specifiers): ends the slots
-    void reach();
+    void attempt();
     void takeConnection();
 
     QString m_address;

@@ -112,14 +112,17 @@ WindowSystem chooseWindowSystem()
     return chooseWindowSystem(lookAround());
 }
 
-std::unique_ptr<QObject> hideWhatHangs()
+ServicesAtStart lookAtServices()
 {
-    return hideHungSessionBus();
+    const auto bus = lookAtSessionBus();
+    return {.hidden = bus.isThere ? nullptr : hideSessionBus(), .arePrompt = bus.isPrompt};
 }
 
-Platform makePlatform()
+Platform makePlatform(bool areServicesPrompt)
 {
-    const auto bus = std::make_shared<SessionBus>();
+    const auto bus = std::make_shared<SessionBus>(areServicesPrompt ? SessionBus::State::Prompt
+                                                                    : SessionBus::State::Unknown);
+    const auto systemBus = std::make_shared<Bus>(systemBusAddress(), Bus::Reach::Later);
     auto platform = makeSeamsWithoutDisplay(bus);
     const auto isWayland = QGuiApplication::platformName().startsWith("wayland"_L1);
     if (isWayland) {
@@ -130,8 +133,7 @@ Platform makePlatform()
         showOnX(platform);
     }
     platform.instance = std::make_unique<LinuxInstance>(bus);
-    platform.sessionLock
-        = std::make_unique<DesktopLock>(bus, std::make_shared<Bus>(systemBusAddress()));
+    platform.sessionLock = std::make_unique<DesktopLock>(bus, systemBus);
     platform.statusItem = std::make_unique<StatusNotifier>(bus);
     platform.loginItem = std::make_unique<AutostartEntry>();
     platform.quitSignals = std::make_unique<QuitSignals>();
@@ -140,7 +142,13 @@ Platform makePlatform()
     }
     platform.enterBackground = enterBackground;
     platform.trimMemory = trimMemory;
-    awaitReaders(*bus);
+    platform.reachServices = [bus, systemBus] {
+        bus->reach();
+        systemBus->reach();
+    };
+    if (!areServicesPrompt) {
+        awaitReaders(*bus);
+    }
     return platform;
 }
 

@@ -30,6 +30,9 @@ private Q_SLOTS:
     void noAddress_isNeverConnected();
     void environment_namesTheBus();
     void environment_tellsOthersOfNoBusThatDoesNotAnswer();
+    void promptBus_isShownToOthersUntilItIsReached();
+    void promptBus_isReachedByWhoeverWaits();
+    void look_tellsAPromptBusFromAHungOne();
     void pauses_growAndAreBounded();
 
 private:
@@ -212,6 +215,46 @@ void SessionBusTest::environment_tellsOthersOfNoBusThatDoesNotAnswer()
     m_bus->goOn();
     QTRY_VERIFY(bus.isConnected());
     QCOMPARE(QString::fromUtf8(qgetenv("DBUS_SESSION_BUS_ADDRESS")), m_bus->address());
+}
+
+void SessionBusTest::promptBus_isShownToOthersUntilItIsReached()
+{
+    QVERIFY(m_bus->start());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus->address().toUtf8());
+
+    SessionBus bus(SessionBus::State::Prompt);
+
+    QCOMPARE(QString::fromUtf8(qgetenv("DBUS_SESSION_BUS_ADDRESS")), m_bus->address());
+    QVERIFY(!bus.isConnected());
+    bus.reach();
+    bus.reach(); // Under way.
+    QCOMPARE(qgetenv("DBUS_SESSION_BUS_ADDRESS"), "disabled:"_ba);
+    QTRY_VERIFY(bus.isConnected());
+    QCOMPARE(QString::fromUtf8(qgetenv("DBUS_SESSION_BUS_ADDRESS")), m_bus->address());
+}
+
+void SessionBusTest::promptBus_isReachedByWhoeverWaits()
+{
+    QVERIFY(m_bus->start());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus->address().toUtf8());
+
+    SessionBus bus(SessionBus::State::Prompt);
+
+    QVERIFY(bus.wait(10s));
+}
+
+void SessionBusTest::look_tellsAPromptBusFromAHungOne()
+{
+    QVERIFY(m_bus->start());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus->address().toUtf8());
+
+    QTRY_VERIFY(lookAtSessionBus().isPrompt); // Unless this machine is busy.
+    QVERIFY(lookAtSessionBus().isThere);
+    m_bus->hang();
+
+    QVERIFY(!lookAtSessionBus().isPrompt);
+    QVERIFY(!lookAtSessionBus().isThere);
+    m_bus->goOn();
 }
 
 void SessionBusTest::pauses_growAndAreBounded()
