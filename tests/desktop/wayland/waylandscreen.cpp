@@ -101,7 +101,7 @@ void WaylandDesk::showTab(int number) const
 
 void WaylandDesk::openWithPointer() const
 {
-    moveTo(Notch);
+    glideTo(Notch);
     waitForExpanded(true);
     moveTo(InTheCard);
 }
