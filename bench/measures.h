@@ -32,7 +32,8 @@ void measureRedraws(int seconds, Words commands);
 void measureHover(int rounds, Words commands);
 
 /// Milliseconds from the pointer on the notch of a program that was never opened to the first
-/// change below it: median.
+/// change below it, and of the longest gap between the frames after that, in which the card is
+/// built: medians.
 void measureFirst(int rounds, Words commands);
 
 /// Milliseconds from a key to the first change in the text field: median and 99 in 100.

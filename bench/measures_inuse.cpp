@@ -1,6 +1,7 @@
 #include "measures.h"
 
 #include "desk.h"
+#include "hands.h"
 #include "program.h"
 
 #include <cstdio>
@@ -15,19 +16,10 @@ using std::this_thread::sleep_for;
 
 namespace {
 
-constexpr uint32_t LetterX = 'x';
-constexpr uint32_t Backspace = 0xff08;
-constexpr uint32_t Return = 0xff0d;
-
 /// At another scale things are farther from the middle of the screen's top edge.
 Point scaled(Point point, int scale)
 {
     return {.x = 800 + (point.x - 800) * scale, .y = point.y * scale};
-}
-
-Point tabButton(int number)
-{
-    return {.x = 450 + 42 + 15 + 32 * number, .y = 23};
 }
 
 /// A little while of chance, so that rounds meet a poll at any moment of its tick.
@@ -51,40 +43,6 @@ double expandOnce(Screen& screen)
     return Milliseconds(changed - begin).count();
 }
 
-double typeOnce(Screen& screen, uint32_t symbol)
-{
-    const auto text = [&] { return screen.picture(FieldCorner, 240, 20); };
-    const auto before = text();
-    const auto begin = steady_clock::now();
-    screen.pressKey(symbol);
-    const auto changed = screen.waitUntil("the letter", [&] { return text() != before; });
-    return Milliseconds(changed - begin).count();
-}
-
-void visitTab(Screen& screen, int number)
-{
-    const auto before = screen.pixel(InTheCard);
-    screen.moveTo(Notch);
-    screen.waitUntil("the card", [&] { return screen.pixel(InTheCard) != before; });
-    screen.click(tabButton(number % TabCount));
-    sleep_for(30ms);
-    screen.moveTo(FarAway);
-    screen.waitUntil("the collapse", [&] { return screen.pixel(BelowTheNotch) == before; });
-}
-
-/// Brings the keyboard into the field for new tasks.
-void openTaskField(Screen& screen)
-{
-    for (const auto point : {Notch, tabButton(TasksTab), Field}) {
-        screen.moveTo(point);
-        sleep_for(SprungBack);
-        screen.click(point);
-        sleep_for(SprungBack);
-    }
-    screen.lendKeyboard();
-    sleep_for(SprungBack);
-}
-
 /// The gaps between the frames of one expansion, while the spring moves fast.
 Samples frameGaps(Screen& screen)
 {
@@ -97,6 +55,15 @@ Samples frameGaps(Screen& screen)
         }
     }
     return gaps;
+}
+
+/// What is measured of a program that was never opened.
+template <typename Measure>
+auto firstTime(Screen& screen, const char* command, Measure measure)
+{
+    const RestingProgram program(screen, command);
+    waitByChance();
+    return measure(screen);
 }
 
 void leave(Screen& screen, int scale, uint32_t empty)
@@ -120,10 +87,8 @@ void expandTo(Screen& screen, Point button)
 void measureHover(int rounds, Words commands)
 {
     Screen screen;
-    screen.moveTo(FarAway);
     for (const auto* command : commands) {
-        const Program program(command);
-        sleep_for(Settled);
+        const RestingProgram program(screen, command);
         const auto first = expandOnce(screen);
         Samples samples;
         for (int round = 0; round < rounds; ++round) {
@@ -137,65 +102,14 @@ void measureHover(int rounds, Words commands)
 void measureFirst(int rounds, Words commands)
 {
     Screen screen;
-    screen.moveTo(FarAway);
     for (const auto* command : commands) {
         Samples samples;
+        Samples gaps;
         for (int round = 0; round < rounds; ++round) {
-            const Program program(command);
-            sleep_for(Settled);
-            waitByChance();
-            samples.push_back(expandOnce(screen));
+            samples.push_back(firstTime(screen, command, expandOnce));
+            gaps.push_back(percentile(firstTime(screen, command, frameGaps), 1));
         }
-        std::printf("%.1f\n", percentile(samples, 0.5));
-    }
-}
-
-void measureTabs(int rounds, Words commands)
-{
-    Screen screen;
-    screen.moveTo(FarAway);
-    for (const auto* command : commands) {
-        Samples dirty;
-        for (int round = 0; round < rounds; ++round) {
-            const Program program(command);
-            sleep_for(Settled);
-            for (int number = 0; number < TabCount; ++number) {
-                visitTab(screen, number);
-                sleep_for(SprungBack);
-            }
-            sleep_for(PutAway);
-            dirty.push_back(static_cast<double>(memoryOf(program.process()).privateDirty));
-        }
-        std::printf("%.0f\n", percentile(dirty, 0.5));
-    }
-}
-
-void measureSave(int rounds, Words commands)
-{
-    Screen screen;
-    for (const auto* command : commands) {
-        Samples before;
-        Samples after;
-        for (int round = 0; round < rounds; ++round) {
-            screen.moveTo(FarAway);
-            const Program program(command);
-            sleep_for(Settled);
-            openTaskField(screen);
-            typeOnce(screen, LetterX);
-            screen.moveTo(FarAway);
-            sleep_for(PutAway);
-            before.push_back(static_cast<double>(memoryOf(program.process()).resident));
-            screen.moveTo(Notch);
-            sleep_for(SprungBack);
-            screen.click(Field);
-            screen.lendKeyboard();
-            screen.pressKey(Return);
-            sleep_for(Settled);
-            screen.moveTo(FarAway);
-            sleep_for(PutAway);
-            after.push_back(static_cast<double>(memoryOf(program.process()).resident));
-        }
-        std::printf("%.0f %.0f\n", percentile(before, 0.5), percentile(after, 0.5));
+        std::printf("%.1f %.1f\n", percentile(samples, 0.5), percentile(gaps, 0.5));
     }
 }
 
@@ -203,9 +117,7 @@ void measureKeys(int rounds, Words commands)
 {
     Screen screen;
     for (const auto* command : commands) {
-        screen.moveTo(FarAway);
-        const Program program(command);
-        sleep_for(Settled);
+        const RestingProgram program(screen, command);
         openTaskField(screen);
         Samples samples;
         for (int round = 0; round < rounds; ++round) {
@@ -217,32 +129,10 @@ void measureKeys(int rounds, Words commands)
     }
 }
 
-void measureExpansions(int count, Words commands)
-{
-    Screen screen;
-    for (const auto* command : commands) {
-        screen.moveTo(FarAway);
-        const Program program(command);
-        sleep_for(Settled);
-        Memory early;
-        for (int number = 1; number <= count; ++number) {
-            visitTab(screen, number);
-            if (number == std::min(count, 100)) {
-                sleep_for(Settled);
-                early = memoryOf(program.process());
-            }
-        }
-        sleep_for(Settled);
-        std::printf("%ld %ld\n", early.privateDirty, memoryOf(program.process()).privateDirty);
-    }
-}
-
 void measureSpring(int rounds, int scale, Words commands)
 {
     Screen screen;
-    screen.moveTo(FarAway);
-    const Program program(commands.front());
-    sleep_for(Settled);
+    const RestingProgram program(screen, commands.front());
     const auto empty = screen.pixel(scaled(BelowTheNotch, scale));
     for (int tab = 0; tab < TabCount; ++tab) {
         expandTo(screen, scaled(tabButton(tab), scale));
