@@ -4,6 +4,7 @@
 #include "platform/linux/x11/xserver.h"
 
 #include <QTransform>
+#include <QtMath>
 
 namespace quib {
 
@@ -21,11 +22,19 @@ QRegion toPixels(const QRegion& points, double scale)
     return pixels;
 }
 
+/// A pixel belongs to it where its middle does. Filled so much finer, for a region's curves are
+/// lines between whole numbers, which is seen in its corners.
 QRegion toPixels(const QPainterPath& points, double scale)
 {
+    constexpr double Finer = 8;
+    const auto pixelFrom = [](double edge) { return qCeil(edge / Finer - 0.5); };
     QRegion pixels;
-    for (const auto& polygon : points.toFillPolygons(QTransform::fromScale(scale, scale))) {
-        pixels += QRegion(polygon.toPolygon(), points.fillRule());
+    for (const auto& polygon :
+         points.toFillPolygons(QTransform::fromScale(scale * Finer, scale * Finer))) {
+        for (const QRectF fine : QRegion(polygon.toPolygon(), points.fillRule())) {
+            pixels += QRect(QPoint(pixelFrom(fine.left()), pixelFrom(fine.top())),
+                            QPoint(pixelFrom(fine.right()) - 1, pixelFrom(fine.bottom()) - 1));
+        }
     }
     return pixels;
 }

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void cleanup() { m_panel.reset(); }
     void visibleShape_withoutCompositor_boundsTheWindow();
     void visibleShape_followsThePath();
+    void visibleShape_isRoundInItsCorners();
     void visibleShape_thatGrows_isNotToldOfAsUnpainted();
     void visibleShape_untold_leavesTheWindowWhole();
     void visibleShape_comesAndGoesWithTheCompositor_data();
@@ -69,6 +70,30 @@ void XcbPanelShapeTest::visibleShape_followsThePath()
     m_panel->host.setVisibleShape(pathOf({20, 0, 40, 20}));
 
     QTRY_COMPARE(m_panel->boundingShape(), QRegion(m_panel->scaled({20, 0, 40, 20})));
+}
+
+void XcbPanelShapeTest::visibleShape_isRoundInItsCorners()
+{
+    constexpr double Radius = 26;
+    constexpr double Rounding = 0.15; // Of the edge, in pixels.
+    QPainterPath path;
+    path.addRoundedRect(QRectF(10, -26, 200, 126), Radius, Radius);
+    m_panel->host.setVisibleShape(path);
+    m_panel->show();
+    const auto scale = m_panel->scale;
+    const QRectF corner(10, 100 - Radius, Radius, Radius);
+
+    const auto shape = m_panel->boundingShape();
+    const auto box = m_panel->scaled(corner.toRect());
+    for (int y = box.top(); y <= box.bottom(); ++y) {
+        for (int x = box.left(); x <= box.right(); ++x) {
+            const auto middle = QPointF(x + 0.5, y + 0.5) / scale - corner.topRight();
+            const auto inside = (Radius - std::hypot(middle.x(), middle.y())) * scale;
+            if (std::abs(inside) > Rounding) {
+                QCOMPARE(shape.contains(QPoint(x, y)), inside > 0);
+            }
+        }
+    }
 }
 
 void XcbPanelShapeTest::visibleShape_thatGrows_isNotToldOfAsUnpainted()
