@@ -65,6 +65,8 @@ void measure(std::string_view what, Words words)
         measureKeys(number(0), words.subspan(1));
     } else if (what == "expansions") {
         measureExpansions(number(0), words.subspan(1));
+    } else if (what == "shapes") {
+        measureShapes(number(0), words.subspan(1));
     } else if (what == "spring") {
         measureSpring(number(0), number(1), words.subspan(2));
     } else {

@@ -48,6 +48,10 @@ void measureTabs(int rounds, Words commands);
 /// KiB resident before a task is added, and after that has been saved.
 void measureSave(int rounds, Words commands);
 
+/// While the card opens: how often the window is told to be drawn in another shape, a frame on
+/// average and at most.
+void measureShapes(int rounds, Words commands);
+
 /// For each tab: frames a second while the card springs open, the longest gap between two of them,
 /// and how many gaps of how many are longer than 33 ms.
 void measureSpring(int rounds, int scale, Words commands);

@@ -129,6 +129,26 @@ void measureKeys(int rounds, Words commands)
     }
 }
 
+void measureShapes(int rounds, Words commands)
+{
+    Screen screen;
+    for (const auto* command : commands) {
+        const RestingProgram program(screen, command);
+        expandOnce(screen);
+        Samples shapes;
+        for (int round = 0; round < rounds; ++round) {
+            screen.moveTo(Notch);
+            for (const auto& redraw : screen.redrawsWithin(SprungBack)) {
+                shapes.push_back(redraw.shapes);
+            }
+            screen.moveTo(FarAway);
+            sleep_for(SprungBack);
+        }
+        const auto sum = std::accumulate(shapes.begin(), shapes.end(), 0.0);
+        std::printf("%.2f %.0f\n", sum / static_cast<double>(shapes.size()), percentile(shapes, 1));
+    }
+}
+
 void measureSpring(int rounds, int scale, Words commands)
 {
     Screen screen;

@@ -1,11 +1,14 @@
 #include "screen.h"
 
+#include <xcb/shape.h>
 #include <xcb/xtest.h>
 
 #include <algorithm>
 #include <cstdlib>
+#include <span>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include <poll.h>
 
@@ -41,6 +44,7 @@ Screen::Screen()
         throw std::runtime_error("the X server has no DAMAGE");
     }
     m_damageEvent = damage->first_event;
+    m_shapeEvent = xcb_get_extension_data(connection, &xcb_shape_id)->first_event;
     own(xcb_damage_query_version_reply(connection, xcb_damage_query_version(connection, 1, 1),
                                        nullptr));
     const uint32_t notBlack = 0x406080;
@@ -91,14 +95,17 @@ std::vector<Redraw> Screen::redrawsWithin(std::chrono::milliseconds time)
 {
     std::vector<Redraw> redraws;
     const auto deadline = std::chrono::steady_clock::now() + time;
+    watchShapes();
     const auto damage = watchDrawing(XCB_DAMAGE_REPORT_LEVEL_RAW_RECTANGLES);
     nextDrawing(deadline); // The first tells of the whole screen as it is.
+    m_shapes = 0;
     while (const auto drawing = nextDrawing(deadline)) {
         const std::chrono::milliseconds now(drawing->timestamp);
         if (redraws.empty() || now - redraws.back().time >= OneFrame) {
             redraws.push_back({.time = now});
         }
         redraws.back().pixels += drawing->area.width * drawing->area.height;
+        redraws.back().shapes += std::exchange(m_shapes, 0);
     }
     xcb_damage_destroy(m_connection.get(), damage);
     xcb_flush(m_connection.get());
@@ -150,6 +157,20 @@ xcb_damage_damage_t Screen::watchDrawing(xcb_damage_report_level_t level)
     return damage;
 }
 
+void Screen::watchShapes()
+{
+    auto* connection = m_connection.get();
+    const auto tree
+        = own(xcb_query_tree_reply(connection, xcb_query_tree(connection, m_root), nullptr));
+    if (!tree) {
+        throw std::runtime_error("the X server is gone");
+    }
+    const auto count = std::size_t(xcb_query_tree_children_length(tree.get()));
+    for (const auto window : std::span(xcb_query_tree_children(tree.get()), count)) {
+        xcb_shape_select_input(connection, window, 1);
+    }
+}
+
 /// The next drawing of which the server tells before the deadline.
 std::optional<Screen::Drawing> Screen::nextDrawing(Instant deadline)
 {
@@ -157,8 +178,13 @@ std::optional<Screen::Drawing> Screen::nextDrawing(Instant deadline)
     xcb_flush(connection);
     while (true) {
         while (const auto event = own(xcb_poll_for_event(connection))) {
-            if ((event->response_type & 0x7f) == m_damageEvent) {
+            const auto type = event->response_type & 0x7f;
+            if (type == m_damageEvent) {
                 return *reinterpret_cast<const Drawing*>(event.get());
+            }
+            if (type == m_shapeEvent) {
+                const auto* shape = reinterpret_cast<const xcb_shape_notify_event_t*>(event.get());
+                m_shapes += shape->shape_kind == XCB_SHAPE_SK_BOUNDING ? 1 : 0;
             }
         }
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(

@@ -21,6 +21,7 @@ struct Point {
 struct Redraw {
     std::chrono::milliseconds time{0}; ///< The server's.
     int pixels = 0;
+    int shapes = 0; ///< How often windows were told to be drawn in another shape.
 };
 
 /// An X screen that is looked at and acted on as a user would. Looking costs the server nothing
@@ -36,7 +37,8 @@ public:
     /// When the condition came to hold. It is looked at now and after each drawing; throws when it
     /// does not come true in half a minute.
     Instant waitUntil(const char* what, const std::function<bool()>& isSo);
-    /// What is drawn from now on until the time is over.
+    /// What is drawn from now on until the time is over. Shapes are counted of windows that exist
+    /// now.
     std::vector<Redraw> redrawsWithin(std::chrono::milliseconds time);
 
     void moveTo(Point point);
@@ -53,6 +55,7 @@ private:
     };
 
     xcb_damage_damage_t watchDrawing(xcb_damage_report_level_t level);
+    void watchShapes();
     std::optional<Drawing> nextDrawing(Instant deadline);
     void fake(uint8_t type, uint8_t detail, Point point = {});
     uint8_t keyFor(uint32_t symbol) const;
@@ -60,4 +63,6 @@ private:
     std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
     xcb_window_t m_root = 0;
     uint8_t m_damageEvent = 0;
+    uint8_t m_shapeEvent = 0;
+    int m_shapes = 0; ///< Told of since the latest drawing.
 };
