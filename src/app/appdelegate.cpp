@@ -3,6 +3,7 @@
 #include "app/notchpanel.h"
 #include "app/panelengine.h"
 #include "shortcuts/shortcuts.h"
+#include "views/unseen.h"
 
 #include <QRegion>
 
@@ -15,7 +16,8 @@ namespace quib {
 namespace {
 
 constexpr auto LatestShow = 1s; // A panel that lies below a locker or on no screen draws nothing.
-constexpr auto TrimDelay = 3s; // Nobody goes to and fro any more.
+constexpr auto LettingGoDelay = 2s; // Nobody goes to and fro any more.
+constexpr auto TrimDelay = 1s; // A frame after that has freed what was let go of.
 
 } // namespace
 
@@ -106,12 +108,15 @@ void AppDelegate::layout()
     followHoverRect();
 }
 
-/// Starting and building views leave holes behind.
+/// The closed card has pictures; starting and building views leave holes behind.
 void AppDelegate::trimMemoryLater()
 {
-    m_trimWork = m_schedule(TrimDelay, [this] {
-        m_trimWork.reset();
-        m_platform.trimMemory();
+    m_trimWork = m_schedule(LettingGoDelay, [this] {
+        Unseen::letGo(m_panel->contentItem());
+        m_trimWork = m_schedule(TrimDelay, [this] {
+            m_trimWork.reset();
+            m_platform.trimMemory();
+        });
     });
 }
 

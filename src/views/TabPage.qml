@@ -19,7 +19,7 @@ LazyView {
     shown: root.model.isExpanded && root.isSelected
     focus: root.isSelected
 
-    // Not when the card closes: it opens with this tab again. Another may be selected while it is closed.
+    // Not at once when the card closes: it opens with this tab again. Another may be selected meanwhile.
     onVisibleChanged: if (!root.isSelected) Unseen.letGo(root)
     onIsSelectedChanged: if (!root.isSelected && !root.visible) Unseen.letGo(root)
 }

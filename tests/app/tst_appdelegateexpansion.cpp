@@ -1,5 +1,7 @@
 #include "support/delegatefortest.h"
+#include "views/rasteritem.h"
 
+#include <QQuickWindow>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -7,6 +9,24 @@ using namespace std::chrono_literals;
 using quib::CalendarAuthorization;
 using quib::Player;
 using quib::Tab;
+
+namespace {
+
+class CountedPicture : public quib::RasterItem {
+public:
+    using RasterItem::RasterItem;
+
+    mutable int made = 0;
+
+protected:
+    QImage picture(double /*pixelsPerPoint*/) const override
+    {
+        ++made;
+        return QImage(1, 1, QImage::Format_ARGB32_Premultiplied);
+    }
+};
+
+} // namespace
 
 /// What the panel does beside growing and shrinking when it expands and collapses, among fakes.
 class AppDelegateExpansionTest : public QObject {
@@ -22,6 +42,7 @@ private Q_SLOTS:
     void expansion_readsTheDayAnew();
     void hoverRect_isToldInTheWindow();
     void closedForAWhile_givesMemoryBack();
+    void closedForAWhile_letsGoOfPictures();
     void unpinned_aPointerThatRestsElsewhere_collapses();
 
 private:
@@ -98,6 +119,30 @@ void AppDelegateExpansionTest::closedForAWhile_givesMemoryBack()
 
     m_quib->hands.advance(10s);
     QCOMPARE(trimmed, 1);
+}
+
+void AppDelegateExpansionTest::closedForAWhile_letsGoOfPictures()
+{
+    auto& delegate = m_quib->launched();
+    auto& panel = *qobject_cast<QQuickWindow*>(QGuiApplication::allWindows().constFirst());
+    CountedPicture picture;
+    picture.setParentItem(panel.contentItem());
+    delegate.expand(false);
+    panel.grabWindow();
+    picture.setVisible(false);
+    delegate.collapse(true);
+    m_quib->hands.advance(1s);
+    panel.grabWindow();
+    picture.setVisible(true);
+    panel.grabWindow();
+    QCOMPARE(picture.made, 1); // It may be wanted again at once.
+
+    picture.setVisible(false);
+    m_quib->hands.advance(10s);
+    panel.grabWindow();
+    picture.setVisible(true);
+    panel.grabWindow();
+    QCOMPARE(picture.made, 2);
 }
 
 void AppDelegateExpansionTest::hoverRect_isToldInTheWindow()
