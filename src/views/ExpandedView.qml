@@ -23,7 +23,8 @@ FocusScope {
     required property Commands commands
     required property SpringValue spring
 
-    visible: root.opacity > 0
+    // The first frame is the growing notch's alone: so faint it is not seen. But keys find it at once.
+    visible: root.opacity > (root.Window.active ? 0 : 0.1)
     transformOrigin: Item.Top
 
     Keys.onEscapePressed: event => root.leaveByKey(event)

@@ -9,6 +9,21 @@ using namespace Qt::StringLiterals;
 using quib::Brand;
 using quib::Tab;
 
+namespace {
+
+/// The card of a panel that is closed again, its springs free to move.
+QQuickItem* openedOnce(ShownPanel& panel)
+{
+    panel.open(Tab::Home);
+    panel.model.setExpanded(false);
+    auto* card = panel.item(u"expandedView"_s);
+    [[maybe_unused]] const bool isGone = QTest::qWaitFor([&] { return !card->isVisible(); });
+    panel.model.setMotionReduced(false);
+    return card;
+}
+
+} // namespace
+
 /// The notch, the card and what lies on every card, read from the live items.
 class RootViewTest : public QObject {
     Q_OBJECT
@@ -22,6 +37,8 @@ private Q_SLOTS:
     void outline();
     void spring_isTheOneOfTheTransition();
     void springFromTheCollapsedNotch_growsAtOnce();
+    void firstFrame_isOfTheNotchAlone();
+    void firstFrame_ofAPanelThatHasTheKeyboard_hasTheCard();
     void cardIsBuiltWhenFirstOpened();
     void topBar_isAsHighAsTheNotchButThirtyAtLeast();
     void contentsLeave_byFadingOut();
@@ -111,6 +128,33 @@ void RootViewTest::springFromTheCollapsedNotch_growsAtOnce()
     QVERIFY(panel.rect(u"shape"_s).width() < 400);
 
     QTRY_COMPARE(panel.rect(u"shape"_s), QRectF(30, 0, 700, 290));
+}
+
+void RootViewTest::firstFrame_isOfTheNotchAlone()
+{
+    ShownPanel panel;
+    const auto* card = openedOnce(panel);
+    QWindow other;
+    other.show();
+    other.requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+
+    panel.model.setExpanded(true);
+    QVERIFY(panel.rect(u"shape"_s).width() > 198);
+    QVERIFY(!card->isVisible());
+
+    QTRY_VERIFY(card->isVisible());
+}
+
+void RootViewTest::firstFrame_ofAPanelThatHasTheKeyboard_hasTheCard()
+{
+    ShownPanel panel;
+    const auto* card = openedOnce(panel);
+    panel.takeKeyboard();
+
+    panel.model.setExpanded(true);
+
+    QVERIFY(card->isVisible());
 }
 
 void RootViewTest::cardIsBuiltWhenFirstOpened()
