@@ -78,8 +78,11 @@ QString injectionInSave(const QString& call, int number, const QString& what)
     const auto lines = linesOf(log);
     const auto isOfNewFile = [](const QString& line) { return line.contains(u".korvel-quib-"_s); };
     const auto isCall = [&](const QString& line) { return line.contains(u" %1("_s.arg(call)); };
-    const auto before
-        = std::count_if(lines.begin(), std::ranges::find_if(lines, isOfNewFile), isCall);
+    const auto created = std::ranges::find_if(lines, isOfNewFile);
+    if (created == lines.end()) {
+        return {}; // Which strace does not take.
+    }
+    const auto before = std::count_if(lines.begin(), created, isCall);
     return u"%1:%2:when=%3"_s.arg(call, what).arg(before + number);
 }
 
