@@ -19,7 +19,6 @@ LazyView {
     shown: root.model.isExpanded && root.isSelected
     focus: root.isSelected
 
-    // Not at once when the card closes: it opens with this tab again. Another may be selected meanwhile.
+    // Not at once when the card closes: it opens with this tab again.
     onVisibleChanged: if (!root.isSelected) Unseen.letGo(root)
-    onIsSelectedChanged: if (!root.isSelected && !root.visible) Unseen.letGo(root)
 }
