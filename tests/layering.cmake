@@ -42,7 +42,7 @@ foreach(folder IN LISTS folders)
 endforeach()
 
 # The X server is spoken to in one folder only, and so are the Wayland compositor and the calendars' service.
-foreach(only x11=xcb/ wayland=wayland- eds=libecal/)
+foreach(only x11=xcb/ wayland=wayland- calendar/eds=libecal/)
     string(REPLACE "=" ";" only ${only})
     list(GET only 0 folder)
     list(GET only 1 library)

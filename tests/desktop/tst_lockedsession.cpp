@@ -1,5 +1,5 @@
 #include "deskconnection.h"
-#include "platform/linux/privatebus.h"
+#include "platform/linux/base/privatebus.h"
 #include "support/lockservices.h"
 
 #include <QTest>

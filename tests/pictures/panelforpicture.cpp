@@ -2,8 +2,8 @@
 
 #include "app/notchpanel.h"
 #include "model/datafile.h"
-#include "platform/linux/diskprobe.h"
-#include "platform/linux/themeiconsource.h"
+#include "platform/linux/base/diskprobe.h"
+#include "platform/linux/icons/themeiconsource.h"
 #include "shortcuts/shortcuts.h"
 #include "support/writefile.h"
 #include "views/beat.h"

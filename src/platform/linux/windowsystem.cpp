@@ -1,7 +1,7 @@
 #include "platform/linux/windowsystem.h"
 
 #include "platform/linux/wayland/layershell.h"
-#include "platform/linux/x11/xserver.h"
+#include "platform/linux/x11/base/xserver.h"
 
 #include <QList>
 

@@ -1,7 +1,7 @@
 #include "platform/linux/wayland/waylandpanelhost.h"
 
 #include "platform/linux/wayland/qtwayland.h"
-#include "platform/linux/windowpointer.h"
+#include "platform/linux/window/windowpointer.h"
 
 #include <QGuiApplication>
 #include <QPlatformSurfaceEvent>

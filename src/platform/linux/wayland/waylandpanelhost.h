@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/linux/linuxpanelhost.h"
 #include "platform/linux/wayland/keyboardreturn.h"
 #include "platform/linux/wayland/layershell.h"
 #include "platform/linux/wayland/layersurface.h"
+#include "platform/linux/window/linuxpanelhost.h"
 
 #include <QPointer>
 #include <QWindow>

@@ -1,7 +1,7 @@
 #include "platform/linux/wayland/waylandscreensource.h"
 
-#include "platform/linux/screenchanges.h"
 #include "platform/linux/wayland/qtwayland.h"
+#include "platform/linux/window/screenchanges.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -1,6 +1,6 @@
 #include "platform/linux/x11/docks.h"
 
-#include "platform/linux/x11/xserver.h"
+#include "platform/linux/x11/base/xserver.h"
 
 #include <algorithm>
 #include <span>

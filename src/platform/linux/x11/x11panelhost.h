@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/linux/linuxpanelhost.h"
-#include "platform/linux/x11/keyrepeat.h"
-#include "platform/linux/x11/xserver.h"
+#include "platform/linux/window/linuxpanelhost.h"
+#include "platform/linux/x11/base/xserver.h"
+#include "platform/linux/x11/keyboard/keyrepeat.h"
 
 #include <QPointer>
 #include <QWindow>

@@ -1,7 +1,7 @@
 #include "platform/linux/x11/xcbpanelhost.h"
 
+#include "platform/linux/x11/base/xserver.h"
 #include "platform/linux/x11/stacking.h"
-#include "platform/linux/x11/xserver.h"
 
 #include <QTransform>
 #include <QtMath>

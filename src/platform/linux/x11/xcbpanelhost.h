@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/linux/x11/compositorwatch.h"
-#include "platform/linux/x11/keyboardloan.h"
+#include "platform/linux/x11/keyboard/keyboardloan.h"
 #include "platform/linux/x11/stayabove.h"
 #include "platform/linux/x11/windowshape.h"
 #include "platform/linux/x11/x11panelhost.h"

@@ -1,6 +1,6 @@
 #include "platform/linux/x11/xcbpointersource.h"
 
-#include "platform/linux/x11/nativescreen.h"
+#include "platform/linux/x11/base/nativescreen.h"
 #include "platform/linux/x11/pressedge.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/notch/pointersource.h"
-#include "platform/linux/x11/xserver.h"
+#include "platform/linux/x11/base/xserver.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QList>

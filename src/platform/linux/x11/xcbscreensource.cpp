@@ -1,8 +1,8 @@
 #include "platform/linux/x11/xcbscreensource.h"
 
-#include "platform/linux/screenchanges.h"
-#include "platform/linux/x11/nativescreen.h"
-#include "platform/linux/x11/xserver.h"
+#include "platform/linux/window/screenchanges.h"
+#include "platform/linux/x11/base/nativescreen.h"
+#include "platform/linux/x11/base/xserver.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -1,6 +1,6 @@
 #include "platform/linux/x11/xwaylandpanelhost.h"
 
-#include "platform/linux/windowpointer.h"
+#include "platform/linux/window/windowpointer.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/x11/keywindow.h"
+#include "platform/linux/x11/keyboard/keywindow.h"
 #include "platform/linux/x11/x11panelhost.h"
 
 #include <QTimer>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/x11/xserver.h"
+#include "platform/linux/x11/base/xserver.h"
 
 #include <QPoint>
 #include <QRect>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/windowpointer.h"
+#include "platform/linux/window/windowpointer.h"
 #include "platform/linux/x11/otherprogram.h"
 #include "platform/linux/x11/runningprogram.h"
 #include "platform/linux/x11/xwaylandpanelhost.h"

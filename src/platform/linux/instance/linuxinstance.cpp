@@ -1,0 +1,68 @@
+#include "platform/linux/instance/linuxinstance.h"
+
+#include "platform/linux/instance/instancename.h"
+
+#include <utility>
+
+using namespace std::chrono_literals;
+
+namespace quib {
+
+namespace {
+
+constexpr auto PatienceWithoutALock = 1s;
+
+} // namespace
+
+LinuxInstance::LinuxInstance(std::shared_ptr<SessionBus> bus)
+    : m_bus(std::move(bus))
+    , m_service(*m_bus)
+{
+    connect(&m_service, &ActivationService::activated, this, &LinuxInstance::activated);
+    connect(&m_service, &ActivationService::claimed, this, &LinuxInstance::takeAnswer);
+}
+
+bool LinuxInstance::claim(const std::filesystem::path& dataFolder)
+{
+    m_name = instanceName(dataFolder);
+    m_lock = std::make_unique<InstanceLock>(lockName(dataFolder));
+    if (!m_lock->claim()) {
+        m_lock->knock();
+        return false;
+    }
+    if (!m_lock->isHeld() && !claimByNameAlone()) {
+        return false;
+    }
+    connect(m_lock.get(), &InstanceLock::knocked, this, &LinuxInstance::activated);
+    connect(m_bus.get(), &SessionBus::connected, this, &LinuxInstance::takeName);
+    if (m_bus->isConnected()) {
+        takeName();
+    }
+    return true;
+}
+
+bool LinuxInstance::claimByNameAlone()
+{
+    m_bus->wait(PatienceWithoutALock);
+    if (m_service.claim(m_name) != ActivationService::Answer::Taken) {
+        return true;
+    }
+    m_service.activateOther(m_name);
+    return false;
+}
+
+void LinuxInstance::takeName()
+{
+    m_service.startClaim(m_name);
+}
+
+void LinuxInstance::takeAnswer(ActivationService::Answer answer)
+{
+    const bool isFirst = !std::exchange(m_isAnswered, true);
+    if (isFirst && answer == ActivationService::Answer::Taken) {
+        m_service.activateOther(m_name);
+        Q_EMIT superseded();
+    }
+}
+
+} // namespace quib

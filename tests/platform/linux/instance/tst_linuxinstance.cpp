@@ -1,0 +1,293 @@
+#include "model/nativepath.h"
+#include "platform/linux/instance/instancename.h"
+#include "support/sendsignal.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace quib;
+
+namespace {
+
+/// One start of a program that keeps to one instance.
+class Start {
+public:
+    Start(const QString& folder, const QProcessEnvironment& environment)
+    {
+        m_process.setProcessEnvironment(environment);
+        m_process.start(QStringLiteral(INSTANCE_PROGRAM), {folder});
+        m_process.waitForReadyRead(5000);
+        m_answer = QString::fromUtf8(m_process.readLine()).trimmed();
+    }
+
+    ~Start() { crash(); }
+    Start(const Start&) = delete;
+    Start& operator=(const Start&) = delete;
+
+    QString answer() const { return m_answer; }
+
+    qsizetype activations() { return count("activated"); }
+
+    qsizetype count(const QByteArray& word)
+    {
+        m_told += m_process.readAllStandardOutput();
+        return m_told.count(word);
+    }
+
+    void hang() const { sendSignal(m_process.processId(), SIGSTOP); }
+
+    void crash()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+private:
+    QProcess m_process;
+    QString m_answer;
+    QByteArray m_told;
+};
+
+bool isOnBus(const QString& name)
+{
+    return QDBusConnection::sessionBus().interface()->isServiceRegistered(name);
+}
+
+} // namespace
+
+class LinuxInstanceTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void claim_first_isAlone_data();
+    void claim_first_isAlone();
+    void claim_second_activatesTheFirst_data();
+    void claim_second_activatesTheFirst();
+    void claim_otherFolder_isAloneToo_data();
+    void claim_otherFolder_isAloneToo();
+    void claim_afterACrash_isAlone_data();
+    void claim_afterACrash_isAlone();
+    void claim_firstHangs_isRefused_data();
+    void claim_firstHangs_isRefused();
+    void claim_secondHasNoBus_activatesTheFirst();
+    void claim_busDiedMeanwhile_activatesTheFirst();
+    void claim_noRuntimeFolder_activatesTheFirst();
+    void claim_folderOfOthersInTheWay_isAlone();
+    void claim_otherFolderForLocks_isSuperseded();
+    void bus_activatesAsDesktopsDo();
+
+private:
+    static void withAndWithoutBus();
+    QString folder(const QString& name) const { return m_folder->filePath(name); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QProcessEnvironment m_withBus;
+    QProcessEnvironment m_withoutBus;
+    QProcessEnvironment m_environment; ///< Of the row.
+};
+
+void LinuxInstanceTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_withBus = QProcessEnvironment::systemEnvironment();
+    m_withBus.insert(u"XDG_RUNTIME_DIR"_s, m_folder->path());
+    m_withBus.insert(u"XDG_DATA_HOME"_s, folder(u"data"_s));
+    m_withoutBus = m_withBus;
+    m_withoutBus.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
+    if (QTest::currentDataTag() != nullptr) {
+        QFETCH(const bool, hasBus);
+        m_environment = hasBus ? m_withBus : m_withoutBus;
+    }
+}
+
+void LinuxInstanceTest::withAndWithoutBus()
+{
+    QTest::addColumn<bool>("hasBus");
+
+    QTest::addRow("bus") << true;
+    QTest::addRow("no bus") << false;
+}
+
+void LinuxInstanceTest::claim_first_isAlone_data()
+{
+    withAndWithoutBus();
+}
+
+void LinuxInstanceTest::claim_first_isAlone()
+{
+    const Start first(folder(u"work"_s), m_environment);
+
+    QCOMPARE(first.answer(), u"alone"_s);
+}
+
+void LinuxInstanceTest::claim_second_activatesTheFirst_data()
+{
+    withAndWithoutBus();
+}
+
+void LinuxInstanceTest::claim_second_activatesTheFirst()
+{
+    Start first(folder(u"work"_s), m_environment);
+
+    const Start second(folder(u"work"_s), m_environment);
+
+    QCOMPARE(second.answer(), u"refused"_s);
+    QTRY_COMPARE(first.activations(), 1);
+}
+
+void LinuxInstanceTest::claim_otherFolder_isAloneToo_data()
+{
+    withAndWithoutBus();
+}
+
+void LinuxInstanceTest::claim_otherFolder_isAloneToo()
+{
+    const Start own(folder(u"data/KorvelQuib"_s), m_environment);
+    const Start first(folder(u"work"_s), m_environment);
+
+    const Start other(folder(u"play"_s), m_environment);
+
+    QCOMPARE(own.answer(), u"alone"_s);
+    QCOMPARE(first.answer(), u"alone"_s);
+    QCOMPARE(other.answer(), u"alone"_s);
+}
+
+void LinuxInstanceTest::claim_afterACrash_isAlone_data()
+{
+    withAndWithoutBus();
+}
+
+void LinuxInstanceTest::claim_afterACrash_isAlone()
+{
+    Start first(folder(u"work"_s), m_environment);
+    first.crash();
+
+    Start next(folder(u"work"_s), m_environment);
+    const Start second(folder(u"work"_s), m_environment);
+
+    QCOMPARE(next.answer(), u"alone"_s);
+    QCOMPARE(second.answer(), u"refused"_s);
+    QTRY_COMPARE(next.activations(), 1);
+}
+
+void LinuxInstanceTest::claim_firstHangs_isRefused_data()
+{
+    withAndWithoutBus();
+}
+
+void LinuxInstanceTest::claim_firstHangs_isRefused()
+{
+    const Start first(folder(u"work"_s), m_environment);
+    first.hang();
+
+    const Start second(folder(u"work"_s), m_environment);
+
+    QCOMPARE(second.answer(), u"refused"_s);
+}
+
+void LinuxInstanceTest::claim_secondHasNoBus_activatesTheFirst()
+{
+    Start first(folder(u"work"_s), m_withBus);
+
+    const Start second(folder(u"work"_s), m_withoutBus);
+
+    QCOMPARE(second.answer(), u"refused"_s);
+    QTRY_COMPARE(first.activations(), 1);
+}
+
+void LinuxInstanceTest::claim_busDiedMeanwhile_activatesTheFirst()
+{
+    QProcess bus;
+    bus.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
+    QVERIFY(bus.waitForReadyRead());
+    auto environment = m_withBus;
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, QString::fromUtf8(bus.readLine()).trimmed());
+    Start first(folder(u"work"_s), environment);
+    bus.kill();
+    bus.waitForFinished();
+
+    const Start second(folder(u"work"_s), environment);
+
+    QCOMPARE(first.answer(), u"alone"_s);
+    QCOMPARE(second.answer(), u"refused"_s);
+    QTRY_COMPARE(first.activations(), 1);
+}
+
+void LinuxInstanceTest::claim_noRuntimeFolder_activatesTheFirst()
+{
+    auto environment = m_withoutBus;
+    environment.remove(u"XDG_RUNTIME_DIR"_s);
+    environment.insert(u"TMPDIR"_s, m_folder->path());
+    Start first(folder(u"work"_s), environment);
+
+    const Start second(folder(u"work"_s), environment);
+
+    QCOMPARE(second.answer(), u"refused"_s);
+    QTRY_COMPARE(first.activations(), 1);
+}
+
+void LinuxInstanceTest::claim_folderOfOthersInTheWay_isAlone()
+{
+    auto environment = m_withoutBus;
+    environment.remove(u"XDG_RUNTIME_DIR"_s);
+    environment.insert(u"TMPDIR"_s, m_folder->path());
+    const auto trap = folder(u"quib-%1"_s.arg(geteuid()));
+    QVERIFY(QDir().mkpath(trap));
+    QVERIFY(QFile::setPermissions(trap, QFile::Permissions(0x7777))); // Anyone can write there.
+
+    const Start first(folder(u"work"_s), environment);
+
+    QCOMPARE(first.answer(), u"alone"_s);
+    QVERIFY(QDir(trap).isEmpty());
+}
+
+void LinuxInstanceTest::claim_otherFolderForLocks_isSuperseded()
+{
+    Start first(folder(u"work"_s), m_withBus);
+    auto environment = m_withBus;
+    environment.insert(u"XDG_RUNTIME_DIR"_s, folder(u"elsewhere"_s));
+    QVERIFY(QDir().mkpath(folder(u"elsewhere"_s)));
+    QVERIFY(QFile::setPermissions(folder(u"elsewhere"_s), QFile::Permissions(0x7000)));
+    QTRY_VERIFY(isOnBus(lockName(nativePath(folder(u"work"_s)))));
+
+    Start second(folder(u"work"_s), environment);
+
+    QTRY_COMPARE(second.count("superseded"), 1);
+    QTRY_COMPARE(first.activations(), 1);
+    QCOMPARE(first.count("superseded"), 0);
+}
+
+void LinuxInstanceTest::bus_activatesAsDesktopsDo()
+{
+    Start first(folder(u"data/KorvelQuib"_s), m_withBus);
+    const auto call = [](const QString& method, const QStringList& arguments) {
+        return QProcess::execute(u"gdbus"_s,
+                                 QStringList{u"call"_s, u"--session"_s, u"--dest"_s,
+                                             u"org.korvel.Quib"_s, u"--object-path"_s,
+                                             u"/org/korvel/Quib"_s, u"--method"_s,
+                                             u"org.freedesktop.Application."_s + method}
+                                     + arguments);
+    };
+
+    QTRY_VERIFY(isOnBus(u"org.korvel.Quib"_s));
+    QCOMPARE(call(u"Activate"_s, {u"{}"_s}), 0);
+    QTRY_COMPARE(first.activations(), 1);
+    QCOMPARE(call(u"Open"_s, {u"['file:///tmp']"_s, u"{}"_s}), 0);
+    QTRY_COMPARE(first.activations(), 2);
+    QCOMPARE(call(u"ActivateAction"_s, {u"open"_s, u"[]"_s, u"{}"_s}), 0);
+    QTRY_COMPARE(first.activations(), 3);
+}
+
+QTEST_GUILESS_MAIN(LinuxInstanceTest)
+#include "tst_linuxinstance.moc"
