@@ -1,9 +1,9 @@
 #include "workspace.h"
 
-#include "model/datafile.h"
-#include "model/isodate.h"
-#include "model/utf8.h"
-#include "model/uuidtext.h"
+#include "model/file/datafile.h"
+#include "model/texts/utf8.h"
+#include "model/texts/uuidtext.h"
+#include "model/time/isodate.h"
 
 #include <QFile>
 #include <QTemporaryDir>

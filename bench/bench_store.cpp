@@ -1,9 +1,9 @@
 #include "workspace.h"
 
-#include "model/atomicfile.h"
-#include "model/datafile.h"
-#include "model/nativepath.h"
+#include "model/file/atomicfile.h"
+#include "model/file/datafile.h"
 #include "model/store.h"
+#include "model/texts/nativepath.h"
 
 #include <QFile>
 #include <QTemporaryDir>

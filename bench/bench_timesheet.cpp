@@ -1,7 +1,7 @@
 #include "workspace.h"
 
-#include "model/isodate.h"
-#include "model/timesheet.h"
+#include "model/billing/timesheet.h"
+#include "model/time/isodate.h"
 
 #include <charconv>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/quibdata.h"
-#include "model/utc.h"
+#include "model/records/quibdata.h"
+#include "model/time/utc.h"
 
 #include <benchmark/benchmark.h>
 

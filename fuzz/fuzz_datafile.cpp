@@ -1,5 +1,5 @@
-#include "model/datafile.h"
-#include "model/json.h"
+#include "model/file/datafile.h"
+#include "model/file/json.h"
 
 #include <cstdlib>
 

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "app/notch/commands.h"
 #include "app/notch/geometry.h"
 #include "app/notch/hover.h"
 #include "app/notch/notchmodel.h"
-#include "app/notch/pointerpoll.h"
-#include "app/notch/statusmenu.h"
-#include "integrations/actions.h"
-#include "integrations/calendarcontroller.h"
-#include "integrations/mediacontroller.h"
-#include "model/clock.h"
-#include "model/scheduler.h"
+#include "app/shell/commands.h"
+#include "app/shell/pointerpoll.h"
+#include "app/shell/statusmenu.h"
+#include "integrations/calendar/calendarcontroller.h"
+#include "integrations/media/mediacontroller.h"
+#include "integrations/opening/actions.h"
 #include "model/store.h"
+#include "model/time/clock.h"
+#include "model/time/scheduler.h"
 #include "platform/platform.h"
 
 #include <QObject>

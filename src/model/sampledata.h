@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/quibdata.h"
+#include "model/records/quibdata.h"
 
 #include <functional>
 

@@ -1,8 +1,8 @@
 #include "model/store.h"
 
-#include "model/datafolder.h"
-#include "model/fileaddress.h"
-#include "model/leftovers.h"
+#include "model/file/datafolder.h"
+#include "model/file/leftovers.h"
+#include "model/texts/fileaddress.h"
 
 #include <algorithm>
 #include <array>

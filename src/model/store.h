@@ -1,12 +1,12 @@
 #pragma once
 
-#include "model/clock.h"
-#include "model/dataloader.h"
-#include "model/datasaver.h"
-#include "model/quibdata.h"
-#include "model/scheduler.h"
-#include "model/totals.h"
-#include "model/userlocale.h"
+#include "model/billing/totals.h"
+#include "model/file/dataloader.h"
+#include "model/file/datasaver.h"
+#include "model/locale/userlocale.h"
+#include "model/records/quibdata.h"
+#include "model/time/clock.h"
+#include "model/time/scheduler.h"
 
 #include <QObject>
 #include <QUrl>

@@ -1,5 +1,5 @@
-#include "model/datafile.h"
-#include "model/datafolder.h"
+#include "model/file/datafile.h"
+#include "model/file/datafolder.h"
 #include "model/sampledata.h"
 #include "model/store.h"
 

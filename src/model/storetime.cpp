@@ -1,7 +1,7 @@
-#include "model/atomicfile.h"
-#include "model/nativepath.h"
+#include "model/billing/timesheet.h"
+#include "model/file/atomicfile.h"
 #include "model/store.h"
-#include "model/timesheet.h"
+#include "model/texts/nativepath.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,7 +1,7 @@
 #include "shortcuts/shortcutconfig.h"
 
-#include "model/json.h"
-#include "model/utf8.h"
+#include "model/file/json.h"
+#include "model/texts/utf8.h"
 
 #include <QHashFunctions>
 

@@ -1,8 +1,8 @@
 #include "shortcuts/shortcuts.h"
 
-#include "model/atomicfile.h"
-#include "model/datafolder.h"
-#include "model/wholefile.h"
+#include "model/file/atomicfile.h"
+#include "model/file/datafolder.h"
+#include "model/file/wholefile.h"
 #include "shortcuts/startertext.h"
 
 using namespace Qt::StringLiterals;

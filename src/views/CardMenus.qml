@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Templates as T
 
-import Quib.Notch
+import Quib.Shell
 import Quib.Views
 
 /*!

@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 import Quib.Notch
+import Quib.Shell
 import Quib.Views
 
 /*!

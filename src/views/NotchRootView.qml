@@ -4,6 +4,7 @@ import QtQuick
 
 import Quib.Brand
 import Quib.Notch
+import Quib.Shell
 import Quib.Views
 
 /*!

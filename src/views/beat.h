@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/clock.h"
-#include "model/utc.h"
+#include "model/time/clock.h"
+#include "model/time/utc.h"
 
 #include <QObject>
 #include <QPointer>

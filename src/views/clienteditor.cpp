@@ -1,6 +1,6 @@
 #include "views/clienteditor.h"
 
-#include "model/rate.h"
+#include "model/locale/rate.h"
 #include "views/followsource.h"
 
 #include <QVariantMap>

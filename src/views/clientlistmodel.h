@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/client.h"
 #include "model/recordlistmodel.h"
+#include "model/records/client.h"
 #include "model/store.h"
 
 #include <QPointer>

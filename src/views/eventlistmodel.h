@@ -1,6 +1,6 @@
 #pragma once
 
-#include "integrations/calendarcontroller.h"
+#include "integrations/calendar/calendarcontroller.h"
 #include "model/recordlistmodel.h"
 
 #include <QPointer>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "integrations/iconsource.h"
+#include "integrations/opening/iconsource.h"
 #include "views/rasteritem.h"
 
 #include <QPointer>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "model/datetexts.h"
-#include "model/duration.h"
-#include "model/money.h"
-#include "model/userlocale.h"
+#include "model/locale/datetexts.h"
+#include "model/locale/money.h"
+#include "model/locale/userlocale.h"
+#include "model/texts/duration.h"
 
 #include <QDateTime>
 #include <QObject>

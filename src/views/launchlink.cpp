@@ -1,6 +1,6 @@
 #include "views/launchlink.h"
 
-#include "integrations/actions.h"
+#include "integrations/opening/actions.h"
 
 #include <QUrl>
 

@@ -1,6 +1,6 @@
 #include "views/launchlistmodel.h"
 
-#include "integrations/actions.h"
+#include "integrations/opening/actions.h"
 #include "views/followsource.h"
 #include "views/launchlink.h"
 

@@ -1,7 +1,7 @@
 #include "views/notebook.h"
 
-#include "model/datetexts.h"
-#include "model/timestamp.h"
+#include "model/locale/datetexts.h"
+#include "model/texts/timestamp.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

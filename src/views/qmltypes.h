@@ -1,10 +1,10 @@
 #pragma once
 
-#include "integrations/actions.h"
-#include "integrations/calendarcontroller.h"
-#include "integrations/fileprobe.h"
-#include "integrations/iconsource.h"
-#include "integrations/mediacontroller.h"
+#include "integrations/calendar/calendarcontroller.h"
+#include "integrations/media/mediacontroller.h"
+#include "integrations/opening/actions.h"
+#include "integrations/opening/fileprobe.h"
+#include "integrations/opening/iconsource.h"
 #include "model/store.h"
 #include "shortcuts/shortcuts.h"
 

@@ -1,6 +1,6 @@
 #include "views/shortcutbuttonmodel.h"
 
-#include "integrations/actions.h"
+#include "integrations/opening/actions.h"
 #include "views/symbollibrary.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "views/totallistmodel.h"
 
-#include "model/period.h"
+#include "model/locale/period.h"
 #include "views/followsource.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "support/delegatefortest.h"
 
-#include "model/datafile.h"
+#include "model/file/datafile.h"
 #include "shortcuts/shortcuts.h"
 #include "support/hungfile.h"
 #include "support/writefile.h"

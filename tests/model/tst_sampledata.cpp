@@ -1,6 +1,6 @@
 #include "model/sampledata.h"
 
-#include "model/utc.h"
+#include "model/time/utc.h"
 
 #include <QDir>
 #include <QSet>

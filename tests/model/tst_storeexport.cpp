@@ -1,4 +1,4 @@
-#include "model/timesheet.h"
+#include "model/billing/timesheet.h"
 #include "support/storefixture.h"
 #include "support/writefile.h"
 

@@ -1,4 +1,4 @@
-#include "model/datafile.h"
+#include "model/file/datafile.h"
 #include "support/enlarge.h"
 #include "support/storefixture.h"
 

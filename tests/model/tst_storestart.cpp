@@ -1,4 +1,4 @@
-#include "model/datafile.h"
+#include "model/file/datafile.h"
 #include "support/hungfile.h"
 #include "support/storefixture.h"
 

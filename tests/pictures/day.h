@@ -1,8 +1,8 @@
 #pragma once
 
-#include "integrations/calendarentry.h"
-#include "model/quibdata.h"
-#include "model/utc.h"
+#include "integrations/calendar/calendarentry.h"
+#include "model/records/quibdata.h"
+#include "model/time/utc.h"
 
 #include <QByteArrayList>
 

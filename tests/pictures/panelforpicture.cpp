@@ -1,7 +1,7 @@
 #include "pictures/panelforpicture.h"
 
 #include "app/notchpanel.h"
-#include "model/datafile.h"
+#include "model/file/datafile.h"
 #include "platform/linux/base/diskprobe.h"
 #include "platform/linux/icons/themeiconsource.h"
 #include "shortcuts/shortcuts.h"

@@ -1,4 +1,4 @@
-#include "model/utc.h"
+#include "model/time/utc.h"
 #include "pictures/daymaking.h"
 
 using namespace Qt::StringLiterals;

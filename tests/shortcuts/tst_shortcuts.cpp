@@ -1,6 +1,6 @@
 #include "shortcuts/shortcuts.h"
 
-#include "model/nativepath.h"
+#include "model/texts/nativepath.h"
 #include "shortcuts/startertext.h"
 #include "support/datafolderfortest.h"
 #include "support/enlarge.h"

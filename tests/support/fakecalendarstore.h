@@ -1,6 +1,6 @@
 #pragma once
 
-#include "integrations/calendarstore.h"
+#include "integrations/calendar/calendarstore.h"
 
 #include <utility>
 #include <vector>

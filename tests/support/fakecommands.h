@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/notch/commands.h"
+#include "app/shell/commands.h"
 
 #include <QStringList>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/notch/panelhost.h"
-#include "app/notch/pointersource.h"
-#include "app/notch/screensource.h"
+#include "app/shell/panelhost.h"
+#include "app/shell/pointersource.h"
+#include "app/shell/screensource.h"
 
 #include <QStringList>
 

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "app/notch/desktop.h"
-#include "app/notch/filepicker.h"
-#include "app/notch/loginitem.h"
-#include "app/notch/sessionlock.h"
-#include "app/notch/singleinstance.h"
-#include "app/notch/statusitem.h"
-#include "integrations/appcatalog.h"
-#include "integrations/fileprobe.h"
-#include "integrations/iconsource.h"
-#include "integrations/opener.h"
+#include "app/shell/desktop.h"
+#include "app/shell/filepicker.h"
+#include "app/shell/loginitem.h"
+#include "app/shell/sessionlock.h"
+#include "app/shell/singleinstance.h"
+#include "app/shell/statusitem.h"
+#include "integrations/opening/appcatalog.h"
+#include "integrations/opening/fileprobe.h"
+#include "integrations/opening/iconsource.h"
+#include "integrations/opening/opener.h"
 
 #include <QHash>
 #include <QSet>

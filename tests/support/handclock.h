@@ -1,8 +1,8 @@
 #pragma once
 
-#include "model/clock.h"
-#include "model/scheduler.h"
-#include "model/utc.h"
+#include "model/time/clock.h"
+#include "model/time/scheduler.h"
+#include "model/time/utc.h"
 
 #include <QPointer>
 

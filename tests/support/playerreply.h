@@ -1,6 +1,6 @@
 #pragma once
 
-#include "integrations/playerlink.h"
+#include "integrations/media/playerlink.h"
 
 #include <QTest>
 

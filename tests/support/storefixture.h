@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/datafile.h"
+#include "model/file/datafile.h"
 #include "model/store.h"
 #include "support/datafolderfortest.h"
 #include "support/handclock.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/store.h"
-#include "model/utc.h"
+#include "model/time/utc.h"
 
 #include <QTemporaryDir>
 

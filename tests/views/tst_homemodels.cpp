@@ -1,4 +1,4 @@
-#include "model/utc.h"
+#include "model/time/utc.h"
 #include "views/eventlistmodel.h"
 #include "views/launchlistmodel.h"
 #include "views/opentasklistmodel.h"

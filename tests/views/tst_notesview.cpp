@@ -1,4 +1,4 @@
-#include "model/utc.h"
+#include "model/time/utc.h"
 #include "support/notestab.h"
 #include "support/toldtext.h"
 

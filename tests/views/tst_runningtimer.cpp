@@ -1,6 +1,6 @@
 #include "views/runningtimer.h"
 
-#include "model/datafile.h"
+#include "model/file/datafile.h"
 #include "support/datafolderfortest.h"
 #include "support/hungfile.h"
 #include "support/workspace.h"

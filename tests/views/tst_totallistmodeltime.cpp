@@ -1,4 +1,4 @@
-#include "model/utc.h"
+#include "model/time/utc.h"
 #include "support/report.h"
 
 #include <QSignalSpy>

@@ -1,8 +1,8 @@
-#include "model/utc.h"
+#include "model/time/utc.h"
 #include "support/timetab.h"
 
 #include "brand/brand.h"
-#include "model/money.h"
+#include "model/locale/money.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;

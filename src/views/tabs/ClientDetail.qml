@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Layouts
 
 import Quib.Brand
-import Quib.Notch
+import Quib.Shell
 import Quib.Views
 
 /*!

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 import Quib.Brand
-import Quib.Notch
+import Quib.Shell
 import Quib.Views
 
 /*!

@@ -1,6 +1,7 @@
 import QtQuick
 
 import Quib.Notch
+import Quib.Shell
 import Quib.Views
 
 /*!

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-import Quib.Notch
+import Quib.Shell
 import Quib.Views
 
 /*!

@@ -1,4 +1,4 @@
-#include "model/nativepath.h"
+#include "model/texts/nativepath.h"
 #include "platform/linux/base/connectedbus.h"
 #include "platform/linux/base/privatebus.h"
 #include "platform/linux/instance/instancename.h"

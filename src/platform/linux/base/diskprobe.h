@@ -1,6 +1,6 @@
 #pragma once
 
-#include "integrations/fileprobe.h"
+#include "integrations/opening/fileprobe.h"
 #include "platform/linux/base/patientwork.h"
 
 #include <QHash>

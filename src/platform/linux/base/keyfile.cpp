@@ -1,7 +1,7 @@
 #include "platform/linux/base/keyfile.h"
 
-#include "model/nativepath.h"
-#include "model/wholefile.h"
+#include "model/file/wholefile.h"
+#include "model/texts/nativepath.h"
 
 namespace quib {
 

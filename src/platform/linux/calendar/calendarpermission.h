@@ -1,6 +1,6 @@
 #pragma once
 
-#include "integrations/calendarstore.h"
+#include "integrations/calendar/calendarstore.h"
 #include "platform/linux/base/sessionbus.h"
 
 #include <QDBusError>

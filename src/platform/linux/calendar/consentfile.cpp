@@ -1,8 +1,8 @@
 #include "platform/linux/calendar/consentfile.h"
 
-#include "model/atomicfile.h"
-#include "model/nativepath.h"
-#include "model/privatefolder.h"
+#include "model/file/atomicfile.h"
+#include "model/file/privatefolder.h"
+#include "model/texts/nativepath.h"
 
 #include <QDir>
 #include <QFileInfo>

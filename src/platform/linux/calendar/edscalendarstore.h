@@ -1,6 +1,6 @@
 #pragma once
 
-#include "integrations/calendarstore.h"
+#include "integrations/calendar/calendarstore.h"
 #include "platform/linux/calendar/calendarpermission.h"
 #include "platform/linux/calendar/eds/edscalendars.h"
 

@@ -1,7 +1,7 @@
 #include "platform/linux/icons/iconfile.h"
 
-#include "model/nativepath.h"
-#include "model/wholefile.h"
+#include "model/file/wholefile.h"
+#include "model/texts/nativepath.h"
 #include "platform/linux/icons/harmlesssvg.h"
 
 #include <QBuffer>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "integrations/iconsource.h"
+#include "integrations/opening/iconsource.h"
 #include "platform/linux/base/patientwork.h"
 #include "platform/linux/icons/filepicture.h"
 

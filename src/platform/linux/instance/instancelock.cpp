@@ -1,6 +1,6 @@
 #include "platform/linux/instance/instancelock.h"
 
-#include "model/privatefolder.h"
+#include "model/file/privatefolder.h"
 
 #include <QDir>
 #include <QFile>

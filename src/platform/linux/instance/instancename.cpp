@@ -1,6 +1,6 @@
 #include "platform/linux/instance/instancename.h"
 
-#include "model/nativepath.h"
+#include "model/texts/nativepath.h"
 
 #include <QCryptographicHash>
 #include <QDir>

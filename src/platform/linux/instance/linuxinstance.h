@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/notch/singleinstance.h"
+#include "app/shell/singleinstance.h"
 #include "platform/linux/instance/activationservice.h"
 #include "platform/linux/instance/instancelock.h"
 

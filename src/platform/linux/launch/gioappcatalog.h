@@ -1,6 +1,6 @@
 #pragma once
 
-#include "integrations/appcatalog.h"
+#include "integrations/opening/appcatalog.h"
 
 #include <QHash>
 

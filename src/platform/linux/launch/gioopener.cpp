@@ -1,6 +1,6 @@
 #include "platform/linux/launch/gioopener.h"
 
-#include "model/nativepath.h"
+#include "model/texts/nativepath.h"
 #include "platform/linux/launch/giolaunch.h"
 
 #include <QDBusMessage>

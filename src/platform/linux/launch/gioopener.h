@@ -1,6 +1,6 @@
 #pragma once
 
-#include "integrations/opener.h"
+#include "integrations/opening/opener.h"
 #include "platform/linux/base/sessionbus.h"
 
 #include <chrono>

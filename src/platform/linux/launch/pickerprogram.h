@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/notch/filepicker.h"
+#include "app/shell/filepicker.h"
 
 #include <QObject>
 #include <QString>

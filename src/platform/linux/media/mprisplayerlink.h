@@ -1,6 +1,6 @@
 #pragma once
 
-#include "integrations/playerlink.h"
+#include "integrations/media/playerlink.h"
 #include "platform/linux/base/sessionbus.h"
 #include "platform/linux/media/musicplayers.h"
 

@@ -1,6 +1,6 @@
 #include "platform/linux/media/mprisreply.h"
 
-#include "model/beginning.h"
+#include "model/texts/beginning.h"
 
 #include <QDBusArgument>
 #include <QUrl>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "integrations/player.h"
+#include "integrations/media/player.h"
 
 #include <QStringList>
 

@@ -1,8 +1,8 @@
 #include "platform/linux/session/autostartentry.h"
 
-#include "model/atomicfile.h"
-#include "model/nativepath.h"
-#include "model/privatefolder.h"
+#include "model/file/atomicfile.h"
+#include "model/file/privatefolder.h"
+#include "model/texts/nativepath.h"
 #include "platform/linux/base/gowned.h"
 #include "platform/linux/session/sessionentry.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/notch/loginitem.h"
+#include "app/shell/loginitem.h"
 
 #include <QString>
 

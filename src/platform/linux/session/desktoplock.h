@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/notch/sessionlock.h"
+#include "app/shell/sessionlock.h"
 #include "platform/linux/session/loginsession.h"
 #include "platform/linux/session/screensavers.h"
 

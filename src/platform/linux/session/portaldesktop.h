@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/notch/desktop.h"
+#include "app/shell/desktop.h"
 #include "platform/linux/base/sessionbus.h"
 
 #include <QDBusVariant>

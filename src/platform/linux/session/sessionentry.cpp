@@ -1,7 +1,7 @@
 #include "platform/linux/session/sessionentry.h"
 
-#include "model/nativepath.h"
-#include "model/wholefile.h"
+#include "model/file/wholefile.h"
+#include "model/texts/nativepath.h"
 #include "platform/linux/base/gowned.h"
 
 #include <QStringList>

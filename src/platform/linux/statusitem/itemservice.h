@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/notch/statusitem.h"
+#include "app/shell/statusitem.h"
 
 #include <QByteArray>
 #include <QDBusArgument>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/notch/menuitem.h"
+#include "app/shell/menuitem.h"
 #include "platform/linux/statusitem/menumessages.h"
 
 #include <QDBusContext>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/notch/statusitem.h"
+#include "app/shell/statusitem.h"
 #include "platform/linux/base/sessionbus.h"
 #include "platform/linux/statusitem/itemservice.h"
 #include "platform/linux/statusitem/menuservice.h"

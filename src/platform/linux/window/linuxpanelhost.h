@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/notch/panelhost.h"
+#include "app/shell/panelhost.h"
 
 namespace quib {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/notch/pointersource.h"
+#include "app/shell/pointersource.h"
 
 #include <QPointer>
 #include <QTimer>

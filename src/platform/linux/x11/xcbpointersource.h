@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/notch/pointersource.h"
+#include "app/shell/pointersource.h"
 #include "platform/linux/x11/base/xserver.h"
 
 #include <QAbstractNativeEventFilter>

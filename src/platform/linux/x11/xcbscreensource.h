@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/notch/screensource.h"
+#include "app/shell/screensource.h"
 #include "platform/linux/x11/docks.h"
 
 #include <QAbstractNativeEventFilter>

@@ -1,4 +1,4 @@
-#include "model/nativepath.h"
+#include "model/texts/nativepath.h"
 #include "platform/linux/base/connectedbus.h"
 #include "platform/linux/launch/gioopener.h"
 #include "platform/linux/media/mprisplayerlink.h"

@@ -1,4 +1,4 @@
-#include "integrations/mediacontroller.h"
+#include "integrations/media/mediacontroller.h"
 #include "platform/linux/base/connectedbus.h"
 #include "platform/linux/media/fakeplayer.h"
 #include "platform/linux/media/mprisplayerlink.h"

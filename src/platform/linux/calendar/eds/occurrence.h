@@ -1,6 +1,6 @@
 #pragma once
 
-#include "integrations/calendarentry.h"
+#include "integrations/calendar/calendarentry.h"
 
 #include <libecal/libecal.h>
 

@@ -1,0 +1,239 @@
+#include "model/file/datafile.h"
+#include "model/store.h"
+#include "support/datafolderfortest.h"
+#include "support/modeof.h"
+#include "support/umask.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+// A save is killed, or told of an error, at each of its system calls. The program under strace is
+// this test itself, in a life as another program: see main().
+
+namespace {
+
+constexpr auto OldNotes = "old"_L1;
+constexpr auto NewNotes = "new"_L1;
+constexpr auto SaveOnce = "--save-once";
+constexpr auto Undisturbed = "rename:error=EIO:when=1000"_L1; // There is none so late.
+
+/// Starts on the data folder in the environment, changes the notes and saves.
+int saveOnce()
+{
+    quib::Store store;
+    store.setNotes(NewNotes);
+    store.saveNow();
+    return 0;
+}
+
+/// Notes large enough to need more than one write.
+quib::QuibData oldData()
+{
+    return {.clients = {{.name = QString(200'000, u'x')}}, .notes = OldNotes};
+}
+
+/// The notes in the file, which must be whole; "torn" when it is not.
+QString notesIn(const DataFolderForTest& folder)
+{
+    const auto data = quib::decodeQuibData(folder.bytes());
+    const bool whole = data && data->clients == oldData().clients;
+    return whole ? data->notes : u"torn"_s;
+}
+
+QStringList leftoversIn(const DataFolderForTest& folder)
+{
+    return QDir(folder.path()).entryList({u".korvel-quib-*"_s}, QDir::Files | QDir::Hidden);
+}
+
+/// Lets strace interfere; false when it cannot trace here.
+bool saveUnderStrace(const QString& injection, const QString& log)
+{
+    QProcess strace;
+    strace.start(u"strace"_s,
+                 {u"-f"_s, u"-qq"_s, u"-o"_s, log, u"-e"_s, u"inject=%1"_s.arg(injection),
+                  QCoreApplication::applicationFilePath(), QString::fromLatin1(SaveOnce)});
+    return strace.waitForFinished() && QFile::exists(log);
+}
+
+QStringList linesOf(const QString& log)
+{
+    QFile file(log);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).split(u'\n')
+                                          : QStringList();
+}
+
+/// Interferes with a call of that name, from 1, of those since the new file is there: calls before
+/// that read the old one, or wake threads.
+QString injectionInSave(const QString& call, int number, const QString& what)
+{
+    const DataFolderForTest folder;
+    const auto log = folder.path() + u"/log"_s;
+    saveUnderStrace(Undisturbed, log);
+    const auto lines = linesOf(log);
+    const auto isOfNewFile = [](const QString& line) { return line.contains(u".korvel-quib-"_s); };
+    const auto isCall = [&](const QString& line) { return line.contains(u" %1("_s.arg(call)); };
+    const auto created = std::ranges::find_if(lines, isOfNewFile);
+    if (created == lines.end()) {
+        return {}; // Which strace does not take.
+    }
+    const auto before = std::count_if(lines.begin(), created, isCall);
+    return u"%1:%2:when=%3"_s.arg(call, what).arg(before + number);
+}
+
+} // namespace
+
+class SaveKilledTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void undisturbed_isSaved();
+    void bytes_areSyncedAfterTheyAreWritten();
+    void killedAnywhere_neverTearsTheFile_data();
+    void killedAnywhere_neverTearsTheFile();
+    void failingCall_leavesTheOldFile_data();
+    void failingCall_leavesTheOldFile();
+    void leftover_isTheUsersAlone_data();
+    void leftover_isTheUsersAlone();
+    void nextStart_removesWhatAKilledSaveLeft();
+};
+
+void SaveKilledTest::initTestCase()
+{
+    QVERIFY2(!QStandardPaths::findExecutable(u"strace"_s).isEmpty(), "strace is not installed");
+    QProcess strace;
+    strace.start(u"strace"_s, {u"-o"_s, u"/dev/null"_s, u"true"_s});
+    strace.waitForFinished();
+    if (strace.exitStatus() != QProcess::NormalExit || strace.exitCode() != 0) {
+        const QByteArray reason = "strace may not trace here: " + strace.readAllStandardError();
+        QSKIP(reason.trimmed().constData()); // As in some containers.
+    }
+}
+
+void SaveKilledTest::undisturbed_isSaved()
+{
+    const DataFolderForTest folder;
+    folder.put(quib::encodeQuibData(oldData()).value());
+
+    QVERIFY(saveUnderStrace(Undisturbed, folder.path() + u"/log"_s));
+
+    QCOMPARE(notesIn(folder), NewNotes);
+}
+
+void SaveKilledTest::bytes_areSyncedAfterTheyAreWritten()
+{
+    const DataFolderForTest folder;
+    folder.put(quib::encodeQuibData({}).value()); // Few enough to wait in a buffer.
+
+    QVERIFY(saveUnderStrace(Undisturbed, folder.path() + u"/log"_s));
+
+    QFile file(folder.path() + u"/log"_s);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const auto log = file.readAll();
+    const auto written = log.lastIndexOf(R"("{\n  \"clients\")"); // It was read before.
+    const auto synced = log.indexOf("fsync(");
+    const auto renamed = log.indexOf("rename(");
+    QVERIFY(written >= 0 && written < synced && synced < renamed);
+}
+
+void SaveKilledTest::killedAnywhere_neverTearsTheFile_data()
+{
+    QTest::addColumn<QString>("call");
+    QTest::addColumn<int>("number");
+
+    for (const auto* call : {"write", "fsync", "flock", "rename", "fchmod"}) {
+        for (int number = 1; number <= 3; ++number) {
+            QTest::addRow("%s %d", call, number) << QString::fromLatin1(call) << number;
+        }
+    }
+}
+
+void SaveKilledTest::killedAnywhere_neverTearsTheFile()
+{
+    QFETCH(const QString, call);
+    QFETCH(const int, number);
+    const auto kill = injectionInSave(call, number, u"signal=SIGKILL"_s);
+    const DataFolderForTest folder;
+    folder.put(quib::encodeQuibData(oldData()).value());
+
+    QVERIFY(saveUnderStrace(kill, folder.path() + u"/log"_s));
+
+    const auto notes = notesIn(folder);
+    QVERIFY2(notes == OldNotes || notes == NewNotes, qPrintable(notes));
+}
+
+void SaveKilledTest::failingCall_leavesTheOldFile_data()
+{
+    QTest::addColumn<QString>("injection");
+
+    QTest::addRow("disk full") << u"write:error=ENOSPC"_s;
+    QTest::addRow("disk broken") << u"write:error=EIO"_s;
+    QTest::addRow("not synced") << u"fsync:error=EIO:when=1"_s;
+    QTest::addRow("not renamed") << u"rename:error=EACCES"_s;
+}
+
+void SaveKilledTest::failingCall_leavesTheOldFile()
+{
+    QFETCH(QString, injection);
+    const DataFolderForTest folder;
+    folder.put(quib::encodeQuibData(oldData()).value());
+
+    QVERIFY(saveUnderStrace(injection, folder.path() + u"/log"_s));
+
+    QCOMPARE(notesIn(folder), OldNotes);
+}
+
+void SaveKilledTest::leftover_isTheUsersAlone_data()
+{
+    QTest::addColumn<QString>("call");
+
+    for (const auto* call : {"flock", "fchmod", "write", "fsync", "rename"}) {
+        QTest::addRow("%s", call) << QString::fromLatin1(call);
+    }
+}
+
+void SaveKilledTest::leftover_isTheUsersAlone()
+{
+    QFETCH(const QString, call);
+    const auto kill = injectionInSave(call, 1, u"signal=SIGKILL"_s);
+    const DataFolderForTest folder; // Without a file in it: there is no mode to keep.
+    {
+        const Umask lax(0);
+        QVERIFY(saveUnderStrace(kill, folder.path() + u"/log"_s));
+    }
+
+    const auto left = leftoversIn(folder);
+    QCOMPARE(left.size(), 1);
+    QCOMPARE(modeOf(folder.path() + u'/' + left.first()), "0600"_ba);
+}
+
+void SaveKilledTest::nextStart_removesWhatAKilledSaveLeft()
+{
+    const DataFolderForTest folder;
+    folder.put(quib::encodeQuibData(oldData()).value());
+    QVERIFY(saveUnderStrace(u"rename:signal=SIGKILL:when=1"_s, folder.path() + u"/log"_s));
+    QCOMPARE(leftoversIn(folder).size(), 1);
+
+    quib::Store::removeLeftovers();
+
+    QCOMPARE(leftoversIn(folder), QStringList());
+    QCOMPARE(notesIn(folder), OldNotes);
+}
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    if (QCoreApplication::arguments().contains(QLatin1StringView(SaveOnce))) {
+        return saveOnce();
+    }
+    SaveKilledTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_savekilled.moc"
