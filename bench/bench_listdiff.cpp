@@ -1,4 +1,4 @@
-#include "model/listdiff.h"
+#include "views/models/listdiff.h"
 
 #include <benchmark/benchmark.h>
 

@@ -101,7 +101,7 @@ private:
 
 ShownView notesTab(const Workplace& work)
 {
-    return ShownView(QUrl(u"qrc:/qt/qml/Quib/Views/NotesView.qml"_s),
+    return ShownView(QUrl(u"qrc:/qt/qml/Quib/Tabs/Notes/NotesView.qml"_s),
                      {{u"store"_s, QVariant::fromValue(work.store.get())}});
 }
 

@@ -21,7 +21,7 @@ if(QUIB_SANITIZE)
 endif()
 
 # quib_library(model SOURCES store.cpp ... LINKS Qt6::Core): one static library per folder.
-# With QML_URI the library is a QML module too.
+# With QML_URI the library is a QML module too, whose types QML's tools know with those of the modules it links.
 function(quib_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "QML_URI" "SOURCES;LINKS;QML_FILES")
     qt_add_library(quib_${name} STATIC ${arg_SOURCES})
@@ -29,12 +29,15 @@ function(quib_library name)
     target_include_directories(quib_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(quib_${name} PUBLIC ${arg_LINKS} PRIVATE Quib::options)
     if(arg_QML_URI)
-        foreach(file IN LISTS arg_QML_FILES)
-            cmake_path(GET file FILENAME alias)
-            set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS ${alias})
+        set(modules QtQuick QtQml.Models)
+        foreach(link IN LISTS arg_LINKS)
+            get_target_property(uri ${link} QT_QML_MODULE_URI)
+            if(uri)
+                list(APPEND modules ${uri})
+            endif()
         endforeach()
         qt_add_qml_module(quib_${name} URI ${arg_QML_URI} VERSION 1.0 RESOURCE_PREFIX /qt/qml
-            DEPENDENCIES QtQuick QtQml.Models QML_FILES ${arg_QML_FILES})
+            DEPENDENCIES ${modules} QML_FILES ${arg_QML_FILES})
         get_target_property(generated quib_${name} SOURCES)
         list(FILTER generated INCLUDE REGEX "/qmlcache/")
         set_source_files_properties(${generated} PROPERTIES COMPILE_OPTIONS

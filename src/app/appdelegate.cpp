@@ -3,7 +3,7 @@
 #include "app/notchpanel.h"
 #include "app/panelengine.h"
 #include "shortcuts/shortcuts.h"
-#include "views/unseen.h"
+#include "views/shapes/unseen.h"
 
 #include <QRegion>
 

@@ -2,7 +2,7 @@
 #include "app/appdelegate.h"
 #include "app/notchpanel.h"
 #include "shortcuts/shortcuts.h"
-#include "views/symbolimage.h"
+#include "views/symbols/symbolimage.h"
 
 #include <QCoreApplication>
 #include <QPointer>

@@ -12,8 +12,8 @@
 #include "integrations/opening/iconsource.h"
 #include "model/store.h"
 #include "shortcuts/shortcuts.h"
-#include "views/focuseditem.h"
-#include "views/notchshape.h"
+#include "views/controls/focuseditem.h"
+#include "views/shapes/notchshape.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>

@@ -1,8 +1,8 @@
 import QtQuick
 import QtQuick.Templates as T
 
+import Quib.Controls
 import Quib.Shell
-import Quib.Views
 
 /*!
     What the menus of the card have in common: a menu has the keyboard while it is open, so that Escape

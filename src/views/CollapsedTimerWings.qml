@@ -1,8 +1,12 @@
 import QtQuick
 
 import Quib.Brand
+import Quib.Controls
+import Quib.Models
+import Quib.Motion
 import Quib.Notch
-import Quib.Views
+import Quib.Shapes
+import Quib.Texts
 
 /*!
     The running timer beside the collapsed notch: for whom on the left, how long on the right.

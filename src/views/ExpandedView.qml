@@ -2,9 +2,10 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
+import Quib.Core
+import Quib.Motion
 import Quib.Notch
 import Quib.Shell
-import Quib.Views
 
 /*!
     The open card: the tab bar and the view of the selected tab. It arrives growing a little and
@@ -94,7 +95,7 @@ FocusScope {
 
         Page {
             tab: Tab.Home
-            source: "HomeView.qml"
+            source: Qt.resolvedUrl("../Tabs/Home/HomeView.qml")
             properties: ({
                 objectName: "homeView",
                 media: root.media,
@@ -111,7 +112,7 @@ FocusScope {
             id: linksPage
 
             tab: Tab.Links
-            source: "ShortcutsView.qml"
+            source: Qt.resolvedUrl("../Tabs/Links/ShortcutsView.qml")
             properties: ({
                 objectName: "shortcutsView",
                 shortcuts: root.shortcuts,
@@ -126,7 +127,7 @@ FocusScope {
             id: clientsPage
 
             tab: Tab.Clients
-            source: "ClientsView.qml"
+            source: Qt.resolvedUrl("../Tabs/Clients/ClientsView.qml")
             properties: ({
                 objectName: "clientsView",
                 store: root.store,
@@ -138,7 +139,7 @@ FocusScope {
 
         Page {
             tab: Tab.Tasks
-            source: "TasksView.qml"
+            source: Qt.resolvedUrl("../Tabs/Tasks/TasksView.qml")
             properties: ({
                 objectName: "tasksView",
                 store: root.store
@@ -147,7 +148,7 @@ FocusScope {
 
         Page {
             tab: Tab.Time
-            source: "TimeView.qml"
+            source: Qt.resolvedUrl("../Tabs/Time/TimeView.qml")
             properties: ({
                 objectName: "timeView",
                 store: root.store,
@@ -157,7 +158,7 @@ FocusScope {
 
         Page {
             tab: Tab.Shelf
-            source: "ShelfView.qml"
+            source: Qt.resolvedUrl("../Tabs/Shelf/ShelfView.qml")
             properties: ({
                 objectName: "shelfView",
                 store: root.store,
@@ -170,7 +171,7 @@ FocusScope {
 
         Page {
             tab: Tab.Notes
-            source: "NotesView.qml"
+            source: Qt.resolvedUrl("../Tabs/Notes/NotesView.qml")
             properties: ({
                 objectName: "notesView",
                 store: root.store

@@ -3,9 +3,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 import Quib.Brand
+import Quib.Controls
+import Quib.Core
+import Quib.Files
+import Quib.Models
+import Quib.Motion
 import Quib.Notch
+import Quib.Shapes
 import Quib.Shell
-import Quib.Views
 
 /*!
     The content of the panel: one black shape at the top centre, a notch or the open card. Files
@@ -102,7 +107,7 @@ FocusScope {
             visible: root.hasWings
             shown: root.hasWings
 
-            source: "CollapsedTimerWings.qml"
+            source: Qt.resolvedUrl("CollapsedTimerWings.qml")
             properties: ({objectName: "wings", model: root.model, timer: timer, spring: spring})
         }
 
@@ -114,7 +119,7 @@ FocusScope {
             mayWait: !root.model.isMotionReduced && !root.model.isPinned // Who pins it may go on by keys.
             focus: true
 
-            source: "ExpandedView.qml"
+            source: Qt.resolvedUrl("ExpandedView.qml")
             properties: ({
                 objectName: "expandedView",
                 model: root.model,

@@ -1,8 +1,10 @@
 import QtQuick
 
 import Quib.Brand
+import Quib.Controls
 import Quib.Notch
-import Quib.Views
+import Quib.Shapes
+import Quib.Symbols
 
 /*!
     Selects one tab.

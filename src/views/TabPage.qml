@@ -1,7 +1,8 @@
 import QtQuick
 
+import Quib.Controls
 import Quib.Notch
-import Quib.Views
+import Quib.Shapes
 
 /*!
     The place of one tab in the open card.

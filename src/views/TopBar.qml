@@ -3,9 +3,12 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 import Quib.Brand
+import Quib.Controls
+import Quib.Motion
 import Quib.Notch
 import Quib.Shell
-import Quib.Views
+import Quib.Symbols
+import Quib.Texts
 
 /*!
     The tabs left of the notch, the date and the pin right of it. The tabs are one stop of the keyboard,

@@ -1,5 +1,5 @@
 #include "support/delegatefortest.h"
-#include "views/rasteritem.h"
+#include "views/shapes/rasteritem.h"
 
 #include <QQuickWindow>
 #include <QTest>

@@ -6,7 +6,7 @@
 #include "platform/linux/icons/themeiconsource.h"
 #include "shortcuts/shortcuts.h"
 #include "support/writefile.h"
-#include "views/beat.h"
+#include "views/motion/beat.h"
 
 #include <QCoreApplication>
 #include <QMouseEvent>

@@ -2,7 +2,7 @@
 
 #include "support/fakecommands.h"
 #include "support/workspace.h"
-#include "views/clienteditor.h"
+#include "views/tabs/clients/clienteditor.h"
 
 #include <functional>
 #include <memory>

@@ -2,7 +2,7 @@
 
 #include "support/datafolderfortest.h"
 #include "support/handclock.h"
-#include "views/totallistmodel.h"
+#include "views/models/totallistmodel.h"
 
 #include <QAbstractItemModelTester>
 

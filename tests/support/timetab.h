@@ -2,7 +2,7 @@
 
 #include "support/downloadsfortest.h"
 #include "support/shownpanel.h"
-#include "views/beat.h"
+#include "views/motion/beat.h"
 
 /// The time tab of a panel that has the keyboard.
 struct TimeTab : ShownPanel {

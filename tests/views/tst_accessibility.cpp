@@ -66,7 +66,7 @@ void AccessibilityTest::initTestCase()
 QQuickItem* AccessibilityTest::make(const QByteArray& control)
 {
     QQmlComponent component(&m_engine);
-    component.setData("import QtQuick\nimport Quib.Views\n" + control, {});
+    component.setData("import QtQuick\nimport Quib.Controls\n" + control, {});
     m_made.reset(component.create());
     auto* item = qobject_cast<QQuickItem*>(m_made.get());
     if (item) {

@@ -30,7 +30,7 @@ const auto Hostile = u"<img src='x'>"_s;
 
 constexpr auto Controls = R"(
     import QtQuick
-    import Quib.Views
+    import Quib.Controls
 
     Window {
         property string hostile

@@ -1,7 +1,7 @@
 #include "support/shownpanel.h"
 
 #include "brand/brand.h"
-#include "views/notchshape.h"
+#include "views/shapes/notchshape.h"
 
 #include <QSignalSpy>
 

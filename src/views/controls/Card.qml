@@ -1,7 +1,7 @@
 import QtQuick
 
 import Quib.Brand
-import Quib.Views
+import Quib.Shapes
 
 /*!
     A surface for one content, which keeps its own size in the top left corner unless it asks for

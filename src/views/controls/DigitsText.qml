@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-import Quib.Views
+import Quib.Texts
 
 /*!
     A short text that counts: its digits stand in cells as wide as the widest of them, so that nothing

@@ -1,7 +1,7 @@
 import QtQuick
 
 import Quib.Brand
-import Quib.Views
+import Quib.Shapes
 
 /*!
     One choice of a row of them, as a capsule.

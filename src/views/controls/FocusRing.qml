@@ -1,7 +1,8 @@
 import QtQuick
 
 import Quib.Brand
-import Quib.Views
+import Quib.Controls
+import Quib.Shapes
 
 /*!
     Shows around a control that the keyboard has come to, until the pointer is used.

@@ -1,7 +1,8 @@
 import QtQuick
 
 import Quib.Brand
-import Quib.Views
+import Quib.Shapes
+import Quib.Symbols
 
 /*!
     A symbol in a circle that shows under the pointer. Its help is its tooltip, and its name for those

@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 import Quib.Brand
-import Quib.Views
 
 /*!
     The entries of a menu, one of them highlighted by the pointer or the keyboard.

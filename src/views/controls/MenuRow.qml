@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 
 import Quib.Brand
-import Quib.Views
+import Quib.Shapes
+import Quib.Symbols
 
 /*!
     One entry of a menu, or the line between two groups of them.

@@ -1,7 +1,8 @@
 import QtQuick
 
 import Quib.Brand
-import Quib.Views
+import Quib.Shapes
+import Quib.Symbols
 
 /*!
     A capsule with a title and, if it has one, a symbol. Lights up under the pointer. A double click

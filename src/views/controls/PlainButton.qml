@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 
-import Quib.Views
+import Quib.Controls
 
 /*!
     A button that draws nothing of its own but a ring when the keyboard has come to it, and its help

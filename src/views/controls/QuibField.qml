@@ -3,7 +3,9 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 import Quib.Brand
-import Quib.Views
+import Quib.Controls
+import Quib.Shapes
+import Quib.Texts
 
 /*!
     A field for one line of text. What is bound to `value` is what the field says until somebody edits

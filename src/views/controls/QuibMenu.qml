@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 
 import Quib.Brand
-import Quib.Views
+import Quib.Controls
+import Quib.Shapes
 
 /*!
     A menu below what opens it, its parent, inside the window. The model has the roles title, symbol,

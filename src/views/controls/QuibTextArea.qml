@@ -3,7 +3,9 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 import Quib.Brand
-import Quib.Views
+import Quib.Controls
+import Quib.Shapes
+import Quib.Texts
 
 /*!
     A field for many lines of text, which scrolls. What is bound to `value` is what it says until

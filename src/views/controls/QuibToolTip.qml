@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 
 import Quib.Brand
-import Quib.Views
+import Quib.Controls
+import Quib.Shapes
 
 /*!
     A few words about a control, below it where there is room.

@@ -1,7 +1,5 @@
 import QtQuick
 
-import Quib.Views
-
 /*!
     A list of rows that are only read. Where they do not fit, the keyboard comes to it to scroll.
 */

@@ -1,7 +1,5 @@
 import QtQuick
 
-import Quib.Views
-
 /*!
     A list that is one stop of the keyboard: its current row, whose buttons are stops while
     `ListView.isCurrentItem`. Arrows, pages and ends step to the other rows.

@@ -2,8 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-import Quib.Views
-
 /*!
     Tells that a list goes on where it is cut: there its rows fade into the surface that it lies on, and
     one that scrolls up and down has a thumb. Stands beside the list, in front of it.

@@ -1,7 +1,7 @@
 import QtQuick
 
 import Quib.Brand
-import Quib.Views
+import Quib.Shapes
 
 /*!
     Shows how far a list has been scrolled, while it is and while the pointer is over it. Stands in the

@@ -1,7 +1,6 @@
 import QtQuick
 
 import Quib.Brand
-import Quib.Views
 
 /*!
     The small heading above a group, in capitals.

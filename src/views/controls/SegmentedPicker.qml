@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 import Quib.Brand
-import Quib.Views
+import Quib.Shapes
 
 /*!
     A choice between a few, side by side in a capsule. The keyboard comes to the whole of it, and

@@ -2,8 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-import Quib.Views
-
 /*!
     Items side by side, made by a delegate that is a SidewaysItem. One is the stop of the keyboard, and
     arrows and ends lead to the others.

@@ -3,7 +3,12 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 import Quib.Brand
-import Quib.Views
+import Quib.Controls
+import Quib.Core
+import Quib.Models
+import Quib.Shapes
+import Quib.Symbols
+import Quib.Tabs
 
 /*!
     Chooses a client, or none, from a menu.

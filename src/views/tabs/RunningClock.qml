@@ -1,6 +1,8 @@
 import QtQuick
 
-import Quib.Views
+import Quib.Controls
+import Quib.Motion
+import Quib.Texts
 
 /*!
     How long a timer has been running, counting. Drawn smaller where there is too little room: a hand

@@ -2,7 +2,7 @@
 
 #include "integrations/calendar/calendarstore.h"
 #include "platform/linux/calendar/calendarpermission.h"
-#include "platform/linux/calendar/eds/edscalendars.h"
+#include "platform/linux/calendar/edscalendars.h"
 
 #include <memory>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/calendar/eds/edscalendars.h"
+#include "platform/linux/calendar/edscalendars.h"
 
 #include <thread>
 
