@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/delegatefortest.h"
+#include "support/panel/delegatefortest.h"
 
 #include <QTest>
 

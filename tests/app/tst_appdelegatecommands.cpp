@@ -1,8 +1,8 @@
 #include "app/appdelegate.h"
 #include "app/panelengine.h"
 
-#include "support/fakeshell.h"
-#include "support/handclock.h"
+#include "support/fakes/fakeshell.h"
+#include "support/fakes/handclock.h"
 
 #include <QFileInfo>
 #include <QSignalSpy>

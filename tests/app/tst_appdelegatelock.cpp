@@ -1,5 +1,5 @@
 #include "app/notchpanel.h"
-#include "support/delegatefortest.h"
+#include "support/panel/delegatefortest.h"
 
 #include <QTest>
 

@@ -1,4 +1,4 @@
-#include "support/delegatefortest.h"
+#include "support/panel/delegatefortest.h"
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
 #include "app/appdelegate.h"
 #include "app/snapshot.h"
 
-#include "support/fakeshell.h"
+#include "support/fakes/fakeshell.h"
 
 #include <QDir>
 #include <QImage>

@@ -3,8 +3,8 @@
 #include "app/appdelegate.h"
 #include "app/offscreenpanel.h"
 #include "pictures/day.h"
-#include "support/fakeshell.h"
-#include "support/handclock.h"
+#include "support/fakes/fakeshell.h"
+#include "support/fakes/handclock.h"
 
 #include <optional>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/shownpanel.h"
+#include "support/panel/shownpanel.h"
 
 #include <functional>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/fakecommands.h"
+#include "support/fakes/fakecommands.h"
 #include "support/workspace.h"
 #include "views/tabs/clients/clienteditor.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "support/datafolderfortest.h"
-#include "support/handclock.h"
+#include "support/fakes/handclock.h"
 #include "views/models/totallistmodel.h"
 
 #include <QAbstractItemModelTester>

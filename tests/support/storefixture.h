@@ -3,7 +3,7 @@
 #include "model/file/datafile.h"
 #include "model/store.h"
 #include "support/datafolderfortest.h"
-#include "support/handclock.h"
+#include "support/fakes/handclock.h"
 
 #include <QSignalSpy>
 

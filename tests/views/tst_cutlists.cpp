@@ -1,4 +1,4 @@
-#include "support/crowdedpanel.h"
+#include "support/panel/crowdedpanel.h"
 
 using namespace Qt::StringLiterals;
 using quib::Tab;

@@ -1,7 +1,7 @@
 #include "support/clientbook.h"
-#include "support/hometab.h"
-#include "support/linkstab.h"
-#include "support/plaintexts.h"
+#include "support/panel/hometab.h"
+#include "support/panel/linkstab.h"
+#include "support/panel/plaintexts.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>

@@ -1,4 +1,4 @@
-#include "support/shownpanel.h"
+#include "support/panel/shownpanel.h"
 
 #include "brand/brand.h"
 #include "views/shapes/notchshape.h"

@@ -1,4 +1,4 @@
-#include "support/shownpanel.h"
+#include "support/panel/shownpanel.h"
 
 using namespace Qt::StringLiterals;
 

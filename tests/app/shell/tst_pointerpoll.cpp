@@ -1,6 +1,6 @@
 #include "app/shell/pointerpoll.h"
-#include "support/fakeshell.h"
-#include "support/handclock.h"
+#include "support/fakes/fakeshell.h"
+#include "support/fakes/handclock.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,6 +1,6 @@
 // How each compositor is started without a screen.
+#include "desktop/wayland/waylanddesk.h"
 #include "support/writefile.h"
-#include "wayland/waylanddesk.h"
 
 #include <QStandardPaths>
 

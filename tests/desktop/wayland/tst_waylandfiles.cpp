@@ -1,6 +1,6 @@
-#include "carrying.h"
+#include "desktop/desk/carrying.h"
+#include "desktop/wayland/waylanddesk.h"
 #include "support/writefile.h"
-#include "wayland/waylanddesk.h"
 
 using Kind = WaylandDesk::Kind;
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
-#include "wayland/waylanddesk.h"
+#include "desktop/wayland/waylanddesk.h"
 
-#include "deskconnection.h"
+#include "desktop/desk/deskconnection.h"
 
 #include <QTest>
 

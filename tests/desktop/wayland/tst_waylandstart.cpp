@@ -1,4 +1,4 @@
-#include "wayland/waylanddesk.h"
+#include "desktop/wayland/waylanddesk.h"
 
 #include <QTest>
 

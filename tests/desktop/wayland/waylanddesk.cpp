@@ -1,6 +1,6 @@
-#include "wayland/waylanddesk.h"
+#include "desktop/wayland/waylanddesk.h"
 
-#include "wayland/xpanel.h"
+#include "desktop/wayland/xpanel.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "deskhome.h"
+#include "desktop/desk/deskhome.h"
 
 #include <QImage>
 #include <QSize>

@@ -1,5 +1,5 @@
 // Outputs that come and go.
-#include "wayland/waylanddesk.h"
+#include "desktop/wayland/waylanddesk.h"
 
 #include <QDir>
 #include <QJsonArray>

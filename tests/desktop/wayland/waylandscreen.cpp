@@ -1,6 +1,6 @@
 // What pointer and keys do on the desk, and what is seen there.
-#include "wayland/waylanddesk.h"
-#include "wayland/xpanel.h"
+#include "desktop/wayland/waylanddesk.h"
+#include "desktop/wayland/xpanel.h"
 
 #include <QHash>
 

@@ -1,4 +1,4 @@
-#include "wayland/xpanel.h"
+#include "desktop/wayland/xpanel.h"
 
 #include <QPainter>
 

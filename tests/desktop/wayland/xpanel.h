@@ -1,6 +1,6 @@
 #pragma once
 
-#include "deskconnection.h"
+#include "desktop/desk/deskconnection.h"
 
 #include <QRect>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "integrations/calendar/calendarcontroller.h"
-#include "support/fakecalendarstore.h"
-#include "support/handclock.h"
+#include "support/fakes/fakecalendarstore.h"
+#include "support/fakes/handclock.h"
 
 /// A controller and its calendars, on a Monday at nine in UTC, which a test may change.
 struct CalendarFixture {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "integrations/media/mediacontroller.h"
-#include "support/fakeplayerlink.h"
-#include "support/handclock.h"
+#include "support/fakes/fakeplayerlink.h"
+#include "support/fakes/handclock.h"
 
 /// A controller whose players answer, and whose time passes, when the test says so.
 struct MediaFixture {

@@ -1,5 +1,5 @@
 #include "integrations/opening/actions.h"
-#include "support/fakeshell.h"
+#include "support/fakes/fakeshell.h"
 
 #include <QDir>
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "support/shelftab.h"
+#include "support/panel/shelftab.h"
 
 #include "views/shapes/notchshape.h"
 

@@ -3,8 +3,8 @@
 #include "views/models/launchlistmodel.h"
 #include "views/models/opentasklistmodel.h"
 
-#include "support/fakecalendarstore.h"
-#include "support/fakecommands.h"
+#include "support/fakes/fakecalendarstore.h"
+#include "support/fakes/fakecommands.h"
 #include "support/workspace.h"
 
 #include <QAbstractItemModelTester>

@@ -1,6 +1,6 @@
 #include "views/motion/beat.h"
 
-#include "support/handclock.h"
+#include "support/fakes/handclock.h"
 #include "support/travel.h"
 
 #include <QQmlComponent>

@@ -2,7 +2,7 @@
 #include "platform/linux/base/connectedbus.h"
 #include "platform/linux/media/fakeplayer.h"
 #include "platform/linux/media/mprisplayerlink.h"
-#include "support/handclock.h"
+#include "support/fakes/handclock.h"
 
 #include <QProcess>
 #include <QTest>

@@ -1,7 +1,7 @@
 #include "platform/linux/session/desktoplock.h"
 
 #include "platform/linux/base/privatebus.h"
-#include "support/lockservices.h"
+#include "support/fakes/lockservices.h"
 
 #include <QSignalSpy>
 #include <QTest>

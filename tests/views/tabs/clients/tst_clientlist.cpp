@@ -1,5 +1,5 @@
 #include "support/clientbook.h"
-#include "support/plaintexts.h"
+#include "support/panel/plaintexts.h"
 
 #include "brand/brand.h"
 

@@ -1,4 +1,4 @@
-#include "support/hometab.h"
+#include "support/panel/hometab.h"
 
 #include "views/motion/beat.h"
 

@@ -1,4 +1,4 @@
-#include "support/hometab.h"
+#include "support/panel/hometab.h"
 #include "support/toldtext.h"
 
 using namespace Qt::StringLiterals;

@@ -1,4 +1,4 @@
-#include "support/launchstrip.h"
+#include "support/panel/launchstrip.h"
 
 using namespace Qt::StringLiterals;
 

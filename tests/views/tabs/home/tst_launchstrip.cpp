@@ -1,4 +1,4 @@
-#include "support/launchstrip.h"
+#include "support/panel/launchstrip.h"
 #include "support/toldtext.h"
 
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "support/hometab.h"
+#include "support/panel/hometab.h"
 
 using namespace Qt::StringLiterals;
 using quib::Player;

@@ -1,4 +1,4 @@
-#include "support/hometab.h"
+#include "support/panel/hometab.h"
 #include "support/travel.h"
 
 #include "brand/brand.h"

@@ -1,5 +1,5 @@
-#include "support/linkstab.h"
-#include "support/plaintexts.h"
+#include "support/panel/linkstab.h"
+#include "support/panel/plaintexts.h"
 
 #include <QDir>
 

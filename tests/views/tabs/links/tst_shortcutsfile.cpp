@@ -1,4 +1,4 @@
-#include "support/linkstab.h"
+#include "support/panel/linkstab.h"
 
 using namespace Qt::StringLiterals;
 using quib::Tab;

@@ -1,4 +1,4 @@
-#include "support/notestab.h"
+#include "support/panel/notestab.h"
 
 using namespace Qt::StringLiterals;
 

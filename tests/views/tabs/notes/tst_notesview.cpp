@@ -1,5 +1,5 @@
 #include "model/time/utc.h"
-#include "support/notestab.h"
+#include "support/panel/notestab.h"
 #include "support/toldtext.h"
 
 #include <QMimeData>

@@ -1,4 +1,4 @@
-#include "support/shelftab.h"
+#include "support/panel/shelftab.h"
 
 using namespace Qt::StringLiterals;
 

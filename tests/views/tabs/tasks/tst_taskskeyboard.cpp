@@ -1,4 +1,4 @@
-#include "support/taskstab.h"
+#include "support/panel/taskstab.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,4 +1,4 @@
-#include "support/taskstab.h"
+#include "support/panel/taskstab.h"
 #include "support/toldtext.h"
 
 #include "brand/brand.h"

@@ -1,4 +1,4 @@
-#include "support/timetab.h"
+#include "support/panel/timetab.h"
 #include "support/toldtext.h"
 
 using namespace Qt::StringLiterals;

@@ -1,4 +1,4 @@
-#include "support/timetab.h"
+#include "support/panel/timetab.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;

@@ -1,5 +1,5 @@
 #include "model/time/utc.h"
-#include "support/timetab.h"
+#include "support/panel/timetab.h"
 
 #include "brand/brand.h"
 #include "model/locale/money.h"
