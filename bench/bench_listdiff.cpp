@@ -3,15 +3,16 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <functional>
 #include <random>
 
 namespace {
 
-using Ids = std::vector<QUuid>;
+using Ids = QList<QUuid>;
 
 Ids someIds(const benchmark::State& state)
 {
-    Ids ids(static_cast<std::size_t>(state.range(0)));
+    Ids ids(state.range(0));
     std::ranges::generate(ids, &QUuid::createUuid);
     return ids;
 }
@@ -19,7 +20,7 @@ Ids someIds(const benchmark::State& state)
 void measure(benchmark::State& state, const Ids& shown, const Ids& wanted)
 {
     for (auto _ : state) {
-        benchmark::DoNotOptimize(quib::diffRows(shown, wanted));
+        benchmark::DoNotOptimize(quib::diffRows(shown, wanted, std::identity()));
     }
     state.SetComplexityN(state.range(0));
 }

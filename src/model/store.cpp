@@ -92,17 +92,17 @@ void Store::updateClient(const Client& client)
     announce(&Store::clientsChanged);
 }
 
-void Store::addTask(const QString& title, const std::optional<QUuid>& client)
+QUuid Store::addTask(const QString& title, const std::optional<QUuid>& client)
 {
     const auto trimmed = title.trimmed();
     if (trimmed.isEmpty()) {
-        return;
+        return {};
     }
-    workspace().tasks.prepend({.id = QUuid::createUuid(),
-                               .title = trimmed,
-                               .clientID = client,
-                               .created = m_surroundings.clock()});
+    const auto id = QUuid::createUuid();
+    workspace().tasks.prepend(
+        {.id = id, .title = trimmed, .clientID = client, .created = m_surroundings.clock()});
     announce(&Store::tasksChanged);
+    return id;
 }
 
 void Store::toggleTask(const QUuid& id)

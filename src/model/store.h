@@ -79,8 +79,8 @@ public:
     Q_INVOKABLE void deleteClient(const QUuid& id);
     /// Replaces the first client of that id; unknown ids change nothing.
     void updateClient(const Client& client);
-    /// Blanks around the title are cut off; without anything else there is no task.
-    void addTask(const QString& title, const std::optional<QUuid>& client);
+    /// Blanks around the title are cut off; without anything else there is no task, and a null id.
+    Q_INVOKABLE QUuid addTask(const QString& title, const std::optional<QUuid>& client);
     Q_INVOKABLE void toggleTask(const QUuid& id);
     Q_INVOKABLE void deleteTask(const QUuid& id);
     Q_INVOKABLE void clearDoneTasks();
@@ -93,7 +93,7 @@ public:
     Q_INVOKABLE void removeLaunchItem(const QUuid& id);
     void setNotes(const QString& notes);
     /// Ends the running timer first, with the rule of stopTimer().
-    void startTimer(const std::optional<QUuid>& client, const QString& note);
+    Q_INVOKABLE void startTimer(const std::optional<QUuid>& client, const QString& note);
     /// A timer that ran for less than 30 s leaves no trace.
     Q_INVOKABLE void stopTimer();
     /// Where the timesheet was written; absent when it could not be.

@@ -25,9 +25,10 @@ void StoreTasksTest::addTask_putsTheNewTaskFirst()
     StoreFixture f;
     f.startWith({.tasks = {{.id = idOf(1)}}});
 
-    f.store.addTask(u"Call Ann"_s, idOf(7));
+    const auto id = f.store.addTask(u"Call Ann"_s, idOf(7));
 
     const auto& task = f.store.data().tasks.front();
+    QCOMPARE(task.id, id);
     QCOMPARE(task.title, u"Call Ann"_s);
     QCOMPARE(task.clientID, std::optional(idOf(7)));
     QCOMPARE(task.created, f.hands.now);

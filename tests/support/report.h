@@ -2,6 +2,7 @@
 
 #include "support/datafolderfortest.h"
 #include "support/fakes/handclock.h"
+#include "support/valueof.h"
 #include "views/models/totallistmodel.h"
 
 #include <QAbstractItemModelTester>
@@ -44,13 +45,11 @@ struct Report {
     /// "Café 3600 0.5 35" for each row.
     QStringList rows() const
     {
-        using Model = quib::TotalListModel;
         QStringList found;
         for (int row = 0; row < model.count(); ++row) {
-            const auto get = [&](int role) { return model.index(row).data(role).toString(); };
-            found << QStringList{get(Model::NameRole), get(Model::SecondsRole),
-                                 get(Model::FractionRole), get(Model::AmountRole)}
-                         .join(QLatin1Char(' '));
+            const auto get = [&](const char* role) { return valueOf(model, row, role).toString(); };
+            found << QStringList{get("name"), get("seconds"), get("fraction"), get("amount")}.join(
+                QLatin1Char(' '));
         }
         return found;
     }

@@ -29,4 +29,7 @@ inline std::optional<QUuid> clientOrNone(const QUuid& id)
     return id == NoClient::id() ? std::nullopt : std::optional(id);
 }
 
+/// Has QML pass an id where an operation takes a client or none. Once, as the program starts.
+void teachNoClient();
+
 } // namespace quib

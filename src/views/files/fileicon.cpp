@@ -11,7 +11,7 @@ namespace quib {
 
 void FileIcon::setSource(IconSource* source)
 {
-    if (followSource(m_source, source, this, &FileIcon::askAnew, &IconSource::changed)) {
+    if (followSource(m_source, source, this, &FileIcon::askAnew, {&IconSource::changed})) {
         Q_EMIT sourceChanged();
     }
 }

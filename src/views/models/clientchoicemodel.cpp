@@ -1,18 +1,27 @@
 #include "views/models/clientchoicemodel.h"
 
-#include "views/core/followsource.h"
-
 #include <algorithm>
 
 namespace quib {
 
 namespace {
 
-// No client of a workspace bears these.
-constexpr QUuid PlaceholderID(0x5e1ec7ed, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1);
-constexpr QUuid SeparatorID(0x5e1ec7ed, 0, 0, 0, 0, 0, 0, 0, 0, 0, 2);
+/// No client is the placeholder's and the separator's too.
+auto keyOf(const ClientChoice& choice)
+{
+    return std::pair(choice.isSeparator, choice.clientID);
+}
 
 } // namespace
+
+ClientChoiceModel::ClientChoiceModel(QObject* parent)
+    : StoreListModel({&Store::clientsChanged}, parent)
+{
+    setRoles(m_choices,
+             {{"title", &ClientChoice::title},
+              {"checked", &ClientChoice::isChecked},
+              {"separator", &ClientChoice::isSeparator}});
+}
 
 int ClientChoiceModel::selectedRow() const
 {
@@ -23,13 +32,6 @@ int ClientChoiceModel::selectedRow() const
 QUuid ClientChoiceModel::clientAt(int row) const
 {
     return m_choices.value(row).clientID;
-}
-
-void ClientChoiceModel::setStore(Store* store)
-{
-    if (followSource(m_store, store, this, &ClientChoiceModel::follow, &Store::clientsChanged)) {
-        Q_EMIT storeChanged();
-    }
 }
 
 void ClientChoiceModel::setShown(bool isShown)
@@ -62,54 +64,27 @@ void ClientChoiceModel::setSelection(const QUuid& selection)
     Q_EMIT selectionChanged();
 }
 
-int ClientChoiceModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_choices.size());
-}
-
-QVariant ClientChoiceModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
-        return {};
-    }
-    const auto& choice = m_choices.at(index.row());
-    switch (role) {
-    case TitleRole: return choice.title;
-    case CheckedRole: return choice.isChecked;
-    case SeparatorRole: return choice.isSeparator;
-    }
-    return {};
-}
-
-QHash<int, QByteArray> ClientChoiceModel::roleNames() const
-{
-    return {{TitleRole, "title"}, {CheckedRole, "checked"}, {SeparatorRole, "separator"}};
-}
-
 void ClientChoiceModel::follow()
 {
     if (!m_isShown) {
         return;
     }
-    show(m_choices, wanted());
+    show(m_choices, wanted(), keyOf);
     Q_EMIT choicesChanged();
 }
 
 QList<ClientChoice> ClientChoiceModel::wanted() const
 {
-    QList<ClientChoice> choices{{.id = PlaceholderID, .title = m_placeholder},
-                                {.id = SeparatorID, .isSeparator = true}};
-    if (!m_store) {
+    QList<ClientChoice> choices{{.title = m_placeholder}, {.isSeparator = true}};
+    if (!store()) {
         return choices;
     }
     const auto chosen = clientOrNone(m_selection);
-    for (const auto& client : m_store->data().clients) {
-        choices.append({.id = client.id,
-                        .clientID = client.id,
-                        .title = client.name,
-                        .isChecked = client.id == chosen});
+    for (const auto& client : store()->data().clients) {
+        choices.append(
+            {.clientID = client.id, .title = client.name, .isChecked = client.id == chosen});
     }
-    choices.front().isChecked = !m_store->client(chosen);
+    choices.front().isChecked = !store()->client(chosen);
     return choices;
 }
 

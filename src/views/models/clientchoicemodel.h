@@ -1,10 +1,7 @@
 #pragma once
 
-#include "model/store.h"
 #include "views/core/noclient.h"
-#include "views/models/recordlistmodel.h"
-
-#include <QPointer>
+#include "views/models/storelistmodel.h"
 
 #include <qqmlintegration.h>
 
@@ -12,7 +9,6 @@ namespace quib {
 
 /// One entry of a menu of clients.
 struct ClientChoice {
-    QUuid id; ///< Of the entry.
     QUuid clientID = NoClient::id();
     QString title;
     bool isChecked = false;
@@ -23,21 +19,17 @@ struct ClientChoice {
 
 /// The entries of a menu in which a client is chosen: the placeholder for none, a separator, then
 /// every client in display order.
-class ClientChoiceModel : public quib::RecordListModel {
+class ClientChoiceModel : public quib::StoreListModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(quib::Store* store READ store WRITE setStore NOTIFY storeChanged REQUIRED)
     Q_PROPERTY(bool shown READ isShown WRITE setShown NOTIFY shownChanged)
     Q_PROPERTY(QString placeholder READ placeholder WRITE setPlaceholder NOTIFY placeholderChanged)
     Q_PROPERTY(QUuid selection READ selection WRITE setSelection NOTIFY selectionChanged)
     Q_PROPERTY(int selectedRow READ selectedRow NOTIFY choicesChanged)
 
 public:
-    enum Role { TitleRole = Qt::UserRole, CheckedRole, SeparatorRole };
+    explicit ClientChoiceModel(QObject* parent = nullptr);
 
-    using RecordListModel::RecordListModel;
-
-    Store* store() const { return m_store; }
     bool isShown() const { return m_isShown; }
     QString placeholder() const { return m_placeholder; }
     QUuid selection() const { return m_selection; } ///< May be no client.
@@ -45,29 +37,21 @@ public:
     /// The client of a row; none for the placeholder and for what is no row.
     Q_INVOKABLE QUuid clientAt(int row) const;
 
-    /// Borrowed: only the placeholder is left once the store is gone.
-    void setStore(Store* store);
     /// While nobody sees it, it follows nothing; shown again it catches up.
     void setShown(bool isShown);
     void setPlaceholder(const QString& placeholder);
     void setSelection(const QUuid& selection);
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
 Q_SIGNALS:
-    void storeChanged();
     void shownChanged();
     void placeholderChanged();
     void selectionChanged();
     void choicesChanged();
 
 private:
-    void follow();
+    void follow() override;
     QList<ClientChoice> wanted() const;
 
-    QPointer<Store> m_store;
     bool m_isShown = true;
     QString m_placeholder;
     QUuid m_selection = NoClient::id();

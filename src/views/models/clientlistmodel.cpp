@@ -1,6 +1,5 @@
 #include "views/models/clientlistmodel.h"
 
-#include "views/core/followsource.h"
 #include "views/core/noclient.h"
 
 #include <QHash>
@@ -56,12 +55,16 @@ QList<Client> clientsWithTasks(const QList<Client>& clients, const QList<TaskIte
     return found;
 }
 
-void ClientListModel::setStore(Store* store)
+ClientListModel::ClientListModel(QObject* parent)
+    : StoreListModel({&Store::clientsChanged, &Store::tasksChanged, &Store::entriesChanged}, parent)
 {
-    if (followSource(m_store, store, this, &ClientListModel::follow, &Store::clientsChanged,
-                     &Store::tasksChanged, &Store::entriesChanged)) {
-        Q_EMIT storeChanged();
-    }
+    setRoles(m_clients,
+             {{"clientID", &ClientRecord::id},
+              {"name", &ClientRecord::name},
+              {"status", &ClientRecord::status},
+              {"isTimed", &ClientRecord::isTimed},
+              {"openTasks", &ClientRecord::openTasks},
+              {"details", &ClientRecord::details}});
 }
 
 void ClientListModel::setSelection(Selection selection)
@@ -105,49 +108,21 @@ int ClientListModel::rowBeside(int row, int by) const
     return found;
 }
 
-int ClientListModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_clients.size());
-}
-
-QVariant ClientListModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
-        return {};
-    }
-    const auto& client = m_clients.at(index.row());
-    switch (role) {
-    case IdRole: return client.id;
-    case NameRole: return client.name;
-    case StatusRole: return client.status;
-    case TimedRole: return client.isTimed;
-    case OpenTasksRole: return client.openTasks;
-    case DetailsRole: return client.details;
-    }
-    return {};
-}
-
-QHash<int, QByteArray> ClientListModel::roleNames() const
-{
-    return {{IdRole, "clientID"},   {NameRole, "name"},           {StatusRole, "status"},
-            {TimedRole, "isTimed"}, {OpenTasksRole, "openTasks"}, {DetailsRole, "details"}};
-}
-
 void ClientListModel::follow()
 {
-    show(m_clients, wanted());
+    show(m_clients, wanted(), &ClientRecord::id);
 }
 
 QList<ClientRecord> ClientListModel::wanted() const
 {
-    if (!m_store) {
+    if (!store()) {
         return {};
     }
-    const auto& data = m_store->data();
+    const auto& data = store()->data();
     const auto clients
         = m_selection == Selection::All ? data.clients : clientsWithTasks(data.clients, data.tasks);
     const auto openTasks = openTasksPerClient(data.tasks);
-    const auto running = m_store->runningEntry();
+    const auto running = store()->runningEntry();
     QList<ClientRecord> records;
     for (const auto& client : clients) {
         const bool isTimed = running && running->clientID == client.id;

@@ -1,10 +1,7 @@
 #pragma once
 
 #include "model/records/client.h"
-#include "model/store.h"
-#include "views/models/recordlistmodel.h"
-
-#include <QPointer>
+#include "views/models/storelistmodel.h"
 
 #include <qqmlintegration.h>
 
@@ -23,30 +20,19 @@ struct ClientRecord {
 };
 
 /// The clients of a store as rows, in display order.
-class ClientListModel : public quib::RecordListModel {
+class ClientListModel : public quib::StoreListModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(quib::Store* store READ store WRITE setStore NOTIFY storeChanged REQUIRED)
     Q_PROPERTY(Selection selection READ selection WRITE setSelection NOTIFY selectionChanged)
     Q_PROPERTY(QString heading READ heading NOTIFY countChanged)
 
 public:
-    enum Role {
-        IdRole = Qt::UserRole,
-        NameRole,
-        StatusRole,
-        TimedRole,
-        OpenTasksRole,
-        DetailsRole
-    };
-
     /// Which clients of the store are rows.
     enum class Selection { All, WithTasks };
     Q_ENUM(Selection)
 
-    using RecordListModel::RecordListModel;
+    explicit ClientListModel(QObject* parent = nullptr);
 
-    Store* store() const { return m_store; }
     Selection selection() const { return m_selection; }
     QString heading() const; ///< "3 clients", and so with every number.
     /// Of the first client of that id; -1 without one.
@@ -56,23 +42,15 @@ public:
     /// there. Of clients of one id only the first counts. Without a row it begins with the first.
     Q_INVOKABLE int rowBeside(int row, int by) const;
 
-    /// Borrowed: the rows are empty once the store is gone.
-    void setStore(Store* store);
     void setSelection(Selection selection);
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
 Q_SIGNALS:
-    void storeChanged();
     void selectionChanged();
 
 private:
-    void follow();
+    void follow() override;
     QList<ClientRecord> wanted() const;
 
-    QPointer<Store> m_store;
     Selection m_selection = Selection::All;
     QList<ClientRecord> m_clients;
 };

@@ -9,14 +9,6 @@
 
 namespace quib {
 
-/// An event of the day, as its row shows it.
-struct EventRecord {
-    QUuid id; ///< Made of the event's own.
-    CalendarController::Event event;
-
-    bool operator==(const EventRecord&) const = default;
-};
-
 /// What is left of the day's events as rows, in the calendar's order.
 class EventListModel : public quib::RecordListModel {
     Q_OBJECT
@@ -25,17 +17,11 @@ class EventListModel : public quib::RecordListModel {
                    calendarChanged REQUIRED)
 
 public:
-    enum Role { TitleRole = Qt::UserRole, StartRole, AllDayRole, ColorRole };
-
-    using RecordListModel::RecordListModel;
+    explicit EventListModel(QObject* parent = nullptr);
 
     CalendarController* calendar() const { return m_calendar; }
     /// Borrowed: the rows are empty once the calendar is gone.
     void setCalendar(CalendarController* calendar);
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
 
 Q_SIGNALS:
     void calendarChanged();
@@ -44,7 +30,7 @@ private:
     void follow();
 
     QPointer<CalendarController> m_calendar;
-    QList<EventRecord> m_events;
+    QList<CalendarController::Event> m_events;
 };
 
 } // namespace quib

@@ -1,183 +1,102 @@
 #include "views/models/listdiff.h"
 
-#include <QHash>
-
-#include <algorithm>
-#include <optional>
-#include <utility>
+#include <iterator>
 
 namespace quib {
 
 namespace {
 
-using Ids = std::span<const QUuid>;
 using Rows = std::vector<int>;
+using Kind = RowStep::Kind;
 
-int sizeOf(Ids ids)
-{
-    return static_cast<int>(ids.size());
-}
-
-int& at(Rows& rows, int row)
-{
-    return rows[static_cast<std::size_t>(row)];
-}
-
-int commonStart(Ids shown, Ids wanted)
-{
-    const auto differ = std::ranges::mismatch(shown, wanted);
-    return static_cast<int>(differ.in1 - shown.begin());
-}
-
-int commonEnd(Ids shown, Ids wanted)
-{
-    const auto differ = std::mismatch(shown.rbegin(), shown.rend(), wanted.rbegin(), wanted.rend());
-    return static_cast<int>(differ.first - shown.rbegin());
-}
-
-/// How many values below a bound a growing and shrinking collection of rows holds.
-class RowCounter {
+/// How often each number occurs.
+class Counts {
 public:
-    explicit RowCounter(int size)
-        : m_sums(static_cast<std::size_t>(size) + 1)
+    explicit Counts(std::span<const int> numbers, std::span<const int> others)
+        : m_counts(static_cast<std::size_t>(1 + std::max(largest(numbers), largest(others))))
     {
-    }
-
-    void add(int row, int count)
-    {
-        for (auto node = static_cast<std::size_t>(row) + 1; node < m_sums.size();
-             node += lowest(node)) {
-            m_sums[node] += count;
+        for (const int number : numbers) {
+            ++(*this)[number];
         }
     }
 
-    int below(int row) const
-    {
-        int count = 0;
-        for (auto node = static_cast<std::size_t>(row); node > 0; node -= lowest(node)) {
-            count += m_sums[node];
-        }
-        return count;
-    }
+    int& operator[](int number) { return m_counts[static_cast<std::size_t>(number)]; }
 
 private:
-    static std::size_t lowest(std::size_t node) { return node & (~node + 1); }
+    static int largest(std::span<const int> numbers)
+    {
+        return numbers.empty() ? 0 : *std::ranges::max_element(numbers);
+    }
 
-    std::vector<int> m_sums; ///< Each node sums as many rows as its lowest bit says.
+    std::vector<int> m_counts;
 };
 
-/// Which shown row each wanted row takes over.
-struct Matching {
-    Rows removed; ///< Shown rows that nobody wants.
-    Rows kept; ///< For each shown row that stays, in order, the wanted row that it becomes.
-    std::vector<bool> isNew; ///< For each wanted row.
-};
-
-Matching matchRows(Ids shown, Ids wanted)
+/// From the last to the first, so that no step changes the place of another.
+std::vector<RowStep> removeUnwanted(Rows& rows, std::span<const int> wanted)
 {
-    QHash<QUuid, std::optional<int>> firstFree; // Wanted rows that nobody has taken over.
-    std::vector<std::optional<int>> nextOfSameId(wanted.size());
-    for (int row = sizeOf(wanted) - 1; row >= 0; --row) {
-        auto& first = firstFree[wanted[static_cast<std::size_t>(row)]];
-        nextOfSameId[static_cast<std::size_t>(row)] = std::exchange(first, row);
-    }
-    Matching matching{.isNew = std::vector<bool>(wanted.size(), true)};
-    for (int row = 0; row < sizeOf(shown); ++row) {
-        auto& free = firstFree[shown[static_cast<std::size_t>(row)]];
-        if (!free) {
-            matching.removed.push_back(row);
-            continue;
+    Counts left(wanted, rows);
+    std::vector<RowStep> steps;
+    Rows kept;
+    for (int row = 0; row < std::ssize(rows); ++row) {
+        const int number = rows.begin()[row];
+        if (left[number]-- > 0) {
+            kept.push_back(number);
+        } else {
+            steps.push_back({Kind::Remove, row, -1});
         }
-        matching.kept.push_back(*free);
-        const auto taken = static_cast<std::size_t>(*free);
-        matching.isNew[taken] = false;
-        free = nextOfSameId[taken];
     }
-    return matching;
+    std::ranges::reverse(steps);
+    rows = std::move(kept);
+    return steps;
 }
 
-/// The most rows whose order is right already: a longest increasing subsequence.
-std::vector<bool> rowsThatRest(const Rows& kept)
+RowStep move(Rows& rows, int from, int to)
 {
-    Rows tails; // Of the best run of each length, the row in `kept` that ends it.
-    Rows before(kept.size(), -1); // Its predecessor in that run.
-    const auto value = [&](int row) { return kept[static_cast<std::size_t>(row)]; };
-    for (int row = 0; row < static_cast<int>(kept.size()); ++row) {
-        const auto tail = std::ranges::lower_bound(tails, value(row), {}, value);
-        at(before, row) = tail == tails.begin() ? -1 : *std::prev(tail);
-        if (tail == tails.end()) {
-            tails.push_back(row);
-        } else {
-            *tail = row;
-        }
+    const auto begin = rows.begin();
+    if (from < to) {
+        std::rotate(begin + from, begin + from + 1, begin + to + 1);
+    } else {
+        std::rotate(begin + to, begin + from, begin + from + 1);
     }
-    std::vector<bool> rest(kept.size(), false);
-    for (int row = tails.empty() ? -1 : tails.back(); row >= 0; row = at(before, row)) {
-        rest[static_cast<std::size_t>(row)] = true;
-    }
-    return rest;
+    return {Kind::Move, to, from};
 }
 
-/// Appends the moves that sort `kept`. Goes through the rows as they shall be, and puts each one
-/// that has to move behind its predecessor; what waits for its move stays where it was.
-void appendMoves(std::vector<RowStep>& steps, const Rows& kept, int offset)
+/// The first place behind `row` where the number stands.
+int placeBehind(int row, std::span<const int> numbers, int number)
 {
-    const auto size = static_cast<int>(kept.size());
-    const auto rests = rowsThatRest(kept);
-    Rows inOrder(kept.size());
-    std::ranges::generate(inOrder, [row = 0]() mutable { return row++; });
-    std::ranges::sort(inOrder, {}, [&](int row) { return kept[static_cast<std::size_t>(row)]; });
+    const auto found
+        = std::ranges::find(numbers.subspan(static_cast<std::size_t>(row) + 1), number);
+    return static_cast<int>(found - numbers.begin());
+}
 
-    RowCounter unmoved(size); // By the row where they stand.
-    RowCounter moved(size); // By the resting row that they stand behind.
-    for (int row = 0; row < size; ++row) {
-        unmoved.add(row, 1);
+/// Has the wanted number, which stands further down, stand in this row. When it is the next one
+/// anyway, the row before it is the one that has moved.
+RowStep moveIntoPlace(Rows& rows, int row, std::span<const int> wanted)
+{
+    const int number = wanted[static_cast<std::size_t>(row)];
+    if (rows.begin()[row + 1] != number) {
+        return move(rows, placeBehind(row, rows, number), row);
     }
-    int frontMoved = 0; // Those behind no resting row at all.
-    int anchor = -1; // The last resting row so far.
-    for (int done = 0; done < size; ++done) {
-        const int row = at(inOrder, done);
-        if (rests[static_cast<std::size_t>(row)]) {
-            anchor = row;
-            continue;
-        }
-        const int from = unmoved.below(row) + moved.below(row) + frontMoved;
-        const int behind = anchor < 0
-            ? frontMoved
-            : unmoved.below(anchor + 1) + moved.below(anchor + 1) + frontMoved;
-        const int to = from < behind ? behind - 1 : behind;
-        if (from != to) {
-            steps.push_back({RowStep::Kind::Move, offset + to, offset + from});
-        }
-        unmoved.add(row, -1);
-        if (anchor < 0) {
-            ++frontMoved;
-        } else {
-            moved.add(anchor, 1);
-        }
-    }
+    const auto last = static_cast<int>(rows.size()) - 1;
+    return move(rows, row, std::min(placeBehind(row, wanted, rows.begin()[row]), last));
 }
 
 } // namespace
 
-std::vector<RowStep> diffRows(Ids shown, Ids wanted)
+std::vector<RowStep> diffRows(std::vector<int> shown, std::span<const int> wanted)
 {
-    const int start = commonStart(shown, wanted);
-    shown = shown.subspan(static_cast<std::size_t>(start));
-    wanted = wanted.subspan(static_cast<std::size_t>(start));
-    const auto end = static_cast<std::size_t>(commonEnd(shown, wanted));
-    const auto matching
-        = matchRows(shown.first(shown.size() - end), wanted.first(wanted.size() - end));
-
-    std::vector<RowStep> steps;
-    std::ranges::transform(matching.removed.rbegin(), matching.removed.rend(),
-                           std::back_inserter(steps), [&](int row) {
-                               return RowStep{RowStep::Kind::Remove, start + row, -1};
-                           });
-    appendMoves(steps, matching.kept, start);
-    for (int row = 0; row < static_cast<int>(matching.isNew.size()); ++row) {
-        if (matching.isNew[static_cast<std::size_t>(row)]) {
-            steps.push_back({RowStep::Kind::Insert, start + row, start + row});
+    auto steps = removeUnwanted(shown, wanted);
+    Counts left(shown, wanted);
+    for (int row = 0; row < std::ssize(wanted); ++row) {
+        const int number = wanted[static_cast<std::size_t>(row)];
+        if (left[number] == 0) {
+            shown.insert(shown.begin() + row, number);
+            steps.push_back({Kind::Insert, row, row});
+            continue;
+        }
+        --left[number];
+        if (shown.begin()[row] != number) {
+            steps.push_back(moveIntoPlace(shown, row, wanted));
         }
     }
     return steps;

@@ -1,8 +1,13 @@
 #pragma once
 
-#include <QUuid>
+#include <QHash>
+#include <QList>
 
+#include <algorithm>
+#include <functional>
+#include <iterator>
 #include <span>
+#include <type_traits>
 #include <vector>
 
 namespace quib {
@@ -19,8 +24,42 @@ struct RowStep {
     bool operator==(const RowStep&) const = default;
 };
 
-/// The fewest steps from `shown` to `wanted`: each row that goes, comes or changes its place among
-/// the others costs one. An id may repeat: its rows are told apart by their order.
-std::vector<RowStep> diffRows(std::span<const QUuid> shown, std::span<const QUuid> wanted);
+/// Steps from `shown` to `wanted`, in which equal numbers are the same row; one that repeats is as
+/// many rows, told apart by their order. A row that goes, comes or changes its place among the
+/// others is one step; where many change places at once there may be more steps than rows that do.
+std::vector<RowStep> diffRows(std::vector<int> shown, std::span<const int> wanted);
+
+/// The same for records of which `key` tells which is which.
+template <typename Record, typename Key>
+std::vector<RowStep> diffRows(const QList<Record>& shown, const QList<Record>& wanted, Key key)
+{
+    const auto start = std::ranges::mismatch(shown, wanted, {}, key, key).in1 - shown.begin();
+    const auto isSame = [&](const Record& one, const Record& other) {
+        return std::invoke(key, one) == std::invoke(key, other);
+    };
+    const auto end = std::mismatch(shown.rbegin(), shown.rend() - start, wanted.rbegin(),
+                                   wanted.rend() - start, isSame)
+                         .first
+        - shown.rbegin();
+
+    QHash<std::decay_t<std::invoke_result_t<Key, const Record&>>, int> numbers;
+    const auto numberOf = [&](const Record& record) {
+        int& number = numbers[std::invoke(key, record)];
+        number = number > 0 ? number : static_cast<int>(numbers.size());
+        return number;
+    };
+    const auto numbersOf = [&](const QList<Record>& records) {
+        std::vector<int> found;
+        std::transform(records.begin() + start, records.end() - end, std::back_inserter(found),
+                       numberOf);
+        return found;
+    };
+    auto steps = diffRows(numbersOf(shown), numbersOf(wanted));
+    for (auto& step : steps) {
+        step.row += static_cast<int>(start);
+        step.source += step.kind == RowStep::Kind::Remove ? 0 : static_cast<int>(start);
+    }
+    return steps;
+}
 
 } // namespace quib

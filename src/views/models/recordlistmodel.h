@@ -4,15 +4,15 @@
 
 #include <QAbstractListModel>
 
-#include <algorithm>
+#include <utility>
 
 namespace quib {
 
-/// Base of the models that show a list of records, one row per record, keyed by `id`.
+/// Base of the models that show a list of records, one row per record.
 ///
-/// A derived model keeps the records that it shows and calls show() with the wanted ones. Only the
-/// rows that came, went, moved or changed are announced, so a view keeps its delegates, its scroll
-/// position and its focus.
+/// A derived model keeps the records that it shows, tells once what views see of them, and calls
+/// show() with the wanted ones. Only the rows that came, went, moved or changed are announced, so a
+/// view keeps its delegates, its scroll position and its focus.
 class RecordListModel : public QAbstractListModel {
     Q_OBJECT
     Q_PROPERTY(int count READ count NOTIFY countChanged)
@@ -20,46 +20,68 @@ class RecordListModel : public QAbstractListModel {
 public:
     using QAbstractListModel::QAbstractListModel;
 
-    int count() const { return rowCount({}); }
+    int count() const { return m_count ? m_count() : 0; }
+    int rowCount(const QModelIndex& parent = {}) const final;
+    QVariant data(const QModelIndex& index, int role) const final;
+    QHash<int, QByteArray> roleNames() const final;
 
 Q_SIGNALS:
     void countChanged();
 
 protected:
+    /// What views see of a record, by name. The roles are Qt::UserRole and on, in this order.
     template <typename Record>
-    void show(QList<Record>& shown, const QList<Record>& wanted);
+    using Roles
+        = std::initializer_list<std::pair<QByteArray, std::function<QVariant(const Record&)>>>;
+
+    /// The records stay the derived model's.
+    template <typename Record>
+    void setRoles(const QList<Record>& shown, Roles<std::type_identity_t<Record>> roles);
+    /// `key` tells which record is which: a member, or a function of a record.
+    template <typename Record, typename Key>
+    void show(QList<Record>& shown, const QList<Record>& wanted, Key key);
 
 private:
-    template <typename Record>
-    static std::vector<QUuid> idsOf(const QList<Record>& records);
+    struct Role {
+        QByteArray name;
+        std::function<QVariant(int row)> value;
+    };
+
     template <typename Record>
     void take(const RowStep& step, QList<Record>& shown, const QList<Record>& wanted);
     template <typename Record>
     void refresh(QList<Record>& shown, const QList<Record>& wanted);
+
+    std::function<int()> m_count;
+    std::vector<Role> m_roles;
 };
 
 template <typename Record>
-void RecordListModel::show(QList<Record>& shown, const QList<Record>& wanted)
+void RecordListModel::setRoles(const QList<Record>& shown,
+                               Roles<std::type_identity_t<Record>> roles)
+{
+    m_count = [&shown] { return static_cast<int>(shown.size()); };
+    for (const auto& role : roles) {
+        m_roles.push_back({.name = role.first, .value = [&shown, value = role.second](int row) {
+                               return value(shown.at(row));
+                           }});
+    }
+}
+
+template <typename Record, typename Key>
+void RecordListModel::show(QList<Record>& shown, const QList<Record>& wanted, Key key)
 {
     if (shown.isSharedWith(wanted)) {
         return;
     }
     const auto sizeBefore = shown.size();
-    for (const auto& step : diffRows(idsOf(shown), idsOf(wanted))) {
+    for (const auto& step : diffRows(shown, wanted, key)) {
         take(step, shown, wanted);
     }
     refresh(shown, wanted);
     if (shown.size() != sizeBefore) {
         Q_EMIT countChanged();
     }
-}
-
-template <typename Record>
-std::vector<QUuid> RecordListModel::idsOf(const QList<Record>& records)
-{
-    std::vector<QUuid> ids(static_cast<std::size_t>(records.size()));
-    std::ranges::transform(records, ids.begin(), &Record::id);
-    return ids;
 }
 
 template <typename Record>
@@ -86,7 +108,7 @@ void RecordListModel::take(const RowStep& step, QList<Record>& shown, const QLis
     Q_UNREACHABLE();
 }
 
-/// After the steps both lists hold the same ids; what else differs is taken over in place.
+/// After the steps both lists hold the same records; what differs in them is taken over in place.
 template <typename Record>
 void RecordListModel::refresh(QList<Record>& shown, const QList<Record>& wanted)
 {

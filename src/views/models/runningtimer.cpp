@@ -1,14 +1,13 @@
 #include "views/models/runningtimer.h"
 
 #include "views/core/followsource.h"
-#include "views/core/noclient.h"
 
 namespace quib {
 
 void RunningTimer::setStore(Store* store)
 {
-    if (followSource(m_store, store, this, &RunningTimer::follow, &Store::entriesChanged,
-                     &Store::clientsChanged)) {
+    if (followSource(m_store, store, this, &RunningTimer::follow,
+                     {&Store::entriesChanged, &Store::clientsChanged})) {
         Q_EMIT storeChanged();
     }
 }
@@ -21,13 +20,6 @@ void RunningTimer::setPlaceholder(const QString& placeholder)
     m_placeholder = placeholder;
     follow();
     Q_EMIT placeholderChanged();
-}
-
-void RunningTimer::start(const QUuid& client, const QString& note)
-{
-    if (m_store) {
-        m_store->startTimer(clientOrNone(client), note);
-    }
 }
 
 void RunningTimer::follow()

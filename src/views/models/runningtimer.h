@@ -33,8 +33,6 @@ public:
     /// Borrowed: nothing runs once the store is gone.
     void setStore(Store* store);
     void setPlaceholder(const QString& placeholder);
-    /// Starts another timer in the store; a client that is gone keeps its id there.
-    Q_INVOKABLE void start(const QUuid& client, const QString& note);
 
 Q_SIGNALS:
     void storeChanged();

@@ -27,12 +27,22 @@ QString symbolOf(const ShortcutButton& button)
     return applicationOf(button).isEmpty() ? u"globe"_s : QString();
 }
 
-QUuid idOf(const ShortcutButton& button)
+auto keyOf(const ShortcutButton& button)
 {
-    return QUuid::createUuidV5({}, button.name + QChar(QChar::Null) + button.url);
+    return std::pair(button.name, button.url);
 }
 
 } // namespace
+
+ShortcutButtonModel::ShortcutButtonModel(QObject* parent)
+    : RecordListModel(parent)
+{
+    setRoles(m_buttons,
+             {{"name", &ShortcutButton::name},
+              {"symbol", symbolOf},
+              {"application", applicationOf},
+              {"url", &ShortcutButton::url}});
+}
 
 void ShortcutButtonModel::setGroup(const ShortcutGroup& group)
 {
@@ -40,40 +50,8 @@ void ShortcutButtonModel::setGroup(const ShortcutGroup& group)
         return;
     }
     m_group = group;
-    QList<ButtonRecord> records;
-    for (const auto& button : group.buttons) {
-        records.append({.id = idOf(button), .button = button});
-    }
-    show(m_buttons, records);
+    show(m_buttons, group.buttons, keyOf);
     Q_EMIT groupChanged();
-}
-
-int ShortcutButtonModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_buttons.size());
-}
-
-QVariant ShortcutButtonModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
-        return {};
-    }
-    const auto& button = m_buttons.at(index.row()).button;
-    switch (role) {
-    case NameRole: return button.name;
-    case SymbolRole: return symbolOf(button);
-    case ApplicationRole: return applicationOf(button);
-    case UrlRole: return button.url;
-    }
-    return {};
-}
-
-QHash<int, QByteArray> ShortcutButtonModel::roleNames() const
-{
-    return {{NameRole, "name"},
-            {SymbolRole, "symbol"},
-            {ApplicationRole, "application"},
-            {UrlRole, "url"}};
 }
 
 } // namespace quib

@@ -17,6 +17,16 @@ bool isGold(const ShortcutGroup& group)
 
 } // namespace
 
+ShortcutGroupModel::ShortcutGroupModel(QObject* parent)
+    : RecordListModel(parent)
+{
+    setRoles(m_groups,
+             {{"title", &ShortcutGroup::title},
+              {"tint", [](const ShortcutGroup& group) { return Brand::named(group.color); }},
+              {"gold", isGold},
+              {"group", [](const ShortcutGroup& group) { return QVariant::fromValue(group); }}});
+}
+
 QString ShortcutGroupModel::problem() const
 {
     return m_shortcuts ? m_shortcuts->problem().value_or(QString()) : QString();
@@ -25,45 +35,15 @@ QString ShortcutGroupModel::problem() const
 void ShortcutGroupModel::setShortcuts(Shortcuts* shortcuts)
 {
     if (followSource(m_shortcuts, shortcuts, this, &ShortcutGroupModel::follow,
-                     &Shortcuts::groupsChanged, &Shortcuts::problemChanged)) {
+                     {&Shortcuts::groupsChanged, &Shortcuts::problemChanged})) {
         Q_EMIT shortcutsChanged();
     }
 }
 
-int ShortcutGroupModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_groups.size());
-}
-
-QVariant ShortcutGroupModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
-        return {};
-    }
-    const auto& group = m_groups.at(index.row()).group;
-    switch (role) {
-    case TitleRole: return group.title;
-    case TintRole: return Brand::named(group.color);
-    case GoldRole: return isGold(group);
-    case GroupRole: return QVariant::fromValue(group);
-    }
-    return {};
-}
-
-QHash<int, QByteArray> ShortcutGroupModel::roleNames() const
-{
-    return {{TitleRole, "title"}, {TintRole, "tint"}, {GoldRole, "gold"}, {GroupRole, "group"}};
-}
-
 void ShortcutGroupModel::follow()
 {
-    QList<GroupRecord> records;
-    if (m_shortcuts) {
-        for (const auto& group : m_shortcuts->groups()) {
-            records.append({.id = QUuid::createUuidV5({}, group.title), .group = group});
-        }
-    }
-    show(m_groups, records);
+    show(m_groups, m_shortcuts ? m_shortcuts->groups() : QList<ShortcutGroup>(),
+         &ShortcutGroup::title);
     Q_EMIT problemChanged();
 }
 

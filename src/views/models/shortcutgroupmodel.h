@@ -9,15 +9,8 @@
 
 namespace quib {
 
-/// A group as lists show it. Its title tells it apart: a group that was edited stays where it is.
-struct GroupRecord {
-    QUuid id;
-    ShortcutGroup group;
-
-    bool operator==(const GroupRecord&) const = default;
-};
-
-/// The groups of the user's shortcuts as rows, in the order of the file.
+/// The groups of the user's shortcuts as rows, in the order of the file. A title tells a group
+/// apart: one that was edited stays where it is.
 class ShortcutGroupModel : public quib::RecordListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -26,19 +19,13 @@ class ShortcutGroupModel : public quib::RecordListModel {
     Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)
 
 public:
-    enum Role { TitleRole = Qt::UserRole, TintRole, GoldRole, GroupRole };
-
-    using RecordListModel::RecordListModel;
+    explicit ShortcutGroupModel(QObject* parent = nullptr);
 
     Shortcuts* shortcuts() const { return m_shortcuts; }
     QString problem() const; ///< Empty while there is none.
 
     /// Borrowed: the rows are empty once they are gone.
     void setShortcuts(Shortcuts* shortcuts);
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
 
 Q_SIGNALS:
     void shortcutsChanged();
@@ -48,7 +35,7 @@ private:
     void follow();
 
     QPointer<Shortcuts> m_shortcuts;
-    QList<GroupRecord> m_groups;
+    QList<ShortcutGroup> m_groups;
 };
 
 } // namespace quib

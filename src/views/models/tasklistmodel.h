@@ -1,10 +1,7 @@
 #pragma once
 
-#include "model/store.h"
 #include "views/core/noclient.h"
-#include "views/models/recordlistmodel.h"
-
-#include <QPointer>
+#include "views/models/storelistmodel.h"
 
 #include <qqmlintegration.h>
 
@@ -26,45 +23,32 @@ struct TaskRecord {
 QList<TaskItem> visibleTasks(const QList<TaskItem>& tasks, const std::optional<QUuid>& filter);
 
 /// The visible tasks of a store as rows.
-class TaskListModel : public quib::RecordListModel {
+class TaskListModel : public quib::StoreListModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(quib::Store* store READ store WRITE setStore NOTIFY storeChanged REQUIRED)
     Q_PROPERTY(QUuid filter READ filter WRITE setFilter NOTIFY filterChanged)
     Q_PROPERTY(QString clearDoneTitle READ clearDoneTitle NOTIFY clearDoneTitleChanged)
 
 public:
-    enum Role { IdRole = Qt::UserRole, TitleRole, DoneRole, ClientNameRole, ClientStatusRole };
+    explicit TaskListModel(QObject* parent = nullptr);
 
-    using RecordListModel::RecordListModel;
-
-    Store* store() const { return m_store; }
     QUuid filter() const { return m_filter; } ///< No client for the tasks of all and of none.
     /// "Clear 3 done", counting the whole store; empty while no task is done.
     QString clearDoneTitle() const { return m_clearDoneTitle; }
 
-    /// Borrowed: the rows are empty once the store is gone.
-    void setStore(Store* store);
     void setFilter(const QUuid& filter);
-    /// A new task in the store, of a client or of none. Its row; -1 where none came or it is not
-    /// shown.
-    Q_INVOKABLE int addTask(const QString& title, const QUuid& client);
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    /// Of the first task of that id; -1 where none is shown.
+    Q_INVOKABLE int rowOf(const QUuid& id) const;
 
 Q_SIGNALS:
-    void storeChanged();
     void filterChanged();
     void clearDoneTitleChanged();
 
 private:
-    void follow();
+    void follow() override;
     void countDone();
     QList<TaskRecord> wanted() const;
 
-    QPointer<Store> m_store;
     QUuid m_filter = NoClient::id();
     QString m_clearDoneTitle;
     QList<TaskRecord> m_tasks;

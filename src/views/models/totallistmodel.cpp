@@ -1,7 +1,6 @@
 #include "views/models/totallistmodel.h"
 
 #include "model/locale/period.h"
-#include "views/core/followsource.h"
 
 #include <algorithm>
 #include <limits>
@@ -51,12 +50,15 @@ QList<TotalRecord> totalRecords(const QList<ClientTotal>& totals)
     return records;
 }
 
-void TotalListModel::setStore(Store* store)
+TotalListModel::TotalListModel(QObject* parent)
+    : StoreListModel({&Store::entriesChanged, &Store::clientsChanged}, parent)
 {
-    if (followSource(m_store, store, this, &TotalListModel::refresh, &Store::entriesChanged,
-                     &Store::clientsChanged)) {
-        Q_EMIT storeChanged();
-    }
+    setRoles(m_totals,
+             {{"name", &TotalRecord::name},
+              {"status", &TotalRecord::status},
+              {"seconds", &TotalRecord::seconds},
+              {"fraction", &TotalRecord::fraction},
+              {"amount", &TotalRecord::amount}});
 }
 
 void TotalListModel::setShown(bool isShown)
@@ -65,7 +67,7 @@ void TotalListModel::setShown(bool isShown)
         return;
     }
     m_isShown = isShown;
-    refresh();
+    follow();
     Q_EMIT shownChanged();
 }
 
@@ -75,53 +77,24 @@ void TotalListModel::setPeriod(Period period)
         return;
     }
     m_period = period;
-    refresh();
+    follow();
     Q_EMIT periodChanged();
 }
 
-void TotalListModel::refresh()
+void TotalListModel::follow()
 {
     if (!m_isShown) {
         return;
     }
-    show(m_totals, m_store ? totalRecords(m_store->totals(since())) : QList<TotalRecord>());
+    show(m_totals, store() ? totalRecords(store()->totals(since())) : QList<TotalRecord>(),
+         &TotalRecord::id);
     addUp();
-}
-
-int TotalListModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_totals.size());
-}
-
-QVariant TotalListModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
-        return {};
-    }
-    const auto& total = m_totals.at(index.row());
-    switch (role) {
-    case NameRole: return total.name;
-    case StatusRole: return total.status;
-    case SecondsRole: return total.seconds;
-    case FractionRole: return total.fraction;
-    case AmountRole: return total.amount;
-    }
-    return {};
-}
-
-QHash<int, QByteArray> TotalListModel::roleNames() const
-{
-    return {{NameRole, "name"},
-            {StatusRole, "status"},
-            {SecondsRole, "seconds"},
-            {FractionRole, "fraction"},
-            {AmountRole, "amount"}};
 }
 
 QDateTime TotalListModel::since() const
 {
-    return m_period == Period::Week ? startOfWeek(m_store->now(), m_store->locale())
-                                    : startOfMonth(m_store->now(), m_store->locale());
+    return m_period == Period::Week ? startOfWeek(store()->now(), store()->locale())
+                                    : startOfMonth(store()->now(), store()->locale());
 }
 
 void TotalListModel::addUp()

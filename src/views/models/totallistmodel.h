@@ -1,9 +1,6 @@
 #pragma once
 
-#include "model/store.h"
-#include "views/models/recordlistmodel.h"
-
-#include <QPointer>
+#include "views/models/storelistmodel.h"
 
 #include <qqmlintegration.h>
 
@@ -27,52 +24,41 @@ QList<TotalRecord> totalRecords(const QList<ClientTotal>& totals);
 
 /// The time worked per client in the running week or month of the user's calendar. Follows the
 /// store, but not the clock: while time passes, somebody has to refresh().
-class TotalListModel : public quib::RecordListModel {
+class TotalListModel : public quib::StoreListModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(quib::Store* store READ store WRITE setStore NOTIFY storeChanged REQUIRED)
     Q_PROPERTY(bool shown READ isShown WRITE setShown NOTIFY shownChanged)
     Q_PROPERTY(Period period READ period WRITE setPeriod NOTIFY periodChanged)
     Q_PROPERTY(double totalSeconds READ totalSeconds NOTIFY totalsChanged)
     Q_PROPERTY(double totalAmount READ totalAmount NOTIFY totalsChanged)
 
 public:
-    enum Role { NameRole = Qt::UserRole, StatusRole, SecondsRole, FractionRole, AmountRole };
-
     enum class Period { Week, Month };
     Q_ENUM(Period)
 
-    using RecordListModel::RecordListModel;
+    explicit TotalListModel(QObject* parent = nullptr);
 
-    Store* store() const { return m_store; }
     bool isShown() const { return m_isShown; }
     Period period() const { return m_period; }
     double totalSeconds() const { return m_totalSeconds; }
     double totalAmount() const { return m_totalAmount; } ///< In the user's currency.
 
-    /// Borrowed: the rows are empty once the store is gone.
-    void setStore(Store* store);
     /// While nobody sees it, it follows nothing; shown again it catches up.
     void setShown(bool isShown);
     void setPeriod(Period period);
     /// Looks at the clock anew.
-    Q_INVOKABLE void refresh();
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    Q_INVOKABLE void refresh() { follow(); }
 
 Q_SIGNALS:
-    void storeChanged();
     void shownChanged();
     void periodChanged();
     void totalsChanged();
 
 private:
+    void follow() override;
     QDateTime since() const;
     void addUp();
 
-    QPointer<Store> m_store;
     bool m_isShown = true;
     Period m_period = Period::Week;
     QList<TotalRecord> m_totals;

@@ -16,7 +16,7 @@ QString ChosenClient::status() const
 
 void ChosenClient::setStore(Store* store)
 {
-    if (followSource(m_store, store, this, &ChosenClient::follow, &Store::clientsChanged)) {
+    if (followSource(m_store, store, this, &ChosenClient::follow, {&Store::clientsChanged})) {
         Q_EMIT storeChanged();
     }
 }

@@ -1,5 +1,6 @@
 #include "views/models/clientchoicemodel.h"
 
+#include "support/valueof.h"
 #include "support/workspace.h"
 
 #include <QAbstractItemModelTester>
@@ -16,13 +17,12 @@ QStringList entries(const ClientChoiceModel& model)
 {
     QStringList found;
     for (int row = 0; row < model.count(); ++row) {
-        const auto index = model.index(row);
-        if (index.data(ClientChoiceModel::SeparatorRole).toBool()) {
+        if (valueOf(model, row, "separator").toBool()) {
             found << u"-"_s;
             continue;
         }
-        const auto star = index.data(ClientChoiceModel::CheckedRole).toBool() ? u"*"_s : QString();
-        found << star + index.data(ClientChoiceModel::TitleRole).toString();
+        const auto star = valueOf(model, row, "checked").toBool() ? u"*"_s : QString();
+        found << star + valueOf(model, row, "title").toString();
     }
     return found;
 }

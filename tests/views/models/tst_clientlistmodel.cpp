@@ -1,5 +1,6 @@
 #include "views/models/clientlistmodel.h"
 
+#include "support/valueof.h"
 #include "support/workspace.h"
 #include "views/core/noclient.h"
 
@@ -16,7 +17,7 @@ QStringList names(const ClientListModel& model)
 {
     QStringList found;
     for (int row = 0; row < model.count(); ++row) {
-        found << model.index(row).data(ClientListModel::NameRole).toString();
+        found << valueOf(model, row, "name").toString();
     }
     return found;
 }
@@ -52,8 +53,8 @@ void ClientListModelTest::rows_areTheClientsInOrder()
     model.setStore(workspace.store.get());
 
     QCOMPARE(names(model), (QStringList{u"Corner Café"_s, u"Bloom Florist"_s}));
-    QCOMPARE(model.index(0).data(ClientListModel::IdRole).toUuid(), id);
-    QCOMPARE(model.index(0).data(ClientListModel::StatusRole).toString(), u"build"_s);
+    QCOMPARE(valueOf(model, 0, "clientID").toUuid(), id);
+    QCOMPARE(valueOf(model, 0, "status").toString(), u"build"_s);
 }
 
 void ClientListModelTest::withTasks_leavesOutWhoHasNone()
@@ -125,8 +126,8 @@ void ClientListModelTest::openTasks_areCountedPerClient()
 
     model.setStore(workspace.store.get());
 
-    QCOMPARE(model.index(0).data(ClientListModel::OpenTasksRole).toInt(), 3);
-    QCOMPARE(model.index(1).data(ClientListModel::OpenTasksRole).toInt(), 0);
+    QCOMPARE(valueOf(model, 0, "openTasks").toInt(), 3);
+    QCOMPARE(valueOf(model, 1, "openTasks").toInt(), 0);
 }
 
 void ClientListModelTest::taskTicked_touchesOneRow()
@@ -147,7 +148,7 @@ void ClientListModelTest::taskTicked_touchesOneRow()
     QCOMPARE(reset.count() + removed.count(), 0);
     QCOMPARE(changed.count(), 1);
     QCOMPARE(changed.front().front().toModelIndex().row(), 1);
-    QCOMPARE(model.index(1).data(ClientListModel::OpenTasksRole).toInt(), 0);
+    QCOMPARE(valueOf(model, 1, "openTasks").toInt(), 0);
 }
 
 void ClientListModelTest::runningMark_isOfTheTimedClient()
@@ -158,8 +159,8 @@ void ClientListModelTest::runningMark_isOfTheTimedClient()
     ClientListModel model;
     model.setStore(workspace.store.get());
     const auto marks = [&] {
-        return QList<bool>{model.index(0).data(ClientListModel::TimedRole).toBool(),
-                           model.index(1).data(ClientListModel::TimedRole).toBool()};
+        return QList<bool>{valueOf(model, 0, "isTimed").toBool(),
+                           valueOf(model, 1, "isTimed").toBool()};
     };
 
     workspace.store->startTimer(bloom, {});

@@ -4,7 +4,7 @@
 #include "views/models/opentasklistmodel.h"
 
 #include "support/fakes/fakecalendarstore.h"
-#include "support/fakes/fakecommands.h"
+#include "support/valueof.h"
 #include "support/workspace.h"
 
 #include <QAbstractItemModelTester>
@@ -25,22 +25,19 @@ class HomeModelsTest : public QObject {
 private Q_SLOTS:
     void tasks_areTheFirstThreeOpenOnes();
     void taskDone_bringsTheNextOne();
-    void launchItem_goesToTheEnd();
+    void launchItems_followTheStore();
     void launchItem_isTakenAway();
-    void link_withoutAddress_isNone();
-    void application_isNamedByTheShell();
-    void application_storeGoneMeanwhile_isDropped();
     void events_changeRowByRow();
     void sourceGone_leavesNoRows();
 };
 
 namespace {
 
-QStringList texts(const QAbstractItemModel& model, int role)
+QStringList texts(const QAbstractItemModel& model, const QByteArray& role)
 {
     QStringList found;
     for (int row = 0; row < model.rowCount(); ++row) {
-        found << model.index(row, 0).data(role).toString();
+        found << valueOf(model, row, role).toString();
     }
     return found;
 }
@@ -60,7 +57,7 @@ void HomeModelsTest::tasks_areTheFirstThreeOpenOnes()
 
     model.setStore(workspace.store.get());
 
-    QCOMPARE(texts(model, OpenTaskListModel::TitleRole), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+    QCOMPARE(texts(model, "title"), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
 }
 
 void HomeModelsTest::taskDone_bringsTheNextOne()
@@ -77,23 +74,24 @@ void HomeModelsTest::taskDone_bringsTheNextOne()
 
     workspace.store->toggleTask(first);
 
-    QCOMPARE(texts(model, OpenTaskListModel::TitleRole), (QStringList{u"b"_s, u"c"_s, u"d"_s}));
+    QCOMPARE(texts(model, "title"), (QStringList{u"b"_s, u"c"_s, u"d"_s}));
     QVERIFY(resets.isEmpty());
 }
 
-void HomeModelsTest::launchItem_goesToTheEnd()
+void HomeModelsTest::launchItems_followTheStore()
 {
     Workspace workspace;
     LaunchListModel model;
     const QAbstractItemModelTester tester(&model);
     model.setStore(workspace.store.get());
-    model.addLink(u"Mail"_s, u"mail.example"_s);
 
-    QVERIFY(model.addLink({}, u"Shop.Example.COM/admin"_s));
+    workspace.store->addLaunchItem(
+        {.id = QUuid::createUuid(), .name = u"Mail"_s, .target = u"https://mail.example"_s});
+    workspace.store->addLaunchItem(
+        {.id = QUuid::createUuid(), .name = u"Files"_s, .target = u"/usr/share"_s});
 
-    QCOMPARE(texts(model, LaunchListModel::NameRole),
-             (QStringList{u"Mail"_s, u"Shop.Example.COM"_s}));
-    QCOMPARE(workspace.store->data().launch.back().target, u"Shop.Example.COM/admin"_s);
+    QCOMPARE(texts(model, "name"), (QStringList{u"Mail"_s, u"Files"_s}));
+    QCOMPARE(texts(model, "path"), (QStringList{QString(), u"/usr/share"_s}));
 }
 
 void HomeModelsTest::launchItem_isTakenAway()
@@ -102,54 +100,12 @@ void HomeModelsTest::launchItem_isTakenAway()
     LaunchListModel model;
     const QAbstractItemModelTester tester(&model);
     model.setStore(workspace.store.get());
-    model.addLink(u"Mail"_s, u"mail.example"_s);
-    model.addLink(u"Docs"_s, u"docs.example"_s);
+    workspace.store->addLaunchItem({.id = QUuid::createUuid(), .name = u"Mail"_s});
+    workspace.store->addLaunchItem({.id = QUuid::createUuid(), .name = u"Docs"_s});
 
     workspace.store->removeLaunchItem(workspace.store->data().launch.front().id);
 
-    QCOMPARE(texts(model, LaunchListModel::NameRole), QStringList{u"Docs"_s});
-}
-
-void HomeModelsTest::link_withoutAddress_isNone()
-{
-    Workspace workspace;
-    LaunchListModel model;
-    model.setStore(workspace.store.get());
-
-    QVERIFY(!model.addLink(u"A name"_s, {}));
-
-    QVERIFY(workspace.store->data().launch.isEmpty());
-}
-
-void HomeModelsTest::application_isNamedByTheShell()
-{
-    Workspace workspace;
-    FakeCommands commands;
-    LaunchListModel model;
-    model.setStore(workspace.store.get());
-    model.addApplication(&commands);
-    QCOMPARE(commands.asked, QStringList{u"pick application in "_s});
-
-    commands.choices.front()(QUrl::fromLocalFile(u"/usr/share/applications/a.desktop"_s));
-
-    QCOMPARE(texts(model, LaunchListModel::NameRole),
-             QStringList{u"the application at /usr/share/applications/a.desktop"_s});
-    QCOMPARE(texts(model, LaunchListModel::PathRole),
-             QStringList{u"/usr/share/applications/a.desktop"_s});
-}
-
-void HomeModelsTest::application_storeGoneMeanwhile_isDropped()
-{
-    Workspace workspace;
-    FakeCommands commands;
-    LaunchListModel model;
-    model.setStore(workspace.store.get());
-    model.addApplication(&commands);
-
-    workspace.store.reset();
-    commands.choices.front()(QUrl::fromLocalFile(u"/a.desktop"_s));
-
-    QCOMPARE(model.rowCount(), 0);
+    QCOMPARE(texts(model, "name"), QStringList{u"Docs"_s});
 }
 
 void HomeModelsTest::events_changeRowByRow()
@@ -175,7 +131,7 @@ void HomeModelsTest::events_changeRowByRow()
     Q_EMIT store.changed();
     store.readings.back().answer({event(u"a"_s, 10), event(u"new"_s, 15), event(u"b"_s, 20)});
 
-    QCOMPARE(texts(model, EventListModel::TitleRole), (QStringList{u"a"_s, u"new"_s, u"b"_s}));
+    QCOMPARE(texts(model, "title"), (QStringList{u"a"_s, u"new"_s, u"b"_s}));
     QVERIFY(resets.isEmpty());
     QCOMPARE(inserted.size(), 1);
 }

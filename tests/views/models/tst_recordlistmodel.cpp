@@ -1,5 +1,7 @@
 #include "views/models/recordlistmodel.h"
 
+#include "support/valueof.h"
+
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
 #include <QSignalSpy>
@@ -19,15 +21,12 @@ class Rows final : public quib::RecordListModel {
 public:
     QList<Record> shown;
 
-    int rowCount(const QModelIndex& parent) const override
-    {
-        return parent.isValid() ? 0 : static_cast<int>(shown.size());
-    }
-    QVariant data(const QModelIndex& index, int role) const override
-    {
-        return role == Qt::DisplayRole ? shown.at(index.row()).value : QVariant();
-    }
-    void showAll(const QList<Record>& wanted) { show(shown, wanted); }
+    Rows() { setRoles(shown, {{"value", &Record::value}, {"twice", twice}}); }
+
+    void showAll(const QList<Record>& wanted) { show(shown, wanted, &Record::id); }
+
+private:
+    static int twice(const Record& record) { return 2 * record.value; }
 };
 
 QUuid idOf(int number)
@@ -48,6 +47,7 @@ class RecordListModelTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void roles_areMembersAndFunctions();
     void changedRecord_announcesItsRowOnly();
     void newRecord_announcesItsRowOnly();
     void movedRecord_keepsItsIndex();
@@ -56,6 +56,19 @@ private Q_SLOTS:
     void twinLost_leavesNoGhostRow();
     void anyListToAnyOther_endsAsWanted();
 };
+
+void RecordListModelTest::roles_areMembersAndFunctions()
+{
+    Rows rows;
+
+    rows.showAll({{idOf(1), 10}, {idOf(2), 20}});
+
+    QCOMPARE(rows.roleNames().size(), 2);
+    QCOMPARE(valueOf(rows, 1, "value"), QVariant(20));
+    QCOMPARE(valueOf(rows, 1, "twice"), QVariant(40));
+    QVERIFY(!valueOf(rows, 1, "other").isValid());
+    QVERIFY(!valueOf(rows, 2, "value").isValid());
+}
 
 void RecordListModelTest::changedRecord_announcesItsRowOnly()
 {

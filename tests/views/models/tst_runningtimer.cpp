@@ -4,7 +4,6 @@
 #include "support/datafolderfortest.h"
 #include "support/hungfile.h"
 #include "support/workspace.h"
-#include "views/core/noclient.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -22,8 +21,6 @@ private Q_SLOTS:
     void clientDeletedMeanwhile_isCalledTimer();
     void placeholder_standsForNobody();
     void note_isTheRunningOnes();
-    void start_startsForAClientOrNobody();
-    void start_forADeletedClient_keepsItsId();
     void otherEntries_sayNothing();
     void storeThatStillLoads_isNotWaitedFor();
 };
@@ -102,35 +99,6 @@ void RunningTimerTest::note_isTheRunningOnes()
     workspace.store->stopTimer();
 
     QCOMPARE(timer.note(), QString());
-}
-
-void RunningTimerTest::start_startsForAClientOrNobody()
-{
-    Workspace workspace;
-    const auto cafe = workspace.client(u"Corner Café"_s);
-    RunningTimer timer;
-    timer.setStore(workspace.store.get());
-
-    timer.start(cafe, u"for the café"_s);
-    QCOMPARE(workspace.store->runningEntry()->clientID, cafe);
-    QCOMPARE(workspace.store->runningEntry()->note, u"for the café"_s);
-    timer.start(NoClient::id(), QString());
-
-    QCOMPARE(workspace.store->runningEntry()->clientID, std::nullopt);
-}
-
-void RunningTimerTest::start_forADeletedClient_keepsItsId()
-{
-    Workspace workspace;
-    const auto cafe = workspace.client(u"Corner Café"_s);
-    RunningTimer timer;
-    timer.setStore(workspace.store.get());
-    workspace.store->deleteClient(cafe);
-
-    timer.start(cafe, u"Call"_s);
-
-    QVERIFY(workspace.store->runningEntry());
-    QCOMPARE(workspace.store->runningEntry()->clientID, cafe);
 }
 
 void RunningTimerTest::otherEntries_sayNothing()

@@ -1,5 +1,6 @@
 #include "views/models/tasklistmodel.h"
 
+#include "support/valueof.h"
 #include "support/workspace.h"
 
 #include <QAbstractItemModelTester>
@@ -16,7 +17,7 @@ QStringList titles(const TaskListModel& model)
 {
     QStringList found;
     for (int row = 0; row < model.count(); ++row) {
-        found << model.index(row).data(TaskListModel::TitleRole).toString();
+        found << valueOf(model, row, "title").toString();
     }
     return found;
 }
@@ -121,8 +122,8 @@ void TaskListModelTest::row_namesItsClient()
 
     model.setStore(workspace.store.get());
 
-    QCOMPARE(model.index(0).data(TaskListModel::ClientNameRole).toString(), u"Corner Café"_s);
-    QCOMPARE(model.index(0).data(TaskListModel::ClientStatusRole).toString(), u"build"_s);
+    QCOMPARE(valueOf(model, 0, "clientName").toString(), u"Corner Café"_s);
+    QCOMPARE(valueOf(model, 0, "clientStatus").toString(), u"build"_s);
 }
 
 void TaskListModelTest::row_ofADeletedClient_namesNobody()
@@ -136,7 +137,7 @@ void TaskListModelTest::row_ofADeletedClient_namesNobody()
     workspace.store->deleteClient(cafe);
 
     QCOMPARE(model.count(), 1);
-    QCOMPARE(model.index(0).data(TaskListModel::ClientStatusRole).toString(), QString());
+    QCOMPARE(valueOf(model, 0, "clientStatus").toString(), QString());
 }
 
 void TaskListModelTest::renamedClient_touchesItsRowsOnly()

@@ -74,7 +74,7 @@ QString ClientEditor::rateText() const
 void ClientEditor::setStore(Store* store)
 {
     const bool isOther = followSource(m_store, store, this, &ClientEditor::follow,
-                                      &Store::clientsChanged, &Store::entriesChanged);
+                                      {&Store::clientsChanged, &Store::entriesChanged});
     if (isOther) {
         Q_EMIT storeChanged();
     }

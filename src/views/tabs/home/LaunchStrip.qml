@@ -6,6 +6,7 @@ import Quib.Controls
 import Quib.Core
 import Quib.Models
 import Quib.Shell
+import Quib.Tabs.Home
 
 /*!
     The quick-launch buttons, and their editing: adding applications and websites, taking away.
@@ -43,10 +44,16 @@ FocusScope {
     }
 
     function addLink() {
-        if (launchItems.addLink(fields.name, fields.address)) {
+        if (editor.addLink(fields.name, fields.address)) {
             fields.clear();
             root.stopAdding();
         }
+    }
+
+    LaunchEditor {
+        id: editor
+
+        store: root.store
     }
 
     LaunchListModel {
@@ -99,7 +106,7 @@ FocusScope {
             size: 12
             help: "Add an app"
 
-            onClicked: launchItems.addApplication(root.commands)
+            onClicked: editor.addApplication(root.commands)
         }
 
         IconButton {

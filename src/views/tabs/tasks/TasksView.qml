@@ -20,7 +20,8 @@ FocusScope {
     property uuid newClient: NoClient.id
 
     function addTask() {
-        list.reveal(tasks.addTask(field.text, root.newClient === NoClient.id ? root.filter : root.newClient));
+        const client = root.newClient === NoClient.id ? root.filter : root.newClient;
+        list.reveal(tasks.rowOf(root.store.addTask(field.text, client)));
         field.text = "";
         field.forceActiveFocus();
     }

@@ -20,7 +20,7 @@ FocusScope {
     Keys.onTabPressed: stop.forceActiveFocus(Qt.TabFocusReason)
 
     function start() {
-        timer.start(root.client, note.text);
+        root.store.startTimer(root.client, note.text);
         note.text = "";
     }
 

@@ -1,4 +1,4 @@
-#include "views/models/launchlink.h"
+#include "views/tabs/home/launchlink.h"
 
 #include "integrations/opening/actions.h"
 
