@@ -1,5 +1,5 @@
 #include "model/file/datafile.h"
-#include "model/file/json.h"
+#include "model/json/json.h"
 
 #include <cstdlib>
 

@@ -35,9 +35,9 @@ set(never_in_platform     "QtQml/|QQml[A-Z]|${json_and_icu}")
 set(never_in_picker       "${scene_without_widgets}|${desktop}|${json_and_icu}")
 set(never_in_app          "Qt(DBus|Widgets)/|QDBus[A-Z]|${desktop}|${json_and_icu}")
 
-# One room each speaks to the X server, the compositor, the calendars' service and ICU.
+# One room each speaks to the X server, the compositor, the calendars' service, ICU and the JSON reader.
 foreach(only platform/linux/x11=xcb/ platform/linux/wayland=wayland- platform/linux/calendar/eds=libecal/
-        model/locale=unicode/)
+        model/locale=unicode/ model/json=simdjson)
     string(REPLACE "=" ";" only ${only})
     list(GET only 0 room)
     list(GET only 1 library)

@@ -1,4 +1,5 @@
 #include "model/file/datafile.h"
+#include "model/file/datamembers.h"
 #include "model/texts/utf8.h"
 #include "model/texts/uuidtext.h"
 #include "model/time/isodate.h"
@@ -79,31 +80,40 @@ public:
         }
     }
 
-    void put(const QuibData& data);
+    /// The last value: nothing is kept back any more.
+    template <typename Record>
+    void writeWhole(const Record& record)
+    {
+        put(record);
+        flush();
+    }
 
 private:
+    template <typename Record>
+    void put(const Record& record)
+    {
+        m_json.StartObject();
+        std::apply([&](const auto&... each) { (member(each.key, record.*each.value), ...); },
+                   Members<Record>);
+        m_json.EndObject();
+    }
+
     void put(std::string_view text) { m_json.String(text.data(), lengthOf(text)); }
     void put(const QString& text);
     void put(bool value) { m_json.Bool(value); }
     void put(double value);
     void put(const QUuid& id);
     void put(const QDateTime& moment);
+    void put(ClientStatus status) { put(rawText(status)); }
     void putNothing();
     void flush();
-    void putMembers(const Client& client);
-    void putMembers(const TaskItem& task);
-    void putMembers(const TimeEntry& entry);
-    void putMembers(const ShelfItem& item);
-    void putMembers(const LaunchItem& item);
 
     template <typename Record>
     void put(const QList<Record>& records)
     {
         m_json.StartArray();
         for (const auto& record : records) {
-            m_json.StartObject();
-            putMembers(record);
-            m_json.EndObject();
+            put(record);
             if (m_buffer.GetSize() >= Piece) {
                 flush();
             }
@@ -168,69 +178,12 @@ void Writer::flush()
     m_buffer.Clear();
 }
 
-// Members stand in the order of their keys.
-
-void Writer::putMembers(const Client& client)
-{
-    member("folderPath", client.folderPath);
-    member("hourlyRate", client.hourlyRate);
-    member("id", client.id);
-    member("name", client.name);
-    member("notes", client.notes);
-    member("siteURL", client.siteURL);
-    member("status", rawText(client.status));
-}
-
-void Writer::putMembers(const TaskItem& task)
-{
-    member("clientID", task.clientID);
-    member("created", task.created);
-    member("done", task.done);
-    member("id", task.id);
-    member("title", task.title);
-}
-
-void Writer::putMembers(const TimeEntry& entry)
-{
-    member("clientID", entry.clientID);
-    member("end", entry.end);
-    member("id", entry.id);
-    member("note", entry.note);
-    member("start", entry.start);
-}
-
-void Writer::putMembers(const ShelfItem& item)
-{
-    member("id", item.id);
-    member("path", item.path);
-}
-
-void Writer::putMembers(const LaunchItem& item)
-{
-    member("id", item.id);
-    member("name", item.name);
-    member("target", item.target);
-}
-
-void Writer::put(const QuibData& data)
-{
-    m_json.StartObject();
-    member("clients", data.clients);
-    member("entries", data.entries);
-    member("launch", data.launch);
-    member("notes", data.notes);
-    member("shelf", data.shelf);
-    member("tasks", data.tasks);
-    m_json.EndObject();
-    flush();
-}
-
 } // namespace
 
 bool writeQuibData(const QuibData& data, const ByteSink& sink)
 {
     Writer writer(sink);
-    writer.put(data);
+    writer.writeWhole(data);
     return writer.isWritten();
 }
 

@@ -1,4 +1,4 @@
-#include "model/file/largenumbers.h"
+#include "model/json/largenumbers.h"
 
 #include <QString>
 
