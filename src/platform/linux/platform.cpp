@@ -2,6 +2,7 @@
 
 #include "platform/linux/base/background.h"
 #include "platform/linux/base/diskprobe.h"
+#include "platform/linux/base/log.h"
 #include "platform/linux/base/memory.h"
 #include "platform/linux/calendar/edscalendarstore.h"
 #include "platform/linux/icons/themeiconsource.h"
@@ -125,6 +126,8 @@ Platform makePlatform(bool areServicesPrompt)
     const auto systemBus = std::make_shared<Bus>(systemBusAddress(), Bus::Reach::Later);
     auto platform = makeSeamsWithoutDisplay(bus);
     const auto isWayland = QGuiApplication::platformName().startsWith("wayland"_L1);
+    qCDebug(windowLog) << QGuiApplication::platformName() << "shows the panel"
+                       << (isWayland || !isXwayland() ? "" : "through Xwayland");
     if (isWayland) {
         showOnWayland(platform);
     } else if (isXwayland()) {

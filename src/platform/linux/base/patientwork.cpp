@@ -107,10 +107,10 @@ void PatientWork::begin()
 void PatientWork::start(const Job& job)
 {
     const int number = ++m_number;
-    const bool isStarted = startDetached([this, letterbox = m_letterbox, number, work = job.work] {
+    const auto done = startDetached([this, letterbox = m_letterbox, number, work = job.work] {
         letterbox->post([this, number, take = work()] { arrive(number, take); });
     });
-    if (!isStarted) {
+    if (!done.valid()) {
         job.giveUp(GivenUp::NotTried);
         return;
     }

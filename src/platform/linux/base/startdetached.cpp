@@ -6,14 +6,16 @@
 
 namespace quib {
 
-bool startDetached(std::function<void()> work)
+std::future<void> startDetached(std::function<void()> work)
 {
+    std::packaged_task<void()> task(std::move(work));
+    auto done = task.get_future();
     try {
-        std::thread(std::move(work)).detach();
-        return true;
+        std::thread(std::move(task)).detach();
     } catch (const std::system_error&) {
-        return false;
+        return {};
     }
+    return done;
 }
 
 } // namespace quib

@@ -1,9 +1,10 @@
 #include "platform/linux/calendar/calendarpermission.h"
 
+#include "platform/linux/base/busanswer.h"
+#include "platform/linux/base/log.h"
 #include "platform/linux/calendar/consentfile.h"
 
 #include <QDBusObjectPath>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
 #include <algorithm>
@@ -189,11 +190,7 @@ void CalendarPermission::send(const QDBusMessage& message, int patience, Then th
     const auto call = m_bus->isConnected()
         ? m_bus->connection().asyncCall(message, patience)
         : QDBusPendingCall::fromError(QDBusError(QDBusError::Disconnected, {}));
-    auto* watcher = new QDBusPendingCallWatcher(call, this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, then = std::move(then)] {
-        watcher->deleteLater();
-        then(*watcher);
-    });
+    whenAnswered(call, this, calendarLog(), "the permission store", std::move(then));
 }
 
 } // namespace quib

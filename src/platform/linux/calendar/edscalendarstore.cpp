@@ -1,5 +1,7 @@
 #include "platform/linux/calendar/edscalendarstore.h"
 
+#include "platform/linux/base/log.h"
+
 #include <QCoreApplication>
 #include <QPluginLoader>
 #include <QThread>
@@ -84,6 +86,7 @@ void EdsCalendarStore::takePlugin()
 {
     auto* plugin = qobject_cast<EdsPlugin*>(QPluginLoader(m_plugin).instance());
     m_state = plugin == nullptr ? State::Missing : State::Closed;
+    qCDebug(calendarLog) << "the module" << (plugin == nullptr ? "is missing" : "is loaded");
     if (plugin != nullptr && m_isGranted) {
         m_state = State::Open;
         m_calendars = plugin->open([this] {
@@ -107,6 +110,7 @@ void EdsCalendarStore::close()
 void EdsCalendarStore::ask(const Question& question)
 {
     const auto tell = [this, answer = question.answer](const QList<CalendarEntry>& entries) {
+        qCDebug(calendarLog) << entries.size() << "entries";
         QMetaObject::invokeMethod(
             this, [answer, entries] { answer(entries); }, Qt::QueuedConnection);
     };

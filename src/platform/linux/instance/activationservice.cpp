@@ -1,9 +1,10 @@
 #include "platform/linux/instance/activationservice.h"
 
+#include "platform/linux/base/busanswer.h"
+#include "platform/linux/base/log.h"
 #include "platform/linux/instance/instancename.h"
 
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusReply>
 
 using namespace Qt::StringLiterals;
@@ -62,15 +63,13 @@ ActivationService::Answer ActivationService::claim(const QString& busName)
 void ActivationService::startClaim(const QString& busName)
 {
     offerObject(busName);
-    auto* watcher
-        = new QDBusPendingCallWatcher(m_bus.connection().asyncCall(requestName(busName)), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, busName] {
-        watcher->deleteLater();
-        const auto answer = takeAnswer(busName, watcher->reply());
-        if (answer != Answer::NoBus) {
-            Q_EMIT claimed(answer);
-        }
-    });
+    whenAnswered(m_bus.connection().asyncCall(requestName(busName)), this, instanceLog(),
+                 "the claim of the name", [this, busName](const QDBusPendingCall& reply) {
+                     const auto answer = takeAnswer(busName, reply.reply());
+                     if (answer != Answer::NoBus) {
+                         Q_EMIT claimed(answer);
+                     }
+                 });
 }
 
 /// Before the name is: whoever finds that may call at once.

@@ -1,5 +1,6 @@
 #include "platform/linux/instance/linuxinstance.h"
 
+#include "platform/linux/base/log.h"
 #include "platform/linux/instance/instancename.h"
 
 #include <utility>
@@ -27,6 +28,7 @@ bool LinuxInstance::claim(const std::filesystem::path& dataFolder)
     m_name = instanceName(dataFolder);
     m_lock = std::make_unique<InstanceLock>(lockName(dataFolder));
     if (!m_lock->claim()) {
+        qCDebug(instanceLog) << "another one holds the lock";
         m_lock->knock();
         return false;
     }

@@ -1,18 +1,18 @@
 #include "platform/linux/launch/gioopener.h"
 
 #include "model/texts/nativepath.h"
+#include "platform/linux/base/busanswer.h"
+#include "platform/linux/base/log.h"
+#include "platform/linux/base/startdetached.h"
 #include "platform/linux/launch/giolaunch.h"
 
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
 #include <iterator>
-#include <system_error>
-#include <thread>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -86,14 +86,12 @@ void GioOpener::reveal(const QString& path)
     }
     QElapsedTimer asked;
     asked.start();
-    auto* watcher
-        = new QDBusPendingCallWatcher(m_bus->connection().asyncCall(showItems(path)), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, asked, path] {
-        watcher->deleteLater();
-        if (watcher->isError() && asked.elapsed() < m_patience.withFileManager.count()) {
-            openFolderOf(path);
-        }
-    });
+    whenAnswered(m_bus->connection().asyncCall(showItems(path)), this, openingLog(),
+                 "the file manager", [this, asked, path](const QDBusPendingCall& answer) {
+                     if (answer.isError() && asked.elapsed() < m_patience.withFileManager.count()) {
+                         openFolderOf(path);
+                     }
+                 });
 }
 
 void GioOpener::openFolderOf(const QString& path)
@@ -106,13 +104,9 @@ void GioOpener::inBackground(std::function<void()> work)
     std::erase_if(m_underWay, [](const auto& opening) {
         return opening.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
     });
-    std::packaged_task<void()> task(std::move(work));
-    auto opening = task.get_future();
-    try {
-        std::thread(std::move(task)).detach();
+    auto opening = startDetached(std::move(work));
+    if (opening.valid()) {
         m_underWay.push_back(std::move(opening));
-    } catch (const std::system_error&) {
-        return; // The system has no thread to give: nothing opens.
     }
 }
 

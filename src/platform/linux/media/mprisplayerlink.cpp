@@ -1,10 +1,11 @@
 #include "platform/linux/media/mprisplayerlink.h"
 
+#include "platform/linux/base/busanswer.h"
+#include "platform/linux/base/log.h"
 #include "platform/linux/launch/launchinstalled.h"
 #include "platform/linux/media/mprisreply.h"
 
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 
@@ -73,12 +74,10 @@ bool MprisPlayerLink::isRunning(Player player) const
 
 void MprisPlayerLink::query(Player player, Reply reply)
 {
-    auto* watcher = new QDBusPendingCallWatcher(ask(m_players.nameOf(player)), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, reply = std::move(reply)] {
-        watcher->deleteLater();
-        const QDBusPendingReply<QVariantMap> properties = *watcher;
-        reply(properties.isError() ? QString() : replyText(properties.value()));
-    });
+    whenAnswered(ask(m_players.nameOf(player)), this, mediaLog(), "the player's properties",
+                 [reply = std::move(reply)](const QDBusPendingReply<QVariantMap>& properties) {
+                     reply(properties.isError() ? QString() : replyText(properties.value()));
+                 });
 }
 
 /// Everything about the player at once; an error where there is none to ask.
@@ -132,15 +131,13 @@ void MprisPlayerLink::followNames()
 void MprisPlayerLink::listNames()
 {
     const auto message = QDBusMessage::createMethodCall(BusName, BusPath, BusName, u"ListNames"_s);
-    auto* watcher = new QDBusPendingCallWatcher(m_bus->connection().asyncCall(message), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        watcher->deleteLater();
-        const QDBusPendingReply<QStringList> names = *watcher;
-        if (!names.isError()) {
-            m_players.add(names.value());
-            Q_EMIT playersNamed();
-        }
-    });
+    whenAnswered(m_bus->connection().asyncCall(message), this, mediaLog(), "the names on the bus",
+                 [this](const QDBusPendingReply<QStringList>& names) {
+                     if (!names.isError()) {
+                         m_players.add(names.value());
+                         Q_EMIT playersNamed();
+                     }
+                 });
 }
 
 } // namespace quib

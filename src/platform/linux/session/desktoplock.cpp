@@ -1,5 +1,7 @@
 #include "platform/linux/session/desktoplock.h"
 
+#include "platform/linux/base/log.h"
+
 #include <utility>
 
 namespace quib {
@@ -15,6 +17,7 @@ DesktopLock::DesktopLock(std::shared_ptr<SessionBus> sessionBus, std::shared_ptr
 void DesktopLock::follow()
 {
     if (std::exchange(m_wasLocked, isLocked()) != isLocked()) {
+        qCDebug(sessionLog) << (isLocked() ? "is locked" : "is not locked");
         Q_EMIT isLockedChanged();
     }
 }

@@ -1,8 +1,10 @@
 #include "platform/linux/session/loginsession.h"
 
+#include "platform/linux/base/busanswer.h"
+#include "platform/linux/base/log.h"
+
 #include <QDBusMessage>
 #include <QDBusObjectPath>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
 #include <utility>
@@ -108,11 +110,8 @@ void LoginSession::readHint()
 
 void LoginSession::send(const QDBusMessage& message, Then then)
 {
-    auto* watcher = new QDBusPendingCallWatcher(m_bus->connection().asyncCall(message), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, then = std::move(then)] {
-        watcher->deleteLater();
-        then(*watcher);
-    });
+    whenAnswered(m_bus->connection().asyncCall(message), this, sessionLog(), "the login session",
+                 std::move(then));
 }
 
 void LoginSession::setLocked(bool isLocked)

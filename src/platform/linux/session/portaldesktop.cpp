@@ -1,10 +1,11 @@
 #include "platform/linux/session/portaldesktop.h"
 
+#include "platform/linux/base/busanswer.h"
+#include "platform/linux/base/log.h"
 #include "platform/linux/x11/base/xserver.h"
 
 #include <QDBusMessage>
 #include <QDBusMetaType>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QFontDatabase>
@@ -79,20 +80,19 @@ void PortalDesktop::readSettings()
         = QDBusMessage::createMethodCall(PortalName, PortalPath, SettingsInterface, u"ReadAll"_s);
     message.setAutoStartService(false);
     message << QStringList{AppearanceSpace, InterfaceSpace};
-    auto* watcher = new QDBusPendingCallWatcher(m_bus->connection().asyncCall(message), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        watcher->deleteLater();
-        const QDBusPendingReply<Settings> reply = *watcher;
-        if (reply.isError()) {
-            return;
+    whenAnswered(m_bus->connection().asyncCall(message), this, sessionLog(),
+                 "the portal's settings", [this](const QDBusPendingReply<Settings>& reply) {
+                     takeSettings(reply.isError() ? Settings() : reply.value());
+                 });
+}
+
+void PortalDesktop::takeSettings(const QMap<QString, QVariantMap>& settings)
+{
+    for (const auto& [space, values] : settings.asKeyValueRange()) {
+        for (const auto& [key, value] : values.asKeyValueRange()) {
+            takeSetting(space, key, QDBusVariant(value));
         }
-        const auto settings = reply.value();
-        for (const auto& [space, values] : settings.asKeyValueRange()) {
-            for (const auto& [key, value] : values.asKeyValueRange()) {
-                takeSetting(space, key, QDBusVariant(value));
-            }
-        }
-    });
+    }
 }
 
 void PortalDesktop::takeSetting(const QString& space, const QString& key, const QDBusVariant& value)

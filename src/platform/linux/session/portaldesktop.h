@@ -4,6 +4,7 @@
 #include "platform/linux/base/sessionbus.h"
 
 #include <QDBusVariant>
+#include <QMap>
 
 class QDBusServiceWatcher;
 
@@ -34,6 +35,7 @@ private Q_SLOTS:
 private: // NOLINT(readability-redundant-access-specifiers): ends the slots
     void followPortal();
     void readSettings();
+    void takeSettings(const QMap<QString, QVariantMap>& settings);
 
     std::shared_ptr<SessionBus> m_bus;
     std::unique_ptr<QDBusServiceWatcher> m_portal; ///< Null while there is no bus.

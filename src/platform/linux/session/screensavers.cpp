@@ -1,7 +1,9 @@
 #include "platform/linux/session/screensavers.h"
 
+#include "platform/linux/base/busanswer.h"
+#include "platform/linux/base/log.h"
+
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
 #include <utility>
@@ -75,16 +77,14 @@ void ScreenSavers::ask(const QString& name)
 {
     auto message = QDBusMessage::createMethodCall(name, pathOf(name), name, u"GetActive"_s);
     message.setAutoStartService(false);
-    auto* watcher = new QDBusPendingCallWatcher(m_bus->connection().asyncCall(message), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, name] {
-        watcher->deleteLater();
-        const QDBusPendingReply<bool> reply = *watcher;
-        if (!reply.isError()) {
-            setActive(name, reply.value());
-        } else if (meansNobody(reply.error())) {
-            setActive(name, false);
-        }
-    });
+    whenAnswered(m_bus->connection().asyncCall(message), this, sessionLog(), "the screen saver",
+                 [this, name](const QDBusPendingReply<bool>& reply) {
+                     if (!reply.isError()) {
+                         setActive(name, reply.value());
+                     } else if (meansNobody(reply.error())) {
+                         setActive(name, false);
+                     }
+                 });
 }
 
 /// Anybody can say so: the saver itself is asked.

@@ -1,5 +1,7 @@
 #include "platform/linux/statusitem/statusnotifier.h"
 
+#include "platform/linux/base/log.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -140,6 +142,7 @@ void StatusNotifier::setShown(bool isShown)
 {
     if (isShown != m_isShown) {
         m_isShown = isShown;
+        qCDebug(statusItemLog) << (isShown ? "is shown" : "is not shown");
         Q_EMIT isShownChanged();
     }
 }
