@@ -5,8 +5,6 @@
 #include "shortcuts/shortcuts.h"
 #include "views/shapes/unseen.h"
 
-#include <QRegion>
-
 #include <utility>
 
 using namespace std::chrono_literals;
@@ -30,13 +28,12 @@ AppDelegate::AppDelegate(Platform platform, Clock clock, Scheduler schedule)
                = [applications = m_platform.applications](
                      const QString& name) { return applications->applicationNamed(name); },
                .enterBackground = m_platform.enterBackground})
-    , m_media(*m_platform.player, std::move(schedule))
+    , m_media(*m_platform.player, schedule)
     , m_calendar(m_platform.calendar.get(), std::move(clock))
     , m_actions(*m_platform.opener)
-    , m_poll(*m_platform.pointer, m_schedule)
+    , m_life(m_platform, m_model, m_store, std::move(schedule))
+    , m_commands(m_platform, m_model, m_life)
 {
-    connect(&m_menu, &StatusMenu::aboutToOpen, this, [this] { rebuildMenuStates(m_menu); });
-    connect(&m_menu, &StatusMenu::chosen, this, &AppDelegate::runCommand);
 }
 
 AppDelegate::~AppDelegate() = default;
@@ -51,7 +48,7 @@ ViewContext AppDelegate::viewContext()
             .actions = m_actions,
             .icons = *m_platform.icons,
             .files = *m_platform.files,
-            .commands = *this};
+            .commands = m_commands};
 }
 
 void AppDelegate::applicationDidFinishLaunching(std::unique_ptr<PanelEngine> engine)
@@ -59,14 +56,9 @@ void AppDelegate::applicationDidFinishLaunching(std::unique_ptr<PanelEngine> eng
     Store::removeLeftovers();
     Shortcuts::shared().reload();
     m_panel = std::make_unique<NotchPanel>(viewContext(), *m_platform.panelHost, std::move(engine));
-    layout();
-    m_platform.panelHost->setInputRegion({});
-    m_platform.panelHost->orderFront();
+    m_life.begin();
     connect(&m_model, &NotchModel::isExpandedChanged, this, &AppDelegate::followExpansion);
-    connect(&m_store, &Store::entriesChanged, this, &AppDelegate::followHoverRect);
-    connect(m_platform.screens.get(), &ScreenSource::changed, this, &AppDelegate::layout);
-    installMouseMonitors();
-    connect(m_platform.instance.get(), &SingleInstance::activated, this, &AppDelegate::activate);
+    connect(m_platform.instance.get(), &SingleInstance::activated, &m_life, &PanelLife::activate);
     connect(m_platform.desktop.get(), &Desktop::isMotionReducedChanged, this,
             &AppDelegate::followDesktop);
     followDesktop();
@@ -85,27 +77,13 @@ void AppDelegate::applicationDidShow()
     }
     m_store.beginLoading();
     m_platform.reachServices();
-    setupStatusItem();
+    m_commands.setupStatusItem();
     trimMemoryLater();
 }
 
 void AppDelegate::applicationWillTerminate()
 {
     m_store.saveNow();
-}
-
-void AppDelegate::layout()
-{
-    const auto screen = chooseScreen(m_platform.screens->screens());
-    if (!screen) {
-        return; // Screens are being rearranged.
-    }
-    m_screen = *screen;
-    const auto notch = notchOf(m_screen);
-    m_model.setHasNotch(notch.isReal);
-    m_model.setNotchSize(notch.size);
-    m_platform.panelHost->place(panelFrame(m_screen));
-    followHoverRect();
 }
 
 /// The closed card has pictures; starting and building views leave holes behind.
@@ -122,48 +100,26 @@ void AppDelegate::trimMemoryLater()
 
 void AppDelegate::followExpansion()
 {
-    auto& host = *m_platform.panelHost;
-    followHoverRect();
     m_trimWork.reset();
-    m_poll.setKeptAwake(m_model.isExpanded());
     if (m_model.isExpanded()) {
-        host.orderFront(); // Some window managers raise full-screen windows above everything.
-        host.setInputRegion(CardInPanel.toRect());
         m_media.startPolling();
         m_calendar.reload();
-        return;
+    } else {
+        m_media.stopPolling();
+        trimMemoryLater();
     }
-    host.setInputRegion({});
-    m_media.stopPolling();
-    giveBackKeyboard();
-    trimMemoryLater();
 }
 
-/// Nobody but the user sees the card. What was to stay open does so again after the unlocking.
 void AppDelegate::followLock()
 {
     const bool isLocked = m_platform.sessionLock->isLocked();
-    m_model.setLocked(isLocked);
     m_calendar.setAsleep(isLocked);
-    if (isLocked) {
-        cancelCollapse();
-        m_model.setExpanded(false);
-    } else if (isKeptOpen()) {
-        expand(false);
-    }
+    m_life.setLocked(isLocked);
 }
 
 void AppDelegate::followDesktop()
 {
     m_model.setMotionReduced(m_platform.desktop->isMotionReduced());
-}
-
-void AppDelegate::activate()
-{
-    openQuib();
-    if (m_model.isExpanded()) {
-        m_platform.panelHost->takeKeyboard();
-    }
 }
 
 } // namespace quib

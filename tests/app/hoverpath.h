@@ -63,7 +63,7 @@ struct HoverPath {
             }
             quib.hands.advance(Tick);
             pointer.now = next;
-            quib.delegate.checkHover();
+            quib.delegate.life().checkHover();
         }
     }
 

@@ -130,12 +130,12 @@ void AppDelegateTest::screensChanged_movesThePanelAndMeasuresTheNotch()
 
 void AppDelegateTest::noScreen_keepsTheLastGeometry()
 {
-    const auto before = m_quib->delegate.collapsedRect();
+    const auto before = m_quib->delegate.life().collapsedRect();
 
     m_quib->shell.screens.list.clear();
-    m_quib->delegate.layout();
+    m_quib->delegate.life().layout();
 
-    QCOMPARE(m_quib->delegate.collapsedRect(), before);
+    QCOMPARE(m_quib->delegate.life().collapsedRect(), before);
 }
 
 void AppDelegateTest::visibleShape_followsTheNotch()

@@ -51,7 +51,7 @@ private:
 
 void AppDelegateExpansionTest::expand_toShelf_selectsTheShelf()
 {
-    m_quib->delegate.expand(true);
+    m_quib->delegate.life().expand(true);
 
     QVERIFY(m_quib->delegate.model().isExpanded());
     QCOMPARE(m_quib->delegate.model().tab(), Tab::Shelf);
@@ -59,10 +59,10 @@ void AppDelegateExpansionTest::expand_toShelf_selectsTheShelf()
 
 void AppDelegateExpansionTest::collapse_keepsTheTab()
 {
-    m_quib->delegate.expand(false);
+    m_quib->delegate.life().expand(false);
     m_quib->delegate.model().setTab(Tab::Notes);
 
-    m_quib->delegate.collapse(true);
+    m_quib->delegate.life().collapse(true);
     m_quib->hands.advance(0ms);
 
     QVERIFY(!m_quib->delegate.model().isExpanded());
@@ -77,14 +77,14 @@ void AppDelegateExpansionTest::expansion_asksThePlayerUntilTheCollapse()
     m_quib->hands.advance(5s);
     QVERIFY(player.asked.isEmpty());
 
-    delegate.expand(false);
+    delegate.life().expand(false);
     QCOMPARE(player.asked, QStringList{u"query Spotify"_s});
     player.answer({});
     m_quib->hands.advance(2s);
     QCOMPARE(player.asked.size(), 2);
     player.answer({});
 
-    delegate.collapse(true);
+    delegate.life().collapse(true);
     m_quib->hands.advance(5s);
     QCOMPARE(player.asked.size(), 2);
 }
@@ -97,7 +97,7 @@ void AppDelegateExpansionTest::expansion_readsTheDayAnew()
     calendar.readings.back().answer({});
     const auto readings = calendar.readings.size();
 
-    delegate.expand(false);
+    delegate.life().expand(false);
 
     QCOMPARE(calendar.readings.size(), readings + 1);
 }
@@ -106,14 +106,14 @@ void AppDelegateExpansionTest::closedForAWhile_givesMemoryBack()
 {
     auto& delegate = m_quib->launched();
     const auto& trimmed = m_quib->shell.trimmed;
-    delegate.expand(false);
+    delegate.life().expand(false);
     m_quib->hands.advance(10s);
     QCOMPARE(trimmed, 0);
 
-    delegate.collapse(true);
+    delegate.life().collapse(true);
     m_quib->hands.advance(2s);
-    delegate.expand(false);
-    delegate.collapse(true);
+    delegate.life().expand(false);
+    delegate.life().collapse(true);
     m_quib->hands.advance(2s);
     QCOMPARE(trimmed, 0);
 
@@ -127,10 +127,10 @@ void AppDelegateExpansionTest::closedForAWhile_letsGoOfPictures()
     auto& panel = *qobject_cast<QQuickWindow*>(QGuiApplication::allWindows().constFirst());
     CountedPicture picture;
     picture.setParentItem(panel.contentItem());
-    delegate.expand(false);
+    delegate.life().expand(false);
     panel.grabWindow();
     picture.setVisible(false);
-    delegate.collapse(true);
+    delegate.life().collapse(true);
     m_quib->hands.advance(1s);
     panel.grabWindow();
     picture.setVisible(true);
@@ -154,7 +154,7 @@ void AppDelegateExpansionTest::hoverRect_isToldInTheWindow()
     delegate.store().startTimer(std::nullopt, {});
     QCOMPARE(told, QRect(380 - 202, 0, 404, 36));
 
-    delegate.expand(false);
+    delegate.life().expand(false);
     QCOMPARE(told, QRect(30 - 4, 0, 708, 294));
 }
 
@@ -163,12 +163,12 @@ void AppDelegateExpansionTest::unpinned_aPointerThatRestsElsewhere_collapses()
 {
     auto& delegate = m_quib->launched();
     m_quib->shell.pointer.now.position = {960, 700};
-    delegate.openQuib();
+    delegate.life().openQuib();
     QCoreApplication::processEvents();
     m_quib->hands.advance(1s);
     QVERIFY(delegate.model().isExpanded());
 
-    delegate.togglePin();
+    delegate.commands().togglePin();
     QCoreApplication::processEvents();
     m_quib->hands.advance(1s);
 

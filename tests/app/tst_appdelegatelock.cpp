@@ -34,8 +34,8 @@ private:
     bool isExpanded() { return m_quib->delegate.model().isExpanded(); }
     void touchTheNotch()
     {
-        m_quib->shell.pointer.now.position = m_quib->delegate.collapsedRect().center();
-        m_quib->delegate.checkHover();
+        m_quib->shell.pointer.now.position = m_quib->delegate.life().collapsedRect().center();
+        m_quib->delegate.life().checkHover();
     }
 
     std::unique_ptr<DelegateForTest> m_quib;
@@ -43,7 +43,7 @@ private:
 
 void AppDelegateLockTest::locking_collapsesAtOnce()
 {
-    m_quib->launched().expand(false);
+    m_quib->launched().life().expand(false);
 
     setLocked(true);
 
@@ -69,7 +69,7 @@ void AppDelegateLockTest::locked_aDroppedFileOpensNothing()
     m_quib->launched();
     setLocked(true);
 
-    m_quib->delegate.expand(true);
+    m_quib->delegate.life().expand(true);
 
     QVERIFY(!isExpanded());
     QVERIFY(m_quib->delegate.model().tab() != Tab::Shelf);
@@ -93,7 +93,7 @@ void AppDelegateLockTest::locked_pinningWaits()
     m_quib->launched();
     setLocked(true);
 
-    m_quib->delegate.togglePin();
+    m_quib->delegate.commands().togglePin();
     QVERIFY(!isExpanded());
     QVERIFY(m_quib->delegate.model().isPinned());
 
@@ -113,7 +113,7 @@ void AppDelegateLockTest::lockedAtTheStart_nothingOpens()
 
 void AppDelegateLockTest::unlocking_bringsBackWhatWasPinned()
 {
-    m_quib->launched().openQuib();
+    m_quib->launched().life().openQuib();
     m_quib->delegate.model().setTab(Tab::Notes);
     setLocked(true);
     QVERIFY(!isExpanded());
@@ -128,8 +128,8 @@ void AppDelegateLockTest::unlocking_bringsBackWhatWasPinned()
 void AppDelegateLockTest::unlocking_bringsBackWhatADialogHeldOpen()
 {
     auto& delegate = m_quib->launched();
-    delegate.expand(false);
-    delegate.pick(true, {}, [](const QUrl&) {});
+    delegate.life().expand(false);
+    delegate.commands().pick(true, {}, [](const QUrl&) {});
     setLocked(true);
     QVERIFY(!isExpanded());
 
@@ -140,7 +140,7 @@ void AppDelegateLockTest::unlocking_bringsBackWhatADialogHeldOpen()
 
 void AppDelegateLockTest::unlocking_leavesTheRestClosed()
 {
-    m_quib->launched().expand(false);
+    m_quib->launched().life().expand(false);
     setLocked(true);
 
     setLocked(false);
@@ -152,7 +152,7 @@ void AppDelegateLockTest::locked_noPlayerIsAsked()
 {
     auto& player = m_quib->shell.player;
     player.running = {Player::Music};
-    m_quib->launched().expand(false);
+    m_quib->launched().life().expand(false);
     player.answer(u"A||B||playing"_s);
     m_quib->delegate.viewContext().media.command(u"playpause"_s);
     setLocked(true);

@@ -58,7 +58,7 @@ PanelForPicture::PanelForPicture(const Day& day, const QString& folder,
     m_shell.platform.files = std::make_unique<quib::DiskProbe>(Patience);
     m_delegate = std::make_unique<quib::AppDelegate>(std::move(m_shell.platform), m_hands.clock(),
                                                      m_hands.scheduler());
-    m_delegate->layout();
+    m_delegate->life().layout();
     [[maybe_unused]] const auto& loaded = m_delegate->store().data(); // Waits for it.
     tell(day);
     model().setMotionReduced(true);

@@ -17,7 +17,7 @@ struct DelegateForTest {
 
     bool isLaunched = false;
 
-    DelegateForTest() { delegate.layout(); }
+    DelegateForTest() { delegate.life().layout(); }
 
     /// Launches it, once, and forgets what was asked of the panel's host.
     quib::AppDelegate& launched()

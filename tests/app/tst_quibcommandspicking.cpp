@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 /// The card while the user chooses a folder or an application in a dialog, among fakes.
-class AppDelegatePickingTest : public QObject {
+class QuibCommandsPickingTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -24,24 +24,24 @@ private:
     std::unique_ptr<DelegateForTest> m_quib;
 };
 
-void AppDelegatePickingTest::init()
+void QuibCommandsPickingTest::init()
 {
     m_quib = std::make_unique<DelegateForTest>();
     m_quib->shell.pointer.now.position = {960, 700};
     m_quib->launched();
 }
 
-void AppDelegatePickingTest::pick_startsWhereItIsTold()
+void QuibCommandsPickingTest::pick_startsWhereItIsTold()
 {
-    m_quib->delegate.pick(true, QUrl::fromLocalFile(u"/srv/work"_s), {});
-    m_quib->delegate.pick(true, {}, {});
-    m_quib->delegate.pick(false, {}, {});
+    m_quib->delegate.commands().pick(true, QUrl::fromLocalFile(u"/srv/work"_s), {});
+    m_quib->delegate.commands().pick(true, {}, {});
+    m_quib->delegate.commands().pick(false, {}, {});
 
     QCOMPARE(m_quib->shell.filePicker.asked,
              (QStringList{u"folder in /srv/work"_s, u"folder in "_s, u"application"_s}));
 }
 
-void AppDelegatePickingTest::pick_holdsTheCardOpenUntilItEnds_data()
+void QuibCommandsPickingTest::pick_holdsTheCardOpenUntilItEnds_data()
 {
     QTest::addColumn<std::optional<QUrl>>("answer");
     QTest::addColumn<int>("completions");
@@ -50,14 +50,14 @@ void AppDelegatePickingTest::pick_holdsTheCardOpenUntilItEnds_data()
     QTest::addRow("cancelled") << std::optional<QUrl>() << 0;
 }
 
-void AppDelegatePickingTest::pick_holdsTheCardOpenUntilItEnds()
+void QuibCommandsPickingTest::pick_holdsTheCardOpenUntilItEnds()
 {
     QFETCH(std::optional<QUrl>, answer);
     QList<QUrl> completed;
-    m_quib->delegate.expand(false);
+    m_quib->delegate.life().expand(false);
 
-    m_quib->delegate.pick(true, {}, [&](const QUrl& chosen) { completed << chosen; });
-    m_quib->delegate.checkHover();
+    m_quib->delegate.commands().pick(true, {}, [&](const QUrl& chosen) { completed << chosen; });
+    m_quib->delegate.life().checkHover();
     m_quib->hands.advance(1s);
     QVERIFY(m_quib->delegate.model().isExpanded());
     QCOMPARE(m_quib->delegate.model().holdOpen, 1);
@@ -65,15 +65,15 @@ void AppDelegatePickingTest::pick_holdsTheCardOpenUntilItEnds()
     m_quib->shell.filePicker.open[0](answer);
     QCOMPARE(m_quib->delegate.model().holdOpen, 0);
     QTEST(int(completed.size()), "completions");
-    m_quib->delegate.checkHover();
+    m_quib->delegate.life().checkHover();
     m_quib->hands.advance(60ms);
     QVERIFY(!m_quib->delegate.model().isExpanded());
 }
 
-void AppDelegatePickingTest::picks_holdTheCardUntilTheLastOneEnds()
+void QuibCommandsPickingTest::picks_holdTheCardUntilTheLastOneEnds()
 {
-    m_quib->delegate.pick(true, {}, {});
-    m_quib->delegate.pick(false, {}, {});
+    m_quib->delegate.commands().pick(true, {}, {});
+    m_quib->delegate.commands().pick(false, {}, {});
     QCOMPARE(m_quib->delegate.model().holdOpen, 2);
 
     m_quib->shell.filePicker.open[0](std::nullopt);
@@ -82,16 +82,16 @@ void AppDelegatePickingTest::picks_holdTheCardUntilTheLastOneEnds()
     QCOMPARE(m_quib->delegate.model().holdOpen, 0);
 }
 
-void AppDelegatePickingTest::pick_givesTheKeyboardAway()
+void QuibCommandsPickingTest::pick_givesTheKeyboardAway()
 {
-    m_quib->delegate.pick(true, {}, {});
+    m_quib->delegate.commands().pick(true, {}, {});
 
     QCOMPARE(m_quib->shell.asked, QStringList{u"give back keyboard 0"_s});
 }
 
-void AppDelegatePickingTest::pick_endingAfterTheDelegate_touchesNothing()
+void QuibCommandsPickingTest::pick_endingAfterTheDelegate_touchesNothing()
 {
-    m_quib->delegate.pick(true, {}, {});
+    m_quib->delegate.commands().pick(true, {}, {});
     const auto answer = m_quib->shell.filePicker.open[0];
 
     m_quib.reset();
@@ -100,5 +100,5 @@ void AppDelegatePickingTest::pick_endingAfterTheDelegate_touchesNothing()
     QVERIFY(!m_quib);
 }
 
-QTEST_MAIN(AppDelegatePickingTest)
-#include "tst_appdelegatepicking.moc"
+QTEST_MAIN(QuibCommandsPickingTest)
+#include "tst_quibcommandspicking.moc"

@@ -15,7 +15,7 @@ using namespace std::chrono_literals;
 using quib::AppDelegate;
 
 /// The menu and what it does, among fakes.
-class AppDelegateCommandsTest : public QObject {
+class QuibCommandsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -47,7 +47,7 @@ private:
     std::unique_ptr<AppDelegate> m_delegate;
 };
 
-void AppDelegateCommandsTest::init()
+void QuibCommandsTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     qputenv("QUIB_DATA_DIR", m_folder->path().toLocal8Bit());
@@ -60,14 +60,14 @@ void AppDelegateCommandsTest::init()
     m_shell->asked.clear();
 }
 
-void AppDelegateCommandsTest::cleanup()
+void QuibCommandsTest::cleanup()
 {
     m_delegate.reset();
     m_shell.reset();
 }
 
 /// As the user does: the menu opens, then a line of it is pressed.
-void AppDelegateCommandsTest::choose(const QString& title)
+void QuibCommandsTest::choose(const QString& title)
 {
     auto& item = m_shell->statusItem;
     Q_EMIT item.menuWillOpen();
@@ -80,7 +80,7 @@ void AppDelegateCommandsTest::choose(const QString& title)
     QFAIL("the menu has no such line");
 }
 
-quib::MenuItem AppDelegateCommandsTest::line(const QString& title) const
+quib::MenuItem QuibCommandsTest::line(const QString& title) const
 {
     Q_EMIT m_shell->statusItem.menuWillOpen();
     for (const auto& item : std::as_const(m_shell->statusItem.menu)) {
@@ -91,7 +91,7 @@ quib::MenuItem AppDelegateCommandsTest::line(const QString& title) const
     return {};
 }
 
-void AppDelegateCommandsTest::menu_hasItsLines()
+void QuibCommandsTest::menu_hasItsLines()
 {
     const QList<quib::MenuItem> wanted{{.title = u"Open Quib"_s},
                                        {.title = u"Keep Open (Pin)"_s, .isCheckable = true},
@@ -103,10 +103,10 @@ void AppDelegateCommandsTest::menu_hasItsLines()
                                        {.title = u"Quit Korvel Quib"_s, .keyEquivalent = u"q"_s}};
 
     QVERIFY(m_shell->statusItem.menu == wanted);
-    QVERIFY(m_delegate->menu()->items() == wanted);
+    QVERIFY(m_delegate->commands().menu()->items() == wanted);
 }
 
-void AppDelegateCommandsTest::icon_isThereAtEachSize()
+void QuibCommandsTest::icon_isThereAtEachSize()
 {
     const auto& icon = m_shell->statusItem.icon;
 
@@ -118,7 +118,7 @@ void AppDelegateCommandsTest::icon_isThereAtEachSize()
     }
 }
 
-void AppDelegateCommandsTest::openQuib_opensPinsAndTakesTheKeyboard()
+void QuibCommandsTest::openQuib_opensPinsAndTakesTheKeyboard()
 {
     choose(u"Open Quib"_s);
 
@@ -127,7 +127,7 @@ void AppDelegateCommandsTest::openQuib_opensPinsAndTakesTheKeyboard()
     QVERIFY(m_shell->asked.contains(u"take keyboard"_s));
 }
 
-void AppDelegateCommandsTest::pressedItem_opensQuib()
+void QuibCommandsTest::pressedItem_opensQuib()
 {
     Q_EMIT m_shell->statusItem.pressed();
 
@@ -135,7 +135,7 @@ void AppDelegateCommandsTest::pressedItem_opensQuib()
     QVERIFY(m_delegate->model().isPinned());
 }
 
-void AppDelegateCommandsTest::pin_isCheckedWhenTheMenuOpensNext()
+void QuibCommandsTest::pin_isCheckedWhenTheMenuOpensNext()
 {
     QVERIFY(!line(u"Keep Open (Pin)"_s).isChecked);
 
@@ -146,7 +146,7 @@ void AppDelegateCommandsTest::pin_isCheckedWhenTheMenuOpensNext()
     QVERIFY(!line(u"Keep Open (Pin)"_s).isChecked);
 }
 
-void AppDelegateCommandsTest::pin_expands()
+void QuibCommandsTest::pin_expands()
 {
     choose(u"Keep Open (Pin)"_s);
 
@@ -154,19 +154,19 @@ void AppDelegateCommandsTest::pin_expands()
     QVERIFY(m_delegate->model().isExpanded());
 }
 
-void AppDelegateCommandsTest::unpinning_collapsesWhenThePointerIsOutside()
+void QuibCommandsTest::unpinning_collapsesWhenThePointerIsOutside()
 {
     choose(u"Keep Open (Pin)"_s);
 
     choose(u"Keep Open (Pin)"_s);
     QVERIFY(m_delegate->model().isExpanded());
-    m_delegate->checkHover();
+    m_delegate->life().checkHover();
     m_hands.advance(60ms);
 
     QVERIFY(!m_delegate->model().isExpanded());
 }
 
-void AppDelegateCommandsTest::login_isSwitched()
+void QuibCommandsTest::login_isSwitched()
 {
     choose(u"Launch at Login"_s);
     QVERIFY(m_shell->loginItem.enabled);
@@ -178,7 +178,7 @@ void AppDelegateCommandsTest::login_isSwitched()
     QCOMPARE(m_shell->desktop.beeps, 0);
 }
 
-void AppDelegateCommandsTest::login_failing_beepsAndTellsTheTruth()
+void QuibCommandsTest::login_failing_beepsAndTellsTheTruth()
 {
     m_shell->loginItem.fails = true;
 
@@ -188,14 +188,14 @@ void AppDelegateCommandsTest::login_failing_beepsAndTellsTheTruth()
     QVERIFY(!line(u"Launch at Login"_s).isChecked);
 }
 
-void AppDelegateCommandsTest::login_changedElsewhere_isCheckedWhenTheMenuOpens()
+void QuibCommandsTest::login_changedElsewhere_isCheckedWhenTheMenuOpens()
 {
     m_shell->loginItem.enabled = true;
 
     QVERIFY(line(u"Launch at Login"_s).isChecked);
 }
 
-void AppDelegateCommandsTest::editShortcuts_writesTheFileAndOpensIt()
+void QuibCommandsTest::editShortcuts_writesTheFileAndOpensIt()
 {
     const auto file = m_folder->filePath(u"shortcuts.json"_s);
     QVERIFY(QFile::remove(file));
@@ -206,14 +206,14 @@ void AppDelegateCommandsTest::editShortcuts_writesTheFileAndOpensIt()
     QCOMPARE(m_shell->opener.asked, QStringList{u"edit "_s + file});
 }
 
-void AppDelegateCommandsTest::showData_opensTheDataFolder()
+void QuibCommandsTest::showData_opensTheDataFolder()
 {
     choose(u"Show Data Folder"_s);
 
     QCOMPARE(m_shell->opener.asked, QStringList{u"open "_s + m_folder->path()});
 }
 
-void AppDelegateCommandsTest::folderThatIsNoText_isOpenedAsItStands()
+void QuibCommandsTest::folderThatIsNoText_isOpenedAsItStands()
 {
     const auto folder = QFile::encodeName(m_folder->path()) + "/caf\xe9";
     qputenv("QUIB_DATA_DIR", folder);
@@ -228,12 +228,12 @@ void AppDelegateCommandsTest::folderThatIsNoText_isOpenedAsItStands()
     QVERIFY(std::filesystem::remove_all(opened[0]) > 1); // Which Qt could not.
 }
 
-void AppDelegateCommandsTest::quit_endsTheEventLoop()
+void QuibCommandsTest::quit_endsTheEventLoop()
 {
     QTimer::singleShot(0, this, [this] { choose(u"Quit Korvel Quib"_s); });
 
     QCOMPARE(QCoreApplication::exec(), 0); // Runs into the time limit where nothing quits.
 }
 
-QTEST_MAIN(AppDelegateCommandsTest)
-#include "tst_appdelegatecommands.moc"
+QTEST_MAIN(QuibCommandsTest)
+#include "tst_quibcommands.moc"

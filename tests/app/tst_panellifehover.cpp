@@ -8,7 +8,7 @@ using quib::Tab;
 
 /// The panel opens and closes as the pointer goes, among fakes. All of it happens in each way that
 /// a desktop tells of its pointer.
-class AppDelegateHoverTest : public QObject {
+class PanelLifeHoverTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -31,7 +31,7 @@ private:
     std::unique_ptr<HoverPath> m_hover;
 };
 
-void AppDelegateHoverTest::checkHover_data()
+void PanelLifeHoverTest::checkHover_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<bool>("expanded");
@@ -53,7 +53,7 @@ void AppDelegateHoverTest::checkHover_data()
     QTest::addRow("comes back to the same tab") << u"NOooooon"_s << true << Tab::Shelf;
 }
 
-void AppDelegateHoverTest::checkHover()
+void PanelLifeHoverTest::checkHover()
 {
     QFETCH(QString, path);
 
@@ -63,7 +63,7 @@ void AppDelegateHoverTest::checkHover()
     QTEST(m_hover->quib.delegate.model().tab(), "tab");
 }
 
-void AppDelegateHoverTest::keptOpen_neverCollapses_data()
+void PanelLifeHoverTest::keptOpen_neverCollapses_data()
 {
     QTest::addColumn<bool>("pinned");
     QTest::addColumn<QString>("path");
@@ -74,7 +74,7 @@ void AppDelegateHoverTest::keptOpen_neverCollapses_data()
     QTest::addRow("held by a dialog, click elsewhere") << false << u"nooxoooooooo"_s;
 }
 
-void AppDelegateHoverTest::keptOpen_neverCollapses()
+void PanelLifeHoverTest::keptOpen_neverCollapses()
 {
     QFETCH(bool, pinned);
     QFETCH(QString, path);
@@ -87,9 +87,9 @@ void AppDelegateHoverTest::keptOpen_neverCollapses()
     QVERIFY(model.isExpanded());
 }
 
-void AppDelegateHoverTest::pinTakenAway_collapsesAfterTheUsualDelay()
+void PanelLifeHoverTest::pinTakenAway_collapsesAfterTheUsualDelay()
 {
-    m_hover->quib.delegate.openQuib();
+    m_hover->quib.delegate.life().openQuib();
     m_hover->move(u"ooooo"_s);
     QVERIFY(m_hover->quib.delegate.model().isExpanded());
 
@@ -101,16 +101,16 @@ void AppDelegateHoverTest::pinTakenAway_collapsesAfterTheUsualDelay()
     QVERIFY(!m_hover->quib.delegate.model().isExpanded());
 }
 
-void AppDelegateHoverTest::runningTimer_widensTheHitArea()
+void PanelLifeHoverTest::runningTimer_widensTheHitArea()
 {
-    QCOMPARE(m_hover->quib.delegate.collapsedRect(), QRectF(960 - 110, -10, 220, 46));
+    QCOMPARE(m_hover->quib.delegate.life().collapsedRect(), QRectF(960 - 110, -10, 220, 46));
 
     m_hover->quib.delegate.store().startTimer({}, QString());
 
-    QCOMPARE(m_hover->quib.delegate.collapsedRect(), QRectF(960 - 202, -10, 404, 46));
+    QCOMPARE(m_hover->quib.delegate.life().collapsedRect(), QRectF(960 - 202, -10, 404, 46));
 }
 
-void AppDelegateHoverTest::restingPointer_isLookedAtWhenTheNotchComesToIt_data()
+void PanelLifeHoverTest::restingPointer_isLookedAtWhenTheNotchComesToIt_data()
 {
     using Change = std::function<void(DelegateForTest&)>;
     QTest::addColumn<QPointF>("pointer");
@@ -129,7 +129,7 @@ void AppDelegateHoverTest::restingPointer_isLookedAtWhenTheNotchComesToIt_data()
         << Change([](auto& quib) { quib.shell.sessionLock.setLocked(false); });
 }
 
-void AppDelegateHoverTest::restingPointer_isLookedAtWhenTheNotchComesToIt()
+void PanelLifeHoverTest::restingPointer_isLookedAtWhenTheNotchComesToIt()
 {
     QFETCH(const QPointF, pointer);
     QFETCH(const bool, locked);
@@ -145,17 +145,17 @@ void AppDelegateHoverTest::restingPointer_isLookedAtWhenTheNotchComesToIt()
     QTRY_VERIFY(model.isExpanded());
 }
 
-void AppDelegateHoverTest::expand_cancelsAPendingCollapse()
+void PanelLifeHoverTest::expand_cancelsAPendingCollapse()
 {
     m_hover->move(u"no"_s);
 
-    m_hover->quib.delegate.expand(false);
+    m_hover->quib.delegate.life().expand(false);
     m_hover->quib.hands.advance(60ms);
 
     QVERIFY(m_hover->quib.delegate.model().isExpanded());
 }
 
-void AppDelegateHoverTest::expansion_takesClicksAndCollapseLetsThemThrough()
+void PanelLifeHoverTest::expansion_takesClicksAndCollapseLetsThemThrough()
 {
     m_hover->quib.launched();
 
@@ -166,5 +166,5 @@ void AppDelegateHoverTest::expansion_takesClicksAndCollapseLetsThemThrough()
                           u"give back keyboard 0"_s}));
 }
 
-QTEST_MAIN(AppDelegateHoverTest)
-#include "tst_appdelegatehover.moc"
+QTEST_MAIN(PanelLifeHoverTest)
+#include "tst_panellifehover.moc"

@@ -8,7 +8,7 @@ using quib::Tab;
 
 /// Clicks beside the card and the key that dismisses it, among fakes, in each way that a desktop
 /// tells of its pointer.
-class AppDelegateDismissalTest : public QObject {
+class PanelLifeDismissalTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -29,7 +29,7 @@ private:
     std::unique_ptr<HoverPath> m_hover;
 };
 
-void AppDelegateDismissalTest::clickElsewhere_collapsesAtTheNextTurn()
+void PanelLifeDismissalTest::clickElsewhere_collapsesAtTheNextTurn()
 {
     auto& model = m_hover->quib.launched().model();
     m_hover->move(u"no"_s);
@@ -44,13 +44,13 @@ void AppDelegateDismissalTest::clickElsewhere_collapsesAtTheNextTurn()
              (QStringList{u"let clicks through"_s, u"give back keyboard 4711"_s}));
 }
 
-void AppDelegateDismissalTest::clickElsewhere_whilePinned_isToldToTheViews()
+void PanelLifeDismissalTest::clickElsewhere_whilePinned_isToldToTheViews()
 {
     auto& delegate = m_hover->quib.launched();
-    delegate.openQuib();
+    delegate.life().openQuib();
     m_hover->quib.shell.asked.clear();
-    connect(&delegate, &quib::Commands::clickedElsewhere, this,
-            [&delegate] { delegate.giveBackKeyboard(); });
+    connect(&delegate.commands(), &quib::Commands::clickedElsewhere, this,
+            [&delegate] { delegate.commands().giveBackKeyboard(); });
 
     m_hover->move(u"oxcxox"_s); // The second click is in the card.
 
@@ -58,7 +58,7 @@ void AppDelegateDismissalTest::clickElsewhere_whilePinned_isToldToTheViews()
              QStringList(2, u"give back keyboard 4711"_s)); // With the stamp of the click.
 }
 
-void AppDelegateDismissalTest::clickInTheCard_leavesItOpen()
+void PanelLifeDismissalTest::clickInTheCard_leavesItOpen()
 {
     auto& model = m_hover->quib.launched().model();
 
@@ -68,26 +68,26 @@ void AppDelegateDismissalTest::clickInTheCard_leavesItOpen()
     QVERIFY(model.isExpanded());
 }
 
-void AppDelegateDismissalTest::pointerBackBeforeTheCollapse_forgetsTheClick()
+void PanelLifeDismissalTest::pointerBackBeforeTheCollapse_forgetsTheClick()
 {
     m_hover->quib.launched();
     m_hover->quib.shell.asked.clear();
 
     m_hover->move(u"nox"_s);
     m_hover->quib.shell.pointer.now.position = HoverPath::pointOf(u'c');
-    m_hover->quib.delegate.checkHover();
+    m_hover->quib.delegate.life().checkHover();
     m_hover->move(u"ooooo"_s);
 
     QCOMPARE(m_hover->quib.shell.asked.last(), u"give back keyboard 0"_s);
 }
 
-void AppDelegateDismissalTest::dismiss_collapsesAndGivesTheKeyboardBack()
+void PanelLifeDismissalTest::dismiss_collapsesAndGivesTheKeyboardBack()
 {
     auto& delegate = m_hover->quib.launched();
     m_hover->move(u"nc"_s);
     m_hover->quib.shell.asked.clear();
 
-    delegate.dismiss();
+    delegate.commands().dismiss();
     m_hover->move(u"cccccc"_s);
 
     QVERIFY(!delegate.model().isExpanded());
@@ -95,7 +95,7 @@ void AppDelegateDismissalTest::dismiss_collapsesAndGivesTheKeyboardBack()
              (QStringList{u"let clicks through"_s, u"give back keyboard 0"_s}));
 }
 
-void AppDelegateDismissalTest::dismiss_whatIsKeptOpen_doesNothing_data()
+void PanelLifeDismissalTest::dismiss_whatIsKeptOpen_doesNothing_data()
 {
     QTest::addColumn<bool>("pinned");
 
@@ -103,7 +103,7 @@ void AppDelegateDismissalTest::dismiss_whatIsKeptOpen_doesNothing_data()
     QTest::addRow("held by a dialog") << false;
 }
 
-void AppDelegateDismissalTest::dismiss_whatIsKeptOpen_doesNothing()
+void PanelLifeDismissalTest::dismiss_whatIsKeptOpen_doesNothing()
 {
     QFETCH(bool, pinned);
     auto& model = m_hover->quib.launched().model();
@@ -111,22 +111,22 @@ void AppDelegateDismissalTest::dismiss_whatIsKeptOpen_doesNothing()
     model.setPinned(pinned);
     model.holdOpen = pinned ? 0 : 1;
 
-    m_hover->quib.delegate.dismiss();
+    m_hover->quib.delegate.commands().dismiss();
 
     QVERIFY(model.isExpanded());
 }
 
-void AppDelegateDismissalTest::dismiss_underTheRestingPointer_opensAgain()
+void PanelLifeDismissalTest::dismiss_underTheRestingPointer_opensAgain()
 {
     m_hover->quib.launched();
     m_hover->move(u"n"_s);
 
-    m_hover->quib.delegate.dismiss();
+    m_hover->quib.delegate.commands().dismiss();
     QVERIFY(!m_hover->quib.delegate.model().isExpanded());
     m_hover->move(u"n"_s);
 
     QVERIFY(m_hover->quib.delegate.model().isExpanded());
 }
 
-QTEST_MAIN(AppDelegateDismissalTest)
-#include "tst_appdelegatedismissal.moc"
+QTEST_MAIN(PanelLifeDismissalTest)
+#include "tst_panellifedismissal.moc"
