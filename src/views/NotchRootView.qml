@@ -78,8 +78,10 @@ FocusScope {
 
         objectName: "spring"
         isSnapping: root.model.isMotionReduced
-        response: spring.target === 1 ? 0.28 : 0.2
-        damping: spring.target === 1 ? 0.82 : 1.0
+        rising.response: 0.28
+        rising.damping: 0.82
+        falling.response: 0.2
+        falling.damping: 1.0
         target: root.model.isExpanded ? 1 : 0
     }
 

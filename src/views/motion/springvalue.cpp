@@ -50,6 +50,7 @@ void SpringValue::setTarget(double target)
     if (m_target == target) {
         return;
     }
+    m_shape = target > m_target ? rising : falling;
     m_target = target;
     Q_EMIT targetChanged();
     if (m_isSnapping || !m_isComplete) {
@@ -57,16 +58,6 @@ void SpringValue::setTarget(double target)
     } else if (!m_isRunning) {
         start();
     }
-}
-
-void SpringValue::setResponse(double seconds)
-{
-    setShape({.response = seconds, .damping = m_shape.damping});
-}
-
-void SpringValue::setDamping(double fraction)
-{
-    setShape({.response = m_shape.response, .damping = fraction});
 }
 
 void SpringValue::setSnapping(bool isSnapping)
@@ -83,9 +74,7 @@ void SpringValue::setSnapping(bool isSnapping)
 
 void SpringValue::snap()
 {
-    m_rest.reset();
     m_frames->stop();
-    // On the way a step may have been taken back to the target without a word.
     const bool moves = m_isRunning || m_state.value != m_target || m_state.velocity != 0;
     m_state = {.value = m_target};
     if (moves) {
@@ -99,22 +88,8 @@ void SpringValue::componentComplete()
     m_isComplete = true;
 }
 
-void SpringValue::setShape(SpringShape shape)
-{
-    if (m_shape.response == shape.response && m_shape.damping == shape.damping) {
-        return;
-    }
-    m_shape = shape;
-    Q_EMIT shapeChanged();
-    if (m_rest) {
-        m_state = *m_rest;
-        advance(FirstStep);
-    }
-}
-
 void SpringValue::start()
 {
-    m_rest = m_state;
     m_sinceStep.start();
     setRunning(true);
     m_frames->start();
@@ -123,7 +98,6 @@ void SpringValue::start()
 
 void SpringValue::tick()
 {
-    m_rest.reset();
     advance(static_cast<double>(m_sinceStep.nsecsElapsed()) / 1e9);
 }
 
