@@ -1,5 +1,7 @@
 #include "views/models/listdiff.h"
 
+#include <QUuid>
+
 #include <benchmark/benchmark.h>
 
 #include <algorithm>

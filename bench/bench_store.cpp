@@ -94,7 +94,7 @@ void totalsFirst(benchmark::State& state)
     const auto since = data.entries.back().start;
     const auto now = data.entries.front().start;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(quib::totals(data.entries, data.clients, since, now));
+        benchmark::DoNotOptimize(quib::Tally(data.entries, since).totals(data.clients, now));
     }
 }
 BENCHMARK(totalsFirst)->Apply(entryCounts);

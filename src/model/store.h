@@ -68,8 +68,6 @@ public:
     /// timer runs, and afterwards a change of the entries is announced when one does.
     bool hasRunningEntry() const { return m_runningRow >= 0; }
     QDateTime runningSince() const; ///< Invalid when no timer runs.
-    /// The entries that had not ended by then, in stored order; a running one ends now.
-    QList<TimeEntry> entries(const QDateTime& since) const;
     /// The time worked per client since then, most first. Cheap to ask again at every tick.
     QList<ClientTotal> totals(const QDateTime& since) const;
 

@@ -37,11 +37,6 @@ QDateTime Store::runningSince() const
     return hasRunningEntry() ? entries.at(m_runningRow).start : QDateTime();
 }
 
-QList<TimeEntry> Store::entries(const QDateTime& since) const
-{
-    return entriesSince(data().entries, since, m_surroundings.clock());
-}
-
 QList<ClientTotal> Store::totals(const QDateTime& since) const
 {
     const auto& workspace = data();

@@ -138,7 +138,6 @@ void StoreStartTest::question_waitsForTheFile_data()
         << Question([](auto& store) { return store.runningEntry().has_value(); });
     QTest::addRow("running since")
         << Question([](auto& store) { return store.runningSince().isValid(); });
-    QTest::addRow("entries") << Question([](auto& store) { return !store.entries({}).isEmpty(); });
     QTest::addRow("totals") << Question(
         [](auto& store) { return !store.totals(timed().entries[0].start).isEmpty(); });
 }

@@ -23,7 +23,6 @@ private Q_SLOTS:
     void hasRunningEntry_followsSetData();
     void hasRunningEntry_isRightWhenTheSignalComes();
     void runningEntry_survivesARestart();
-    void entries_sinceAMoment_areThoseThatHadNotEnded();
     void totals_countARunningTimerUpToNow();
     void totals_followEveryChange();
 };
@@ -202,20 +201,6 @@ void StoreTimeTest::runningEntry_survivesARestart()
 
     QCOMPARE(next.runningEntry()->note, u"overnight"_s);
     QCOMPARE(next.runningSince(), f.hands.now.addMSecs(-700)); // The file has whole seconds.
-}
-
-void StoreTimeTest::entries_sinceAMoment_areThoseThatHadNotEnded()
-{
-    StoreFixture f;
-    const auto nine = f.hands.now;
-    f.startWith(
-        {.entries = {{.id = idOf(1), .start = nine.addSecs(-7200)},
-                     {.id = idOf(2), .start = nine.addSecs(-60), .end = nine},
-                     {.id = idOf(3), .start = nine.addSecs(-60), .end = nine.addMSecs(-1)}}});
-
-    const auto found = f.store.entries(nine);
-
-    QCOMPARE(found, f.store.data().entries.first(2));
 }
 
 void StoreTimeTest::totals_countARunningTimerUpToNow()

@@ -3,8 +3,6 @@
 #include <QHash>
 
 #include <algorithm>
-#include <array>
-#include <bit>
 #include <utility>
 
 namespace quib {
@@ -13,50 +11,11 @@ namespace {
 
 constexpr double MillisecondsPerSecond = 1000;
 
-using Bits = std::array<quint64, 2>;
-
-/// An id as two numbers, which compare faster than its eleven fields.
-Bits bitsOf(const QUuid& id)
-{
-    return std::bit_cast<Bits>(id);
-}
-
 std::optional<Client> clientOf(const std::optional<QUuid>& id, const QList<Client>& clients)
 {
     const auto found = std::ranges::find(clients, id, &Client::id);
     return found == clients.end() ? std::nullopt : std::optional(*found);
 }
-
-/// Finds the group of an entry. Nearly every answer comes from a small table of recent ones, at a
-/// fraction of what a hash costs; ids are random, so a part of one says where to look.
-class GroupIndex {
-public:
-    /// The row of the client's group, or `next` when it has none so far.
-    std::size_t rowOf(const std::optional<QUuid>& clientID, std::size_t next)
-    {
-        if (!clientID) {
-            m_unassigned = m_unassigned.value_or(next);
-            return *m_unassigned;
-        }
-        auto& recent = m_recent[clientID->data1 % m_recent.size()];
-        if (!recent.row || recent.id != bitsOf(*clientID)) {
-            auto& row = m_rows[*clientID];
-            row = row.value_or(next);
-            recent = {bitsOf(*clientID), row};
-        }
-        return *recent.row;
-    }
-
-private:
-    struct Recent {
-        Bits id;
-        std::optional<std::size_t> row;
-    };
-
-    std::optional<std::size_t> m_unassigned;
-    std::array<Recent, 256> m_recent;
-    QHash<QUuid, std::optional<std::size_t>> m_rows;
-};
 
 } // namespace
 
@@ -64,17 +23,19 @@ Tally::Tally(const QList<TimeEntry>& entries, const QDateTime& since)
     : m_since(since)
 {
     const auto from = since.toMSecsSinceEpoch();
-    GroupIndex index;
+    QHash<QUuid, std::optional<std::size_t>> rows;
+    std::optional<std::size_t> unassigned;
     for (const auto& entry : entries) {
         const auto end = entry.end ? entry.end->toMSecsSinceEpoch() : from;
         if (end < from) {
             continue;
         }
-        const auto row = index.rowOf(entry.clientID, m_groups.size());
-        if (row == m_groups.size()) {
+        auto& row = entry.clientID ? rows[*entry.clientID] : unassigned;
+        if (!row) {
+            row = m_groups.size();
             m_groups.push_back({.clientID = entry.clientID});
         }
-        auto& group = m_groups[row];
+        auto& group = m_groups[*row];
         const auto start = std::max(entry.start.toMSecsSinceEpoch(), from);
         if (entry.end) {
             group.finished += end - start;
@@ -119,21 +80,6 @@ QList<ClientTotal> Tally::totals(const QList<Client>& clients, const QDateTime& 
                        .seconds = static_cast<double>(sum) / MillisecondsPerSecond});
     }
     return totals;
-}
-
-QList<TimeEntry> entriesSince(const QList<TimeEntry>& entries, const QDateTime& since,
-                              const QDateTime& now)
-{
-    QList<TimeEntry> found;
-    std::ranges::copy_if(entries, std::back_inserter(found),
-                         [&](const TimeEntry& entry) { return entry.end.value_or(now) >= since; });
-    return found;
-}
-
-QList<ClientTotal> totals(const QList<TimeEntry>& entries, const QList<Client>& clients,
-                          const QDateTime& since, const QDateTime& now)
-{
-    return Tally(entries, since).totals(clients, now);
 }
 
 } // namespace quib

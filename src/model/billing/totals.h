@@ -43,11 +43,4 @@ private:
     std::vector<Group> m_groups; ///< In the order in which the entries name them.
 };
 
-/// The entries that had not ended by then, in stored order; a running one ends now.
-QList<TimeEntry> entriesSince(const QList<TimeEntry>& entries, const QDateTime& since,
-                              const QDateTime& now);
-
-QList<ClientTotal> totals(const QList<TimeEntry>& entries, const QList<Client>& clients,
-                          const QDateTime& since, const QDateTime& now);
-
 } // namespace quib

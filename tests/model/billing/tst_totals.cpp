@@ -51,7 +51,6 @@ class TotalsTest : public QObject {
 private Q_SLOTS:
     void totals_data();
     void totals();
-    void entriesSince_keepsTheOrder();
 };
 
 void TotalsTest::totals_data()
@@ -92,17 +91,7 @@ void TotalsTest::totals()
     QFETCH(QList<quib::TimeEntry>, entries);
     QFETCH(QString, expected);
 
-    QCOMPARE(text(quib::totals(entries, Clients, monday(60), monday(120))), expected);
-}
-
-void TotalsTest::entriesSince_keepsTheOrder()
-{
-    const QList<quib::TimeEntry> entries{entry({}, 100, {}), entry({}, 0, 59), entry({}, 0, 60),
-                                         entry({}, 0, 120)};
-
-    const auto found = quib::entriesSince(entries, monday(60), monday(120));
-
-    QCOMPARE(found, (QList<quib::TimeEntry>{entries[0], entries[2], entries[3]}));
+    QCOMPARE(text(quib::Tally(entries, monday(60)).totals(Clients, monday(120))), expected);
 }
 
 QTEST_GUILESS_MAIN(TotalsTest)
