@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/desk/places.h"
 #include "screen.h"
 
 #include <algorithm>
@@ -11,12 +12,12 @@ using Milliseconds = std::chrono::duration<double, std::milli>;
 using Samples = std::vector<double>;
 
 // Where things are on a screen of 1600 pixels, at scale 1.
-constexpr Point Notch{800, 4};
+constexpr Point Notch = places::Notch;
 constexpr Point InTheNotch{800, 12};
 constexpr Point BelowTheNotch{800, 26};
 constexpr Point InTheCard{800, 280};
-constexpr Point FarAway{300, 700};
-constexpr Point Field{600, 60};
+constexpr Point FarAway = places::FarAway;
+constexpr Point Field = places::TaskField;
 constexpr Point FieldCorner{460, 50};
 constexpr int TabCount = 7;
 constexpr int TasksTab = 3;

@@ -16,7 +16,7 @@ RestingProgram::RestingProgram(Screen& screen, const char* command)
 
 Point tabButton(int number)
 {
-    return {.x = 450 + 42 + 15 + 32 * number, .y = 23};
+    return places::tabButton(number);
 }
 
 void visitTab(Screen& screen, int number)

@@ -1,4 +1,5 @@
 #include "desktop/desk/desk.h"
+#include "desktop/desk/places.h"
 #include "desktop/desk/recorder.h"
 
 #include <QFile>
@@ -12,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Where a line of the menu is, once it has been opened at MenuCorner.
-constexpr QPoint MenuCorner{720, 15};
+constexpr QPoint MenuCorner = places::MenuCorner;
 constexpr int ShortcutsLine = 139;
 constexpr int DataLine = 163;
 constexpr QColor Popup{30, 27, 38};

@@ -1,4 +1,5 @@
 #include "desktop/desk/deskconnection.h"
+#include "desktop/desk/places.h"
 
 #include <QTest>
 
@@ -9,7 +10,7 @@ namespace {
 constexpr int TasksTab = 3;
 constexpr QPoint LeftOfTheCard{800 - 375, 200}; ///< In the panel's window.
 constexpr QPoint BeneathTheCard{800, 310}; ///< In it too.
-constexpr QPoint InTheCard{800, 200}; ///< Where the closed panel draws nothing either.
+constexpr QPoint InTheCard = places::InTheCard; ///< Where the closed panel draws nothing either.
 
 /// Where the panel's window draws nothing, what lies beneath is seen.
 bool hasNoBlackBox(const Desk& desk)

@@ -1,4 +1,5 @@
 #include "desktop/desk/desk.h"
+#include "desktop/desk/places.h"
 #include "desktop/desk/recorder.h"
 
 #include <QDir>
@@ -11,14 +12,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Where a line of the menu is, once it has been opened at MenuCorner.
-constexpr QPoint MenuCorner{720, 15};
+constexpr QPoint MenuCorner = places::MenuCorner;
 constexpr int PinLine = 82;
 constexpr int LoginLine = 115;
 constexpr int ShortcutsLine = 139;
 constexpr int DataLine = 163;
 constexpr int QuitLine = 196;
 
-constexpr QPoint FirstClient{540, 100};
+constexpr QPoint FirstClient = places::FirstClient;
 constexpr QPoint SecondClient{540, 129};
 constexpr QPoint ChooseFolder{830, 143};
 constexpr QColor Popup{30, 27, 38};

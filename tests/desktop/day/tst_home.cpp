@@ -1,5 +1,6 @@
 #include "desktop/desk/partners.h"
 
+#include "desktop/desk/places.h"
 #include "support/sendsignal.h"
 #include "support/writefile.h"
 
@@ -28,12 +29,12 @@ private Q_SLOTS:
 namespace {
 
 constexpr int LinksTab = 1;
-constexpr QPoint PlayPause{569, 197};
+constexpr QPoint PlayPause = places::PlayPause;
 constexpr QPoint LeftOfItsMiddle{566, 197}; // White in either symbol.
-constexpr QPoint ConnectCalendar{748, 117};
-constexpr QPoint FirstEvent{691, 96}; // Its bar.
-constexpr QPoint EditLaunch{1114, 256};
-constexpr QPoint AddWebsite{1084, 256};
+constexpr QPoint ConnectCalendar = places::ConnectCalendar;
+constexpr QPoint FirstEvent = places::FirstEvent; // Its bar.
+constexpr QPoint EditLaunch = places::EditLaunch;
+constexpr QPoint AddWebsite = places::AddWebsite;
 
 bool isGreen(const QColor& color)
 {

@@ -1,6 +1,7 @@
 #include "desktop/desk/day.h"
 #include "desktop/desk/retelling.h"
 
+#include "desktop/desk/places.h"
 #include "support/writefile.h"
 
 #include <QDateTime>
@@ -13,7 +14,7 @@ namespace {
 
 constexpr QPoint SecondLaunch{640, 256};
 constexpr QPoint FirstLink{540, 98};
-constexpr QPoint Export{921, 108};
+constexpr QPoint Export = places::Export;
 
 double secondsOf(const QJsonValue& entry)
 {

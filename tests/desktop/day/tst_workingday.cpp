@@ -1,5 +1,6 @@
 #include "desktop/desk/partners.h"
 
+#include "desktop/desk/places.h"
 #include "support/sendsignal.h"
 
 #include <QDateTime>
@@ -20,10 +21,10 @@ constexpr int ClientsTab = 2;
 constexpr int TimeTab = 4;
 
 // Where things are in the open card.
-constexpr QPoint FirstClient{540, 100};
+constexpr QPoint FirstClient = places::FirstClient;
 constexpr QPoint TrackTime{744, 174};
-constexpr QPoint Delete{1115, 174};
-constexpr QPoint Export{925, 108};
+constexpr QPoint Delete = places::DeleteClient;
+constexpr QPoint Export = places::Export;
 constexpr QPoint LeftWing{630, 3};
 constexpr QPoint FirstTotal{1000, 149};
 

@@ -1,5 +1,6 @@
 // What a hand does on the tabs of the open card.
 #include "desktop/desk/day.h"
+#include "desktop/desk/places.h"
 
 #include <QTest>
 
@@ -7,18 +8,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QPoint ConnectCalendar{748, 117};
-constexpr QPoint FirstEvent{691, 96}; // Its bar.
+constexpr QPoint ConnectCalendar = places::ConnectCalendar;
+constexpr QPoint FirstEvent = places::FirstEvent; // Its bar.
 constexpr QPoint SecondEvent{691, 132};
-constexpr QPoint PlayPause{569, 197};
-constexpr QPoint EditLaunch{1114, 256};
-constexpr QPoint AddWebsite{1084, 256};
+constexpr QPoint PlayPause = places::PlayPause;
+constexpr QPoint EditLaunch = places::EditLaunch;
+constexpr QPoint AddWebsite = places::AddWebsite;
 constexpr QPoint RemoveFirstLaunch{547, 244};
 constexpr QPoint AddClient{671, 69};
 constexpr QPoint Status{726, 84};
 constexpr QPoint InTheStatusMenu{890, 200};
 constexpr QPoint TrackTime{808, 174}; // Of a client that has a site.
-constexpr QPoint DeleteClient{1115, 174};
+constexpr QPoint DeleteClient = places::DeleteClient;
 constexpr QPoint NewTask{750, 62};
 constexpr QPoint TaskClient{1058, 62};
 constexpr QPoint InTheTaskClientMenu{1110, 170};

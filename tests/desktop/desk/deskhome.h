@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktop/desk/places.h"
+
 #include <QJsonObject>
 #include <QPoint>
 #include <QProcess>
@@ -21,12 +23,12 @@ public:
     };
 
     // Where things are on a screen of 1600 by 900 points at scale 1.
-    static constexpr QPoint Notch{800, 4};
-    static constexpr QPoint InTheCard{800, 200};
-    static constexpr QPoint FarAway{300, 700};
-    static constexpr QPoint TaskField{600, 60};
-    static constexpr QPoint BesideTheNotch{660, 25};
-    static constexpr QPoint Pin{1102, 23};
+    static constexpr QPoint Notch = places::Notch;
+    static constexpr QPoint InTheCard = places::InTheCard;
+    static constexpr QPoint FarAway = places::FarAway;
+    static constexpr QPoint TaskField = places::TaskField;
+    static constexpr QPoint BesideTheNotch = places::BesideTheNotch;
+    static constexpr QPoint Pin = places::Pin;
 
     DeskHome(const DeskHome&) = delete;
     DeskHome& operator=(const DeskHome&) = delete;

@@ -1,5 +1,6 @@
 // What is seen on the desk's screen, and what pointer and keyboard do there.
 #include "desktop/desk/deskconnection.h"
+#include "desktop/desk/places.h"
 
 #include <QDeadlineTimer>
 #include <QTest>
@@ -73,7 +74,7 @@ void Desk::hold(const QString& key) const
 
 void Desk::showTab(int number) const
 {
-    click({800 - 350 + 22 + 20 + 15 + 32 * number, 23});
+    click(places::tabButton(number));
     waitFor("the tab", [&] { return selectedTab() == number; });
 }
 

@@ -1,4 +1,5 @@
 #include "desktop/desk/desk.h"
+#include "desktop/desk/places.h"
 
 #include <QJsonArray>
 #include <QTest>
@@ -209,8 +210,8 @@ void KeyboardTest::menu_isLeftByAClickElsewhereWhilePinned()
 /// Where each press would take away another item of the quick-launch strip.
 void KeyboardTest::keyHeldDown_pressesOnce()
 {
-    constexpr QPoint EditLaunch{1114, 256};
-    constexpr QPoint AddWebsite{1084, 256};
+    constexpr QPoint EditLaunch = places::EditLaunch;
+    constexpr QPoint AddWebsite = places::AddWebsite;
     Desk desk;
     const auto quib = desk.startQuib();
     desk.openWithPointer();

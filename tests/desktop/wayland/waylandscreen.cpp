@@ -1,4 +1,5 @@
 // What pointer and keys do on the desk, and what is seen there.
+#include "desktop/desk/places.h"
 #include "desktop/wayland/waylanddesk.h"
 #include "desktop/wayland/xpanel.h"
 
@@ -95,7 +96,7 @@ void WaylandDesk::key(const QString& name) const
 
 void WaylandDesk::showTab(int number) const
 {
-    click({800 - 350 + 22 + 20 + 15 + 32 * number, 23});
+    click(places::tabButton(number));
     waitFor("the tab", [&] { return selectedTab() == number; });
 }
 
