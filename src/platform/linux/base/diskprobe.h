@@ -8,8 +8,8 @@
 
 namespace quib {
 
-/// Looks at the disk on threads that nobody waits for. A path that hangs holds one of them, however
-/// often it is asked about.
+/// Looks at the disk beside the main thread, as PatientWork does. A path that hangs holds one
+/// thread, however often it is asked about.
 class DiskProbe final : public FileProbe {
     Q_OBJECT
 

@@ -10,8 +10,9 @@
 
 namespace quib {
 
-/// Work that may hang for ever, as on a dead disk, on threads that nobody waits for: what hangs
-/// holds up neither other work nor the end of the program. On the main thread.
+/// Work that may hang for ever, as on a dead disk. Each job has a thread of its own that is never
+/// joined: one that hangs is given up after a while, and goes down with the program. So it holds up
+/// neither other work nor the end. To be used on the main thread.
 class PatientWork final : public QObject {
     Q_OBJECT
 

@@ -12,8 +12,8 @@
 
 namespace quib {
 
-/// Looks icons up in the desktop's theme, on threads that nobody waits for: what hangs on a dead
-/// disk gets the stand-in, and holds up neither other icons nor the end of the program.
+/// Looks icons up in the desktop's theme, beside the main thread, as PatientWork does: what hangs
+/// on a dead disk gets the stand-in, and holds up neither other icons nor the end of the program.
 class ThemeIconSource final : public IconSource {
     Q_OBJECT
 
