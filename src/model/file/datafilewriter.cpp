@@ -81,7 +81,7 @@ public:
     }
 
     /// The last value: nothing is kept back any more.
-    template <typename Record>
+    template <HasMembers Record>
     void writeWhole(const Record& record)
     {
         put(record);
@@ -89,7 +89,7 @@ public:
     }
 
 private:
-    template <typename Record>
+    template <HasMembers Record>
     void put(const Record& record)
     {
         m_json.StartObject();

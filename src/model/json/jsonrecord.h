@@ -43,6 +43,12 @@ struct AskedMember {
     }
 };
 
+template <typename T>
+AskedMember<T> ask(std::string_view key, T& value)
+{
+    return {key, value};
+}
+
 template <typename... T>
 bool readMember(std::string_view key, simdjson::ondemand::value value, AskedMember<T>&... members)
 {
@@ -66,14 +72,19 @@ bool readMembers(simdjson::ondemand::object object, AskedMember<T>... members)
     return ((members.isRead || members.mayBeMissing()) && ...);
 }
 
-template <typename Record>
+template <HasMembers Record, std::size_t... Place>
+bool readRecord(simdjson::ondemand::object object, Record& out, std::index_sequence<Place...> /**/)
+{
+    const auto& members = Members<Record>;
+    return readMembers(object,
+                       ask(std::get<Place>(members).key, out.*(std::get<Place>(members).value))...);
+}
+
+template <HasMembers Record>
 bool readRecord(simdjson::ondemand::object object, Record& out)
 {
-    return std::apply(
-        [&](const auto&... member) {
-            return readMembers(object, AskedMember{member.key, out.*member.value}...);
-        },
-        Members<Record>);
+    constexpr auto Count = std::tuple_size_v<std::remove_cvref_t<decltype(Members<Record>)>>;
+    return readRecord(object, out, std::make_index_sequence<Count>());
 }
 
 template <typename Record>
@@ -94,7 +105,7 @@ bool readValue(simdjson::ondemand::value value, QList<Record>& out)
 
 /// The record that a whole text stands for; absent when that is not valid JSON of exactly that
 /// form. Members that the record does not have are passed over.
-template <typename Record>
+template <HasMembers Record>
 std::optional<Record> decodeRecord(const QByteArray& bytes)
 {
     const auto roomy = withRoomBehind(bytes);
