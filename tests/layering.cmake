@@ -37,7 +37,7 @@ set(never_in_app          "Qt(DBus|Widgets)/|QDBus[A-Z]|${desktop}|${json_and_ic
 
 # One room each speaks to the X server, the compositor, the calendars' service, ICU and the JSON reader.
 foreach(only platform/linux/x11=xcb/ platform/linux/wayland=wayland- platform/linux/calendar/eds=libecal/
-        model/locale=unicode/ model/json=simdjson)
+        model/locale=unicode/ model/json=simdjson model/file=rapidjson/)
     string(REPLACE "=" ";" only ${only})
     list(GET only 0 room)
     list(GET only 1 library)
@@ -72,6 +72,9 @@ foreach(list IN LISTS lists)
         set(library_of_${CMAKE_MATCH_1} ${library})
     endif()
 endforeach()
+if(NOT libraries)
+    fault("There are no rooms below ${ROOT}/src")
+endif()
 set(library_of_platform platform) # The door is described with what stands behind it.
 
 function(check_link file library other what)
