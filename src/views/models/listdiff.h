@@ -25,8 +25,8 @@ struct RowStep {
 };
 
 /// Steps from `shown` to `wanted`, in which equal numbers are the same row; one that repeats is as
-/// many rows, told apart by their order. A row that goes, comes or changes its place among the
-/// others is one step; where many change places at once there may be more steps than rows that do.
+/// many rows, told apart by their order. A row alone that goes, comes or changes its place is one
+/// step; where several change places, or others come meanwhile, there may be more than the fewest.
 std::vector<RowStep> diffRows(std::vector<int> shown, std::span<const int> wanted);
 
 /// The same for records of which `key` tells which is which.
