@@ -2,7 +2,7 @@
 
 #include "app/notchpanel.h"
 #include "model/file/datafile.h"
-#include "platform/linux/base/diskprobe.h"
+#include "platform/linux/files/diskprobe.h"
 #include "platform/linux/icons/themeiconsource.h"
 #include "shortcuts/shortcuts.h"
 #include "support/writefile.h"

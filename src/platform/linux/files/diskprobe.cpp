@@ -1,4 +1,4 @@
-#include "platform/linux/base/diskprobe.h"
+#include "platform/linux/files/diskprobe.h"
 
 #include <QFile>
 

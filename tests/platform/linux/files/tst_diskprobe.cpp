@@ -1,4 +1,4 @@
-#include "platform/linux/base/presenceof.h"
+#include "platform/linux/files/presenceof.h"
 #include "support/writefile.h"
 
 #include <QFile>

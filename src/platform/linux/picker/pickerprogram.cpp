@@ -1,4 +1,4 @@
-#include "platform/linux/launch/pickerprogram.h"
+#include "platform/linux/picker/pickerprogram.h"
 
 #include "platform/linux/window/linuxpanelhost.h"
 

@@ -1,4 +1,4 @@
-#include "platform/linux/launch/pickerdesk.h"
+#include "platform/linux/picker/pickerdesk.h"
 #include "platform/linux/x11/runningprogram.h"
 
 #include <QDir>

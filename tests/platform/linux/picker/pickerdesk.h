@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/launch/pickerprogram.h"
+#include "platform/linux/picker/pickerprogram.h"
 #include "platform/linux/x11/otherprogram.h"
 #include "platform/linux/x11/xcbpanelhost.h"
 

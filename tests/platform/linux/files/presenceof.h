@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/base/diskprobe.h"
+#include "platform/linux/files/diskprobe.h"
 
 #include <QTest>
 
