@@ -92,17 +92,18 @@ void Store::updateClient(const Client& client)
     announce(&Store::clientsChanged);
 }
 
-QUuid Store::addTask(const QString& title, const std::optional<QUuid>& client)
+bool Store::addTask(const QString& title, const std::optional<QUuid>& client)
 {
     const auto trimmed = title.trimmed();
     if (trimmed.isEmpty()) {
-        return {};
+        return false;
     }
-    const auto id = QUuid::createUuid();
-    workspace().tasks.prepend(
-        {.id = id, .title = trimmed, .clientID = client, .created = m_surroundings.clock()});
+    workspace().tasks.prepend({.id = QUuid::createUuid(),
+                               .title = trimmed,
+                               .clientID = client,
+                               .created = m_surroundings.clock()});
     announce(&Store::tasksChanged);
-    return id;
+    return true;
 }
 
 void Store::toggleTask(const QUuid& id)

@@ -77,8 +77,8 @@ public:
     Q_INVOKABLE void deleteClient(const QUuid& id);
     /// Replaces the first client of that id; unknown ids change nothing.
     void updateClient(const Client& client);
-    /// Blanks around the title are cut off; without anything else there is no task, and a null id.
-    Q_INVOKABLE QUuid addTask(const QString& title, const std::optional<QUuid>& client);
+    /// Blanks around the title are cut off; without anything else there is no task, and false.
+    Q_INVOKABLE bool addTask(const QString& title, const std::optional<QUuid>& client);
     Q_INVOKABLE void toggleTask(const QUuid& id);
     Q_INVOKABLE void deleteTask(const QUuid& id);
     Q_INVOKABLE void clearDoneTasks();

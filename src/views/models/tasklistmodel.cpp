@@ -40,9 +40,12 @@ void TaskListModel::setFilter(const QUuid& filter)
     Q_EMIT filterChanged();
 }
 
-int TaskListModel::rowOf(const QUuid& id) const
+int TaskListModel::newestRow() const
 {
-    const auto found = std::ranges::find(m_tasks, id, &TaskRecord::id);
+    const auto tasks = store() ? store()->data().tasks : QList<TaskItem>();
+    const auto found = tasks.isEmpty()
+        ? m_tasks.end()
+        : std::ranges::find(m_tasks, tasks.front().id, &TaskRecord::id);
     return found == m_tasks.end() ? -1 : static_cast<int>(found - m_tasks.begin());
 }
 

@@ -37,8 +37,8 @@ public:
     QString clearDoneTitle() const { return m_clearDoneTitle; }
 
     void setFilter(const QUuid& filter);
-    /// Of the first task of that id; -1 where none is shown.
-    Q_INVOKABLE int rowOf(const QUuid& id) const;
+    /// Of the store's first task; -1 where it is not shown.
+    Q_INVOKABLE int newestRow() const;
 
 Q_SIGNALS:
     void filterChanged();

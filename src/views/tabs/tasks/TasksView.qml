@@ -21,7 +21,7 @@ FocusScope {
 
     function addTask() {
         const client = root.newClient === NoClient.id ? root.filter : root.newClient;
-        list.reveal(tasks.rowOf(root.store.addTask(field.text, client)));
+        list.reveal(root.store.addTask(field.text, client) ? tasks.newestRow() : -1);
         field.text = "";
         field.forceActiveFocus();
     }
