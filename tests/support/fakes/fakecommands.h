@@ -10,6 +10,7 @@
 class FakeCommands final : public quib::Commands {
 public:
     QStringList asked;
+    mutable QStringList named; ///< The applications whose names were asked.
     QList<Completion> choices;
     quib::StatusMenu statusMenu;
     bool inStatusBar = true;
@@ -24,6 +25,7 @@ public:
     }
     QString applicationName(const QString& path) const override
     {
+        named << path;
         return QStringLiteral("the application at ") + path;
     }
     bool takeKeyboard() override

@@ -44,16 +44,10 @@ FocusScope {
     }
 
     function addLink() {
-        if (editor.addLink(fields.name, fields.address)) {
+        if (LaunchEditor.addLink(root.store, fields.name, fields.address)) {
             fields.clear();
             root.stopAdding();
         }
-    }
-
-    LaunchEditor {
-        id: editor
-
-        store: root.store
     }
 
     LaunchListModel {
@@ -106,7 +100,7 @@ FocusScope {
             size: 12
             help: "Add an app"
 
-            onClicked: editor.addApplication(root.commands)
+            onClicked: LaunchEditor.addApplication(root.store, root.commands)
         }
 
         IconButton {

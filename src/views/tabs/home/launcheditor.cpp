@@ -2,36 +2,30 @@
 
 #include "views/tabs/home/launchlink.h"
 
+#include <QPointer>
+
 namespace quib {
 
-void LaunchEditor::setStore(Store* store)
+bool LaunchEditor::addLink(Store* store, const QString& name, const QString& address)
 {
-    if (m_store != store) {
-        m_store = store;
-        Q_EMIT storeChanged();
-    }
-}
-
-bool LaunchEditor::addLink(const QString& name, const QString& address)
-{
-    if (!m_store || address.isEmpty()) {
+    if (address.isEmpty()) {
         return false;
     }
-    m_store->addLaunchItem(
+    store->addLaunchItem(
         {.id = QUuid::createUuid(), .name = linkName(name, address), .target = address});
     return true;
 }
 
-void LaunchEditor::addApplication(Commands* commands)
+void LaunchEditor::addApplication(Store* store, Commands* commands)
 {
-    const QPointer<Commands> shell(commands);
-    commands->pick(false, std::nullopt, [shell, store = m_store](const QUrl& chosen) {
+    const auto add = [store = QPointer(store), shell = QPointer(commands)](const QUrl& chosen) {
         const auto path = chosen.adjusted(QUrl::StripTrailingSlash).toLocalFile();
         if (shell && store && !path.isEmpty()) {
             store->addLaunchItem(
                 {.id = QUuid::createUuid(), .name = shell->applicationName(path), .target = path});
         }
-    });
+    };
+    commands->pick(false, std::nullopt, add);
 }
 
 } // namespace quib
