@@ -44,14 +44,14 @@ QString testOf(const QString& quoted)
     return quoted.startsWith("tst_"_L1) ? quoted.section(u'.', 0, 0) : QString();
 }
 
-/// Dots in a name stand for any part of it.
+/// Where a test function of that name begins. Dots in a name stand for any part of it.
 QRegularExpression patternOf(const QString& name)
 {
     QStringList parts;
     for (const auto& part : name.split(u'…')) {
         parts << QRegularExpression::escape(part);
     }
-    return QRegularExpression(u"\\b"_s + parts.join(u"\\w*"_s) + u"\\b"_s);
+    return QRegularExpression(u"(void \\w+::|function )"_s + parts.join(u"\\w*"_s) + u"\\b"_s);
 }
 
 } // namespace
@@ -104,7 +104,8 @@ void ClaimsTest::everyNameInARow_exists()
             }
         }
         for (const auto& name : names) {
-            if (!texts.isEmpty() && !patternOf(name).match(texts).hasMatch()) {
+            const bool isOfTheBuild = name == "layering"_L1 || name == "qmllint"_L1;
+            if (!isOfTheBuild && !patternOf(name).match(texts).hasMatch()) {
                 missing << name;
             }
         }
