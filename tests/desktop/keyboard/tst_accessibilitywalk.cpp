@@ -1,8 +1,5 @@
-#include "desktop/desk/deskconnection.h"
-#include "desktop/desk/reader.h"
+#include "desktop/desk/readdesk.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QSet>
 #include <QTest>
 
@@ -18,101 +15,9 @@ private Q_SLOTS:
     void everyTab_isToldWhole_data();
     void everyTab_isToldWhole();
     void collapsed_nothingShows();
-    void tasks_areCheckBoxesInAList();
-    void field_isReadAndEdited();
-    void focus_isAnnounced();
-    void tabs_arePressed();
-    void pin_isCheckedWhereItIsPressed();
 };
 
 namespace {
-
-const QStringList Titles{u"Home"_s, u"Shortcuts"_s, u"Clients"_s, u"Tasks"_s,
-                         u"Time"_s, u"Shelf"_s,     u"Notes"_s};
-
-QByteArray workspace(int many)
-{
-    const auto id = [](int kind, int number) {
-        return u"%1-1111-4111-8111-%2"_s.arg(kind, 8, 10, QChar(u'1'))
-            .arg(number, 12, 10, QChar(u'0'));
-    };
-    QJsonArray clients;
-    QJsonArray tasks;
-    QJsonArray entries;
-    QJsonArray launch;
-    const auto now = QDateTime::currentDateTimeUtc();
-    for (int i = 0; i < many; ++i) {
-        clients << QJsonObject{{u"id"_s, id(2, i)},
-                               {u"name"_s, u"Client %1"_s.arg(i)},
-                               {u"status"_s, u"build"_s},
-                               {u"siteURL"_s, u"site%1.example"_s.arg(i)},
-                               {u"folderPath"_s, u"/usr"_s},
-                               {u"hourlyRate"_s, 40},
-                               {u"notes"_s, u"first line\nsecond line"_s}};
-        tasks << QJsonObject{{u"id"_s, id(3, i)},
-                             {u"title"_s, u"Task %1"_s.arg(i)},
-                             {u"done"_s, i % 3 == 2},
-                             {u"created"_s, now.toString(Qt::ISODate)},
-                             {u"clientID"_s, id(2, i / 4)}};
-        entries << QJsonObject{{u"id"_s, id(4, i)},
-                               {u"clientID"_s, id(2, i)},
-                               {u"note"_s, u"work"_s},
-                               {u"start"_s, now.addSecs(-3600).toString(Qt::ISODate)},
-                               {u"end"_s, now.toString(Qt::ISODate)}};
-        launch << QJsonObject{{u"id"_s, id(5, i)},
-                              {u"name"_s, u"Site %1"_s.arg(i)},
-                              {u"target"_s, u"https://site%1.example"_s.arg(i)}};
-    }
-    return QJsonDocument(QJsonObject{{u"clients"_s, clients},
-                                     {u"tasks"_s, tasks},
-                                     {u"entries"_s, entries},
-                                     {u"shelf"_s, QJsonArray()},
-                                     {u"launch"_s, launch},
-                                     {u"notes"_s, QString()}})
-        .toJson();
-}
-
-/// The panel, open by a second start, and a reader of it.
-struct ReadDesk : Desk {
-    Reader reader{*this};
-    Program quib;
-
-    explicit ReadDesk(int many = 3, int scale = 1)
-        : Desk({.scale = scale})
-    {
-        writeData(workspace(many));
-        quib = start(Desk::quib());
-        reader.panel();
-        runQuib();
-        waitFor("the open panel", [this] { return bool(reader.panel().find(u"page tab"_s)); });
-    }
-
-    /// By key; told once its tab is.
-    Told showTab(int number)
-    {
-        key(u"ctrl+%1"_s.arg(number + 1));
-        Told panel;
-        waitFor("the tab", [&] {
-            panel = reader.panel();
-            const auto* tab = panel.find(u"page tab"_s, Titles.at(number));
-            return tab && tab->is(state::Selected);
-        });
-        return panel;
-    }
-
-    /// Once it shows: what a tab is made of may be told a frame later than its tab.
-    Told find(const QString& role, const QString& name = {})
-    {
-        Told found;
-        waitFor("what is to be shown", [&] {
-            const auto panel = reader.panel();
-            const auto* thing = panel.find(role, name);
-            found = thing ? *thing : Told();
-            return thing != nullptr;
-        });
-        return found;
-    }
-};
 
 bool showsSomething(const QImage& picture, const QRect& place)
 {
@@ -174,17 +79,6 @@ QStringList faults(const Told& parent, const QRect& card, const QImage& picture)
     return found;
 }
 
-QStringList selectedTabs(const Told& panel)
-{
-    QStringList selected;
-    for (const auto* thing : panel.shown()) {
-        if (thing->role == "page tab"_L1 && thing->is(state::Selected)) {
-            selected << thing->name;
-        }
-    }
-    return selected;
-}
-
 } // namespace
 
 void AccessibilityWalkTest::everyTab_isToldWhole_data()
@@ -205,12 +99,13 @@ void AccessibilityWalkTest::everyTab_isToldWhole()
     QFETCH(const QRect, card);
     ReadDesk desk(many, scale);
 
-    for (int number = 0; number < Titles.size(); ++number) {
+    for (int number = 0; number < ReadDesk::titles().size(); ++number) {
         const auto panel = desk.showTab(number);
 
         QCOMPARE(panel.role, u"frame"_s);
-        QCOMPARE(selectedTabs(panel), QStringList{Titles.at(number)});
-        QCOMPARE(desk.find(u"page tab list"_s).parts.size(), std::size_t(Titles.size()));
+        QCOMPARE(selectedTabs(panel), QStringList{ReadDesk::titles().at(number)});
+        QCOMPARE(desk.find(u"page tab list"_s).parts.size(),
+                 std::size_t(ReadDesk::titles().size()));
         QTRY_COMPARE(faults(desk.reader.panel(), card, desk.picture()).join(u'\n'), QString());
     }
 }
@@ -224,79 +119,6 @@ void AccessibilityWalkTest::collapsed_nothingShows()
     desk.moveTo(Desk::FarAway);
 
     QTRY_COMPARE(desk.reader.panel().shown().size(), std::size_t(1)); // The window itself.
-}
-
-void AccessibilityWalkTest::tasks_areCheckBoxesInAList()
-{
-    ReadDesk desk;
-    desk.showTab(3);
-    desk.find(u"list item"_s, u"Task 2"_s);
-    const auto list = desk.find(u"list"_s, u"Tasks"_s);
-    const auto* row = list.find(u"list item"_s, u"Task 0"_s);
-    QVERIFY(row && list.find(u"list item"_s, u"Task 2"_s));
-    const auto* box = row->find(u"check box"_s);
-    QVERIFY(box && !box->is(state::Checked));
-
-    desk.reader.press(*box);
-
-    QTRY_VERIFY(desk.data().value("tasks"_L1)[0]["done"_L1].toBool());
-    QTRY_VERIFY(desk.reader.heard.contains(u"checked "_s + box->path));
-}
-
-void AccessibilityWalkTest::field_isReadAndEdited()
-{
-    ReadDesk desk;
-    desk.showTab(2);
-    desk.reader.press(desk.find(u"list item"_s, u"Client 1"_s));
-    const auto field = desk.find(u"text"_s, u"Website URL"_s);
-    QVERIFY(field.is(state::Editable));
-    QCOMPARE(desk.reader.textOf(field), u"site1.example"_s);
-    const auto second = desk.reader.placeOf(field, 1);
-    QVERIFY(field.place.contains(second));
-    QVERIFY(second.left() > desk.reader.placeOf(field, 0).left());
-
-    desk.reader.setText(field, u"else.example"_s);
-
-    QTRY_COMPARE(desk.data().value("clients"_L1)[1]["siteURL"_L1].toString(), u"else.example"_s);
-    QCOMPARE(desk.reader.cursorOf(field), 12);
-}
-
-void AccessibilityWalkTest::focus_isAnnounced()
-{
-    ReadDesk desk;
-    desk.showTab(3);
-    const auto field = desk.find(u"text"_s).path;
-    QTRY_VERIFY(desk.reader.heard.contains(u"focused "_s + field));
-    const auto chooser = desk.find(u"combo box"_s).path;
-
-    desk.key(u"Tab"_s);
-
-    QTRY_COMPARE(desk.reader.heard.last(), u"focused "_s + chooser);
-    QVERIFY(desk.find(u"combo box"_s).is(state::Focused));
-}
-
-void AccessibilityWalkTest::tabs_arePressed()
-{
-    ReadDesk desk;
-
-    desk.reader.press(desk.find(u"page tab"_s, u"Time"_s));
-
-    QTRY_COMPARE(selectedTabs(desk.reader.panel()), QStringList{u"Time"_s});
-    desk.find(u"push button"_s, u"Start"_s);
-}
-
-void AccessibilityWalkTest::pin_isCheckedWhereItIsPressed()
-{
-    ReadDesk desk;
-    desk.moveTo(Desk::InTheCard);
-    const auto pin = desk.find(u"check box"_s, u"Keep open"_s);
-    QVERIFY(pin.is(state::Checked)); // By the second start.
-
-    desk.reader.press(pin);
-    QTRY_VERIFY(!desk.find(u"check box"_s, u"Keep open"_s).is(state::Checked));
-    desk.reader.press(pin);
-
-    QTRY_VERIFY(desk.reader.heard.contains(u"checked "_s + pin.path));
 }
 
 QTEST_GUILESS_MAIN(AccessibilityWalkTest)
