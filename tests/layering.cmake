@@ -113,7 +113,7 @@ foreach(file IN LISTS files)
     endforeach()
 endforeach()
 
-# Whoever links nobody that is left can go, until all are gone; those who can not stand in a circle.
+# Round by round each library that links none of those left is taken away; what remains is a circle.
 set(left ${libraries})
 set(gone TRUE)
 while(gone)

@@ -78,9 +78,7 @@ FocusScope {
 
         objectName: "spring"
         isSnapping: root.model.isMotionReduced
-        rising.response: 0.28
-        rising.damping: 0.82
-        falling.response: 0.2
+        falling.response: 0.2 // Rising it is the usual one.
         falling.damping: 1.0
         target: root.model.isExpanded ? 1 : 0
     }

@@ -6,7 +6,9 @@ namespace quib {
 
 void teachNoClient()
 {
-    QMetaType::registerConverter<QUuid, std::optional<QUuid>>(clientOrNone);
+    if (!QMetaType::hasRegisteredConverterFunction<QUuid, std::optional<QUuid>>()) {
+        QMetaType::registerConverter<QUuid, std::optional<QUuid>>(clientOrNone);
+    }
 }
 
 } // namespace quib

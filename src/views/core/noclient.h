@@ -23,13 +23,13 @@ public:
     static constexpr QUuid id() { return {0x5e1ec7ed, 0, 0, 0, 0, 0, 0, 0, 0, 0, 3}; }
 };
 
-/// What the id of a client in QML means to the core.
+/// What the id of a client in QML means to the store.
 inline std::optional<QUuid> clientOrNone(const QUuid& id)
 {
     return id == NoClient::id() ? std::nullopt : std::optional(id);
 }
 
-/// Has QML pass an id where an operation takes a client or none. Once, as the program starts.
+/// Has QML pass an id where an operation takes a client or none.
 void teachNoClient();
 
 } // namespace quib

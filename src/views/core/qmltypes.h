@@ -10,7 +10,7 @@
 
 #include <QtQml/qqml.h>
 
-/// Gives QML the types of the core without the core knowing that QML exists.
+/// Gives QML the types of what lies beneath the views, without those knowing that QML exists.
 namespace quib::qml {
 
 struct StoreType {

@@ -183,7 +183,7 @@ void ListDiffTest::manyRows_areQuick()
     QCOMPARE(stepsBetween(shown, wanted).size(), 1U);
 }
 
-/// Nothing turns a whole list round while it is shown: that is a square, of a few hundred rows.
+/// Costs the square of their number; no list of ours is turned round while it is shown.
 void ListDiffTest::manyRowsTurnedRound_keepTheirNumber()
 {
     const auto shown = manyRows(1024);

@@ -10,7 +10,8 @@
 namespace quib {
 
 /// The groups and keys of a desktop entry, or of the index of a theme. A file that is none has
-/// none. Read without GIO's own reader: what hangs elsewhere may hold its one lock.
+/// none. Read without GIO's own reader: that has one lock, which a thread that hangs on a
+/// dead disk may hold.
 class KeyFile {
 public:
     explicit KeyFile(const QString& path);

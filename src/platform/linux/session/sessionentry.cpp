@@ -2,8 +2,6 @@
 
 #include "platform/linux/base/keyfile.h"
 
-using namespace Qt::StringLiterals;
-
 namespace quib {
 
 namespace {
