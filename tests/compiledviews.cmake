@@ -1,0 +1,20 @@
+# Run by CTest: the bindings of every view are compiled ahead of time. Where the compiler of QML does not find what a
+# file imports it says nothing and leaves all of it to the interpreter, which takes longer and more memory.
+cmake_minimum_required(VERSION 3.25)
+
+file(GLOB_RECURSE views RELATIVE "${ROOT}" "${ROOT}/src/*.qml")
+if(NOT views)
+    message(SEND_ERROR "there are no views in ${ROOT}/src")
+endif()
+foreach(view IN LISTS views)
+    cmake_path(GET view PARENT_PATH folder)
+    cmake_path(GET view STEM name)
+    file(GLOB compiled "${BUILD}/${folder}/.rcc/qmlcache/*_${name}_qml.cpp")
+    set(functions "")
+    if(compiled)
+        file(STRINGS "${compiled}" functions REGEX "AOTCompiledContext \\*aotContext")
+    endif()
+    if(NOT functions)
+        message(SEND_ERROR "${view}: nothing in it is compiled; does its library link the modules that it imports?")
+    endif()
+endforeach()
