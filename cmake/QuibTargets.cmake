@@ -36,7 +36,7 @@ function(quib_library name)
                 list(APPEND modules ${uri})
             endif()
         endforeach()
-        qt_add_qml_module(quib_${name} URI ${arg_QML_URI} VERSION 1.0 RESOURCE_PREFIX /qt/qml
+        qt_add_qml_module(quib_${name} URI ${arg_QML_URI} VERSION 1.0 NO_PLUGIN RESOURCE_PREFIX /qt/qml
             DEPENDENCIES ${modules} QML_FILES ${arg_QML_FILES}
             IMPORT_PATH ${QT_QML_OUTPUT_DIRECTORY}) # without it what names their types would not be compiled
         get_target_property(generated quib_${name} SOURCES)
