@@ -30,17 +30,25 @@ function(quib_library name)
     target_link_libraries(quib_${name} PUBLIC ${arg_LINKS} PRIVATE Quib::options)
     if(arg_QML_URI)
         set(modules QtQuick QtQml.Models)
+        set(types "")
         foreach(link IN LISTS arg_LINKS)
             get_target_property(uri ${link} QT_QML_MODULE_URI)
             if(uri)
+                get_target_property(types_of_module ${link} QT_QML_MODULE_PLUGIN_TYPES_FILE)
                 list(APPEND modules ${uri})
+                list(APPEND types ${types_of_module})
             endif()
         endforeach()
         qt_add_qml_module(quib_${name} URI ${arg_QML_URI} VERSION 1.0 NO_PLUGIN RESOURCE_PREFIX /qt/qml
             DEPENDENCIES ${modules} QML_FILES ${arg_QML_FILES}
-            IMPORT_PATH ${QT_QML_OUTPUT_DIRECTORY}) # without it what names their types would not be compiled
+            IMPORT_PATH ${QT_QML_OUTPUT_DIRECTORY}) # else the compiler finds none of them, and says nothing
         get_target_property(generated quib_${name} SOURCES)
         list(FILTER generated INCLUDE REGEX "/qmlcache/")
+        foreach(view IN LISTS generated)
+            if(view MATCHES "_qml\\.cpp$")
+                add_custom_command(OUTPUT ${view} APPEND DEPENDS ${types}) # it is compiled against them
+            endif()
+        endforeach()
         set_source_files_properties(${generated} PROPERTIES COMPILE_OPTIONS
             -Wno-conversion) # Qt 6.4 turns the length of a text or list into an int
     else()

@@ -1,6 +1,6 @@
 find_program(WAYLAND_SCANNER wayland-scanner REQUIRED)
 
-# quib_wayland_protocol(platform wayland/layer-shell.xml): the target may include <layer-shell-client.h>.
+# quib_wayland_protocol(quib_linux-wayland layer-shell.xml): the target may include <layer-shell-client.h>.
 function(quib_wayland_protocol target file)
     cmake_path(GET file STEM name)
     cmake_path(ABSOLUTE_PATH file)
