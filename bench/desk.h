@@ -13,9 +13,9 @@ using Samples = std::vector<double>;
 
 // Where things are on a screen of 1600 pixels, at scale 1.
 constexpr Point Notch = places::Notch;
-constexpr Point InTheNotch{800, 12};
+constexpr Point InTheNotch = places::InTheNotch;
 constexpr Point BelowTheNotch{800, 26};
-constexpr Point InTheCard{800, 280};
+constexpr Point LowInTheCard{800, 280};
 constexpr Point FarAway = places::FarAway;
 constexpr Point Field = places::TaskField;
 constexpr Point FieldCorner{460, 50};

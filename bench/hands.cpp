@@ -21,9 +21,9 @@ Point tabButton(int number)
 
 void visitTab(Screen& screen, int number)
 {
-    const auto before = screen.pixel(InTheCard);
+    const auto before = screen.pixel(LowInTheCard);
     screen.moveTo(Notch);
-    screen.waitUntil("the card", [&] { return screen.pixel(InTheCard) != before; });
+    screen.waitUntil("the card", [&] { return screen.pixel(LowInTheCard) != before; });
     screen.click(tabButton(number % TabCount));
     sleep_for(30ms);
     screen.moveTo(FarAway);

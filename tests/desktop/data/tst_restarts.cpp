@@ -24,7 +24,7 @@ bool hasNoBlackBox(const Desk& desk)
 bool endsAs(const Desk& desk, bool isOpen)
 {
     return waitForLasting(isOpen ? "the open panel" : "the closed panel", [&] {
-        return hasNoBlackBox(desk) && desk.pixel({800, 12}) == QColor(Qt::black)
+        return hasNoBlackBox(desk) && desk.pixel(places::InTheNotch) == QColor(Qt::black)
             && desk.isExpanded() == isOpen
             && (isOpen || desk.pixel(InTheCard) != QColor(Qt::black));
     });
@@ -153,7 +153,7 @@ void RestartsTest::windowManagerRestarted_thePanelStaysAbove()
         = desk.start(u"xterm"_s, {u"-geometry"_s, u"100x20+500+0"_s, u"-bg"_s, u"#00ff00"_s});
     QTRY_COMPARE_WITH_TIMEOUT(desk.pixel({900, 150}), QColor(Qt::green), 10'000);
 
-    QTRY_COMPARE(desk.pixel({800, 12}), QColor(Qt::black));
+    QTRY_COMPARE(desk.pixel(places::InTheNotch), QColor(Qt::black));
     desk.moveTo(Desk::Notch);
     QVERIFY(desk.waitForExpanded(true));
     addTask(desk, u"Above"_s);

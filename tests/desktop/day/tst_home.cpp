@@ -4,9 +4,6 @@
 #include "support/sendsignal.h"
 #include "support/writefile.h"
 
-#include <QDateTime>
-#include <QDir>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QTest>
 
@@ -30,7 +27,7 @@ namespace {
 
 constexpr int LinksTab = 1;
 constexpr QPoint PlayPause = places::PlayPause;
-constexpr QPoint LeftOfItsMiddle{566, 197}; // White in either symbol.
+constexpr QPoint LeftOfItsMiddle = places::LeftInPlayPause;
 constexpr QPoint ConnectCalendar = places::ConnectCalendar;
 constexpr QPoint FirstEvent = places::FirstEvent; // Its bar.
 constexpr QPoint EditLaunch = places::EditLaunch;

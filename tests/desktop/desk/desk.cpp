@@ -33,7 +33,7 @@ Program Desk::startQuib(QStringList command, const QStringList& arguments)
     auto program = start(first, command);
     setVariable(u"DISPLAY"_s, display);
     waitFor("the panel", [this] {
-        return isShown(u"Korvel Quib"_s) && pixel({800, 12}) == QColor(Qt::black);
+        return isShown(u"Korvel Quib"_s) && pixel(places::InTheNotch) == QColor(Qt::black);
     });
     return program;
 }

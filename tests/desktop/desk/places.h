@@ -18,6 +18,7 @@ struct Place {
 };
 
 constexpr Place Notch{800, 4};
+constexpr Place InTheNotch{800, 12};
 constexpr Place BesideTheNotch{660, 25};
 constexpr Place InTheCard{800, 200};
 constexpr Place FarAway{300, 700};
@@ -31,7 +32,8 @@ constexpr Place Pin{1102, 23};
 // On the home tab.
 constexpr Place ConnectCalendar{748, 117};
 constexpr Place FirstEvent{691, 96}; // Its bar.
-constexpr Place PlayPause{569, 197};
+constexpr Place PlayPause{569, 197}; // Between the bars of pause.
+constexpr Place LeftInPlayPause{566, 197}; // White in either symbol.
 constexpr Place EditLaunch{1114, 256};
 constexpr Place AddWebsite{1084, 256};
 

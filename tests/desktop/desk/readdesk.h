@@ -1,6 +1,5 @@
 #pragma once
 
-#include "desktop/desk/deskconnection.h"
 #include "desktop/desk/reader.h"
 
 /// A desk with the panel, open by a second start, on a workspace with so many of everything, and a

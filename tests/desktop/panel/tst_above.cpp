@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QPoint BeneathTheNotch{800, 150}; ///< In the window that lies across the notch.
-constexpr QPoint OnTheNotch{800, 12};
+constexpr QPoint OnTheNotch = places::InTheNotch;
 
 Program startTerminal(Desk& desk, const QString& title, const QString& colour)
 {

@@ -203,7 +203,7 @@ void PanelTest::fullScreenWindow_liesBeneathThePanel()
     const auto window = desk.start(u"xterm"_s, {u"-fullscreen"_s, u"-bg"_s, u"#00ff00"_s});
     QTRY_COMPARE(desk.pixel({1500, 2}), QColor(Qt::green));
 
-    QCOMPARE(desk.pixel({800, 12}), QColor(Qt::black));
+    QCOMPARE(desk.pixel(places::InTheNotch), QColor(Qt::black));
     desk.moveTo(Desk::Notch);
 
     QVERIFY(desk.waitForExpanded(true));
@@ -221,11 +221,11 @@ void PanelTest::monitorsChange_thePanelFollows()
     desk.start(u"xrandr"_s, {u"--setmonitor"_s, u"R"_s, u"800/200x900/200+800+0"_s, u"none"_s})
         ->waitForFinished();
     QTRY_COMPARE(desk.pixel({400, 12}), QColor(Qt::black));
-    QTRY_VERIFY(desk.pixel({800, 12}) != QColor(Qt::black));
+    QTRY_VERIFY(desk.pixel(places::InTheNotch) != QColor(Qt::black));
 
     desk.start(u"xrandr"_s, {u"--delmonitor"_s, u"R"_s})->waitForFinished();
     desk.start(u"xrandr"_s, {u"--delmonitor"_s, u"L"_s})->waitForFinished();
-    QTRY_COMPARE(desk.pixel({800, 12}), QColor(Qt::black));
+    QTRY_COMPARE(desk.pixel(places::InTheNotch), QColor(Qt::black));
 }
 
 QTEST_GUILESS_MAIN(PanelTest)

@@ -122,7 +122,7 @@ void ScreensTest::primaryScreenMoves_thePanelFollows()
     QTRY_VERIFY(hasNotchAt(desk, {800, 0}));
     desk.setScreens({u"--output"_s, u"DUMMY1"_s, u"--primary"_s});
     QTRY_VERIFY(hasNotchAt(desk, {1600 + 640, 0}));
-    QVERIFY(desk.pixel({800, 12}) != QColor(Qt::black));
+    QVERIFY(desk.pixel(places::InTheNotch) != QColor(Qt::black));
 
     desk.setScreens({u"--output"_s, u"DUMMY1"_s, u"--left-of"_s, u"DUMMY0"_s});
     QTRY_VERIFY(hasNotchAt(desk, {640, 0}));

@@ -9,8 +9,8 @@ namespace {
 
 const auto OwnName = u"org.korvel.Quib"_s;
 const auto Player = u"org.mpris.MediaPlayer2.mpv"_s;
-constexpr QPoint MiddleOfPause{569, 197}; ///< Between the two bars.
-constexpr QPoint LeftBarOfPause{566, 197};
+constexpr QPoint MiddleOfPause = places::PlayPause;
+constexpr QPoint LeftBarOfPause = places::LeftInPlayPause;
 constexpr int TasksTab = 3;
 
 Program startPlayer(Desk& desk)

@@ -1,7 +1,6 @@
 #include "desktop/desk/desk.h"
 #include "support/sendsignal.h"
 
-#include <QElapsedTimer>
 #include <QJsonArray>
 #include <QTest>
 

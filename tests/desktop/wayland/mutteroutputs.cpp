@@ -6,8 +6,6 @@
 #include <QDBusMetaType>
 #include <QVariantMap>
 
-#include <tuple>
-
 using namespace Qt::StringLiterals;
 
 namespace {

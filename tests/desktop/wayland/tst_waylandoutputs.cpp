@@ -3,8 +3,6 @@
 #include <QTest>
 
 using Kind = WaylandDesk::Kind;
-using namespace Qt::StringLiterals;
-
 /// Outputs that come and go.
 class WaylandOutputsTest : public QObject {
     Q_OBJECT

@@ -2,8 +2,6 @@
 
 #include <QTest>
 
-using namespace Qt::StringLiterals;
-
 using Kind = WaylandDesk::Kind;
 
 namespace {
