@@ -8,7 +8,7 @@ namespace quib {
 
 bool LaunchEditor::addLink(Store* store, const QString& name, const QString& address)
 {
-    if (address.isEmpty()) {
+    if (!store || address.isEmpty()) {
         return false;
     }
     store->addLaunchItem(

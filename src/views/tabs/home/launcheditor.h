@@ -16,7 +16,7 @@ class LaunchEditor : public QObject {
 public:
     using QObject::QObject;
 
-    /// A new button at the end. False, and nothing done, without an address.
+    /// A new button at the end. False, and nothing done, without an address or a store.
     Q_INVOKABLE static bool addLink(quib::Store* store, const QString& name,
                                     const QString& address);
     /// Lets the user choose an application for a new button. Nothing is added once the store or the
