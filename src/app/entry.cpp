@@ -37,7 +37,7 @@ void useFont(const Desktop& desktop)
     QGuiApplication::setFont(QFont(desktop.fontFamily()));
 }
 
-/// To choose it every font of the system is looked at: not before a text is shown.
+/// Choosing it takes a look at every font of the system: that waits until a text is shown.
 void useFontOnceNeeded(AppDelegate& delegate)
 {
     auto* waiting = new QObject(&delegate);

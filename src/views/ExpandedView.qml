@@ -33,7 +33,7 @@ FocusScope {
 
     // A key takes the focus along, and shows where it is.
     function showTab(tab) {
-        area.focus = false; // Or the new tab would have it before, without the reason.
+        area.focus = false; // Else the new tab has it at once, without the reason that shows its ring.
         root.model.tab = tab;
         area.forceActiveFocus(Qt.TabFocusReason);
     }

@@ -37,7 +37,7 @@ FocusScope {
 
     focus: true
 
-    /// What was dropped before anything opened is shown.
+    /// The files come first, so that the shelf opens with them on it.
     function handleDrop(urls: list<url>) {
         urls.forEach(url => root.store.addToShelf([url]));
         if (!root.model.isExpanded) {
@@ -78,7 +78,7 @@ FocusScope {
 
         objectName: "spring"
         isSnapping: root.model.isMotionReduced
-        falling.response: 0.2 // Rising it is the usual one.
+        falling.response: 0.2 // Rising has the defaults.
         falling.damping: 1.0
         target: root.model.isExpanded ? 1 : 0
     }

@@ -5,7 +5,7 @@
 
 #include <array>
 
-// Here, where every program that shows views has it.
+// Here, since every program that shows views links this file.
 namespace quib {
 Q_COREAPP_STARTUP_FUNCTION(installAccessibleFactory)
 Q_COREAPP_STARTUP_FUNCTION(teachNoClient)
@@ -37,10 +37,11 @@ void qml_register_types_Quib_Views();
 
 namespace {
 
-// The modules are linked statically: what registers their types only where somebody names it.
-// They are no plugins, since as a program starts Qt reads several times what each plugin tells of
-// itself. The first is Qt's, which QtQuick imports; for a plugin in its place the thread that reads
-// the views would have to wait until the main one has made it ready.
+// The modules are linked statically. Of a static library the linker takes only what somebody names:
+// so the functions that register the modules' types are named here. They are no plugins, since as a
+// program starts Qt reads several times what each plugin tells of itself. The first is Qt's, which
+// QtQuick imports; for a plugin in its place the thread that reads the views would have to wait
+// until the main one has made it ready.
 [[gnu::used]] const std::array Registrations{
     &qml_register_types_QtQml_WorkerScript, &qml_register_types_Quib_Brand,
     &qml_register_types_Quib_Controls,      &qml_register_types_Quib_Core,

@@ -68,12 +68,12 @@ private:
     QList<Event> m_events;
     Access m_access = Access::Unknown;
     bool m_wasAnswered = false; ///< By the user, which counts more than what was read.
-    bool m_isAsking = false; ///< Whether we may read, as it stands; not the user.
+    bool m_isAsking = false; ///< What access there is; the user is not asked.
     bool m_isReloading = false;
     bool m_reloadsAgain = false; ///< Another was wanted meanwhile.
     bool m_isAsleep = false;
     bool m_readsOnWaking = false;
-    int m_accesses = 0; ///< Tells the answers that were asked for with the access of before.
+    int m_accesses = 0; ///< Counts its changes: answers to what was asked before one are dropped.
 };
 
 } // namespace quib

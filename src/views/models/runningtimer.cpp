@@ -34,7 +34,8 @@ void RunningTimer::follow()
 
 RunningTimer::Shown RunningTimer::wanted() const
 {
-    const bool isRunning = m_store && m_store->hasRunningEntry(); // Made before all is loaded.
+    // The first question first: runningEntry() waits for the file, before which this is made.
+    const bool isRunning = m_store && m_store->hasRunningEntry();
     const auto entry = isRunning ? m_store->runningEntry() : std::nullopt;
     if (!entry) {
         return {};

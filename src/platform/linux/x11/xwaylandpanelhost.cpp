@@ -12,8 +12,8 @@ namespace quib {
 
 namespace {
 
-/// A compositor learns of a window's place and of what is drawn there in two ways. Together they
-/// come where it shows nothing else of the window meanwhile.
+/// A compositor learns of a window's place from the X server and of its pixels from Xwayland. The
+/// two come together only where it shows nothing else of the window meanwhile.
 constexpr auto MomentAfterDrawing = 100ms;
 
 /// A server that has nothing to change does not answer.

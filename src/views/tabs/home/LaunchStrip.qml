@@ -30,7 +30,7 @@ FocusScope {
         fields.start(addWebsite.visualFocus ? Qt.TabFocusReason : Qt.OtherFocusReason);
     }
 
-    // Only keys do.
+    // Called by keys only, hence the ring of the focus.
     function stopAdding() {
         root.adding = false;
         addWebsite.forceActiveFocus(Qt.TabFocusReason); // Or keys would go nowhere.

@@ -82,7 +82,7 @@ bool CalendarReader::open()
     if (!m_registry) {
         return false;
     }
-    // Of any source: calendars may hang on one that is none.
+    // Of any source, not only calendars: an account is none, and switches off those in it.
     const auto changed = [](ESourceRegistry*, ESource*, gpointer reader) {
         static_cast<CalendarReader*>(reader)->announceIn(Pause);
     };
