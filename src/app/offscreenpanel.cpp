@@ -7,8 +7,6 @@
 #include <QQmlComponent>
 #include <QQuickRenderTarget>
 
-using namespace Qt::StringLiterals;
-
 namespace quib {
 
 OffscreenPanel::OffscreenPanel(const ViewContext& context)

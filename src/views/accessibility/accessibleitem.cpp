@@ -2,8 +2,6 @@
 
 #include <QScreen>
 
-using namespace Qt::StringLiterals;
-
 namespace quib {
 
 namespace {

@@ -5,7 +5,6 @@
 #include <QQuickWindow>
 
 #include <algorithm>
-#include <utility>
 
 namespace quib {
 

@@ -2,7 +2,6 @@
 
 #include <QAbstractAnimation>
 
-#include <chrono>
 #include <functional>
 #include <utility>
 

@@ -3,8 +3,6 @@
 #include <QPainterPath>
 #include <QString>
 
-#include <optional>
-
 namespace quib {
 
 /// An outline made for so many device pixels to its side, its lines that many pixels thick, its

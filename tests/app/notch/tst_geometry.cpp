@@ -2,7 +2,6 @@
 
 #include <QTest>
 
-using namespace Qt::StringLiterals;
 using quib::Screen;
 
 namespace {

@@ -4,7 +4,6 @@
 #include <QTest>
 
 #include <algorithm>
-#include <functional>
 
 using namespace Qt::StringLiterals;
 using quib::diffRows;

@@ -9,8 +9,6 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
-using namespace Qt::StringLiterals;
-
 namespace quib {
 
 namespace {

@@ -4,7 +4,6 @@
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 

@@ -5,6 +5,7 @@
 #include <QByteArrayView>
 
 #include <algorithm>
+#include <memory>
 
 #include <layer-shell-client.h>
 #include <wayland-client.h>

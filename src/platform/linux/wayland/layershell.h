@@ -1,9 +1,5 @@
 #pragma once
 
-#include <QtGlobal>
-
-#include <memory>
-
 struct wl_display;
 struct wl_event_queue;
 struct wl_output;

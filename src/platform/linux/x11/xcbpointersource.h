@@ -4,7 +4,6 @@
 #include "platform/linux/x11/base/xserver.h"
 
 #include <QAbstractNativeEventFilter>
-#include <QList>
 
 #include <xcb/xinput.h>
 

@@ -5,7 +5,6 @@
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 using quib::DiskProbe;
 using quib::FilePresence;
 

@@ -3,7 +3,6 @@
 
 #include <QProcess>
 #include <QTest>
-#include <QTimer>
 
 #include <csignal>
 

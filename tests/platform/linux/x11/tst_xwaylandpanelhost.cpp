@@ -3,7 +3,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-using namespace Qt::StringLiterals;
 using namespace quib;
 
 namespace {
