@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <span>
 
 using namespace Qt::StringLiterals;
@@ -233,9 +234,16 @@ void setManaged(const std::vector<xcb_window_t>& windows)
 
 bool hasWindowManager()
 {
-    const OtherProgram probe(QRect(0, 0, 10, 10), OtherProgram::Placing::ByWindowManager);
-    probe.show();
-    return QTest::qWaitFor([&probe] { return isManaged(probe.window()); }, 500);
+    std::optional<OtherProgram> probe(std::in_place, QRect(0, 0, 10, 10),
+                                      OtherProgram::Placing::ByWindowManager);
+    probe->show();
+    const auto window = probe->window();
+    if (!QTest::qWaitFor([window] { return isManaged(window); }, 500)) {
+        return false;
+    }
+    probe.reset();
+    // The next one may get the same number.
+    return QTest::qWaitFor([window] { return !isManaged(window); });
 }
 
 void addMonitor(const QString& name, int x, const QString& output)
