@@ -47,15 +47,26 @@ QString withTildeExpanded(const QString& text, const QString& home)
     return isHome ? home + text.mid(1) : text;
 }
 
+/// What follows two slashes would be a host in an address.
+QString withOneRoot(const QString& path)
+{
+    qsizetype slashes = 0;
+    while (slashes < path.size() && path.at(slashes) == u'/') {
+        ++slashes;
+    }
+    return path.sliced(slashes - 1);
+}
+
 /// Some schemes name no host, as in "trash:///"; the web without one leads nowhere, and a file on
-/// another host can't be reached by its path.
+/// another host can't be reached by its path, one without a root not by any.
 bool leadsSomewhere(const QUrl& url)
 {
     if (!url.isValid() || url.scheme().isEmpty()) {
         return false;
     }
     if (url.isLocalFile()) {
-        return url.host().isEmpty() && isPath(url.toLocalFile());
+        const auto path = url.toLocalFile();
+        return url.host().isEmpty() && path.startsWith(u'/') && isPath(path);
     }
     const bool isWeb = url.scheme() == u"http"_s || url.scheme() == u"https"_s;
     return !isWeb || !url.host().isEmpty();
@@ -75,7 +86,7 @@ QUrl withoutOwnHost(QUrl url)
 QString pathOf(const QString& target, const QString& home)
 {
     const auto text = withTildeExpanded(target, home);
-    return text.startsWith(u'/') && isPath(text) ? text : QString();
+    return text.startsWith(u'/') && isPath(text) ? withOneRoot(text) : QString();
 }
 
 QString withScheme(const QString& address)

@@ -46,6 +46,8 @@ void ActionsTest::open_asksTheDesktopFor_data()
     QTest::addRow("an application bundle")
         << u"/Applications/Notes.app"_s << u"open /Applications/Notes.app"_s;
     QTest::addRow("the root") << u"/"_s << u"open /"_s;
+    QTest::addRow("the root twice") << u"//"_s << u"open /"_s;
+    QTest::addRow("a path that looks like a host's") << u"//srv/site"_s << u"open /srv/site"_s;
     QTest::addRow("a path with all that addresses escape")
         << u"/tmp/100% #1?\"a b'ü\n-x"_s << u"open /tmp/100% #1?\"a b'ü\n-x"_s;
     QTest::addRow("a path that looks escaped") << u"/tmp/a%20b"_s << u"open /tmp/a%20b"_s;
@@ -100,6 +102,7 @@ void ActionsTest::open_whatLeadsNowhere_asksNothing_data()
     QTest::addRow("a broken escape") << u"https://example.org/%zz"_s;
     QTest::addRow("a port that is none") << u"example.org:abc"_s;
     QTest::addRow("the address of no file") << u"file://"_s;
+    QTest::addRow("the address of a file without a root") << u"file:file://x"_s;
     QTest::addRow("a file elsewhere") << u"file://server/share"_s;
     QTest::addRow("a NUL in a path below home") << u"~/a\0b"_s;
     QTest::addRow("a NUL in an address") << u"example.org/a\0b"_s;
