@@ -59,6 +59,8 @@ void AppDelegate::applicationDidFinishLaunching(std::unique_ptr<PanelEngine> eng
     m_life.begin();
     connect(&m_model, &NotchModel::isExpandedChanged, this, &AppDelegate::followExpansion);
     connect(m_platform.instance.get(), &SingleInstance::activated, &m_life, &PanelLife::activate);
+    connect(m_platform.instance.get(), &SingleInstance::pinAsked, &m_commands,
+            &QuibCommands::togglePin);
     connect(m_platform.desktop.get(), &Desktop::isMotionReducedChanged, this,
             &AppDelegate::followDesktop);
     followDesktop();

@@ -19,6 +19,8 @@ public:
 Q_SIGNALS:
     /// Another start asked for the panel.
     void activated();
+    /// The desktop's entry of the program was asked to pin the panel, or to let go of it.
+    void pinAsked();
     /// A process that runs for the same folder has been found after all, and told to open its
     /// panel. This one is to end, and to leave the folder as it is.
     void superseded();

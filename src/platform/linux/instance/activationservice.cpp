@@ -14,6 +14,7 @@ namespace quib {
 namespace {
 
 constexpr auto ApplicationInterface = "org.freedesktop.Application"_L1;
+constexpr auto PinAction = "Pin"_L1; // As the desktop entry names it; its other action opens.
 constexpr int PatienceMs = 2000;
 
 constexpr uint DoNotQueue = 4;
@@ -72,6 +73,12 @@ void ActivationService::startClaim(const QString& busName)
                  });
 }
 
+void ActivationService::answerTo(const QString& busName)
+{
+    offerObject(busName);
+    m_bus.connection().asyncCall(requestName(busName));
+}
+
 /// Before the name is: whoever finds that may call at once.
 void ActivationService::offerObject(const QString& busName)
 {
@@ -109,10 +116,14 @@ void ActivationService::Open(const QStringList& /*uris*/, const QVariantMap& /*p
     Q_EMIT activated();
 }
 
-void ActivationService::ActivateAction(const QString& /*action*/, const QVariantList& /*parameter*/,
+void ActivationService::ActivateAction(const QString& action, const QVariantList& /*parameter*/,
                                        const QVariantMap& /*platformData*/)
 {
-    Q_EMIT activated();
+    if (action == PinAction) {
+        Q_EMIT pinAsked();
+    } else {
+        Q_EMIT activated();
+    }
 }
 
 } // namespace quib

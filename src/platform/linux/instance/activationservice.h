@@ -26,6 +26,8 @@ public:
     Answer claim(const QString& busName);
     /// The same without waiting: `claimed` tells.
     void startClaim(const QString& busName);
+    /// Also takes calls to this name, if nobody has it.
+    void answerTo(const QString& busName);
     /// To the process that has the name. Waits for its answer, but not for ever.
     void activateOther(const QString& busName) const;
 
@@ -39,6 +41,7 @@ public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): slots are wh
 
 Q_SIGNALS:
     void activated();
+    void pinAsked();
     /// The answer to a claim that did not wait. Nothing where the bus went meanwhile.
     void claimed(quib::ActivationService::Answer answer);
 

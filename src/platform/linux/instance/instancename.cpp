@@ -11,8 +11,6 @@ namespace quib {
 
 namespace {
 
-constexpr auto ApplicationName = "org.korvel.Quib"_L1;
-
 /// Without links and dots, also where the last folders do not exist yet.
 std::filesystem::path canonicalPath(const std::filesystem::path& folder)
 {

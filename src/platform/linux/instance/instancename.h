@@ -6,6 +6,9 @@
 
 namespace quib {
 
+/// By which the desktop's entry of the program is known.
+inline constexpr QLatin1String ApplicationName("org.korvel.Quib");
+
 /// The bus name of the program that uses the folder: the plain one for the user's own data folder,
 /// one with a hash of the path for any other. However the path is spelt, a folder has one name.
 QString instanceName(const std::filesystem::path& dataFolder);

@@ -13,6 +13,12 @@ namespace {
 
 constexpr auto PatienceWithoutALock = 1s;
 
+/// By the name in the desktop's entry, whatever folder is used: whoever asked waits for that name.
+bool wasStartedByBus()
+{
+    return qEnvironmentVariableIsSet("DBUS_STARTER_BUS_TYPE");
+}
+
 } // namespace
 
 LinuxInstance::LinuxInstance(std::shared_ptr<SessionBus> bus)
@@ -20,6 +26,7 @@ LinuxInstance::LinuxInstance(std::shared_ptr<SessionBus> bus)
     , m_service(*m_bus)
 {
     connect(&m_service, &ActivationService::activated, this, &LinuxInstance::activated);
+    connect(&m_service, &ActivationService::pinAsked, this, &LinuxInstance::pinAsked);
     connect(&m_service, &ActivationService::claimed, this, &LinuxInstance::takeAnswer);
 }
 
@@ -56,6 +63,9 @@ bool LinuxInstance::claimByNameAlone()
 void LinuxInstance::takeName()
 {
     m_service.startClaim(m_name);
+    if (wasStartedByBus() && m_name != ApplicationName) {
+        m_service.answerTo(ApplicationName);
+    }
 }
 
 void LinuxInstance::takeAnswer(ActivationService::Answer answer)

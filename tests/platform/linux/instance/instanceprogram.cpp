@@ -13,6 +13,8 @@ int main(int argc, char* argv[])
                      [&out] { out << "activated" << Qt::endl; });
     QObject::connect(&instance, &quib::SingleInstance::superseded,
                      [&out] { out << "superseded" << Qt::endl; });
+    QObject::connect(&instance, &quib::SingleInstance::pinAsked,
+                     [&out] { out << "pin asked" << Qt::endl; });
     if (!instance.claim(argv[1])) {
         out << "refused" << Qt::endl;
         return 0;

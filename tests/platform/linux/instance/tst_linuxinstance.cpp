@@ -86,6 +86,7 @@ private Q_SLOTS:
     void claim_folderOfOthersInTheWay_isAlone();
     void claim_otherFolderForLocks_isSuperseded();
     void bus_activatesAsDesktopsDo();
+    void startedByBus_answersToTheDesktopsName();
 
 private:
     static void withAndWithoutBus();
@@ -287,6 +288,20 @@ void LinuxInstanceTest::bus_activatesAsDesktopsDo()
     QTRY_COMPARE(first.activations(), 2);
     QCOMPARE(call(u"ActivateAction"_s, {u"open"_s, u"[]"_s, u"{}"_s}), 0);
     QTRY_COMPARE(first.activations(), 3);
+    QCOMPARE(call(u"ActivateAction"_s, {u"Pin"_s, u"[]"_s, u"{}"_s}), 0);
+    QTRY_COMPARE(first.count("pin asked"), 1);
+    QCOMPARE(first.activations(), 3);
+}
+
+void LinuxInstanceTest::startedByBus_answersToTheDesktopsName()
+{
+    auto environment = m_withBus;
+    environment.insert(u"DBUS_STARTER_BUS_TYPE"_s, u"session"_s);
+
+    const Start first(folder(u"work"_s), environment);
+
+    QTRY_VERIFY(isOnBus(lockName(nativePath(folder(u"work"_s)))));
+    QTRY_VERIFY(isOnBus(u"org.korvel.Quib"_s));
 }
 
 QTEST_GUILESS_MAIN(LinuxInstanceTest)
