@@ -88,10 +88,15 @@ bool isMarkup(const QByteArray& bytes)
 QImage readIcon(const QString& path, int pixels)
 {
     const auto bytes = wholeFile(nativePath(path), LargestFile);
-    if (!bytes || isPacked(*bytes)) {
+    return bytes ? decodeIcon(*bytes, pixels) : QImage();
+}
+
+QImage decodeIcon(const QByteArray& bytes, int pixels)
+{
+    if (isPacked(bytes)) {
         return {};
     }
-    return isMarkup(*bytes) ? drawn(*bytes, pixels) : decoded(*bytes, pixels);
+    return isMarkup(bytes) ? drawn(bytes, pixels) : decoded(bytes, pixels);
 }
 
 } // namespace quib

@@ -68,9 +68,8 @@ QString artistOf(const QVariantMap& track)
     return shortened(all);
 }
 
-QString stateOf(const QVariantMap& properties)
+QString stateOf(const QString& status)
 {
-    const auto status = textOf(properties.value(u"PlaybackStatus"_s));
     if (status == "Playing"_L1) {
         return u"playing"_s;
     }
@@ -81,11 +80,16 @@ QString stateOf(const QVariantMap& properties)
 
 QString replyText(const QVariantMap& properties)
 {
-    const auto state = stateOf(properties);
+    return replyText(textOf(properties.value(u"PlaybackStatus"_s)),
+                     mapOf(properties.value(u"Metadata"_s)));
+}
+
+QString replyText(const QString& status, const QVariantMap& track)
+{
+    const auto state = stateOf(status);
     if (state.isEmpty()) {
         return {};
     }
-    const auto track = mapOf(properties.value(u"Metadata"_s));
     return QStringList{titleOf(track), artistOf(track), state}.join("||"_L1);
 }
 

@@ -10,4 +10,7 @@ namespace quib {
 /// without end are cut.
 QString replyText(const QVariantMap& properties);
 
+/// The same of a player with that "PlaybackStatus", once its "Metadata" is taken out.
+QString replyText(const QString& status, const QVariantMap& track);
+
 } // namespace quib
