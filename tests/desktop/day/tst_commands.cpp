@@ -21,7 +21,7 @@ constexpr int QuitLine = 196;
 
 constexpr QPoint FirstClient = places::FirstClient;
 constexpr QPoint SecondClient{540, 129};
-constexpr QPoint ChooseFolder{830, 143};
+constexpr QPoint ChooseFolder = places::ChooseFolder;
 constexpr QColor Popup{30, 27, 38};
 
 } // namespace

@@ -39,6 +39,7 @@ constexpr Place AddWebsite{1084, 256};
 
 // On the clients tab.
 constexpr Place FirstClient{540, 100};
+constexpr Place ChooseFolder{830, 143};
 constexpr Place DeleteClient{1115, 174};
 
 // On the tasks tab.

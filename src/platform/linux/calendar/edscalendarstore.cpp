@@ -1,8 +1,8 @@
 #include "platform/linux/calendar/edscalendarstore.h"
 
+#include "platform/linux/base/companion.h"
 #include "platform/linux/base/log.h"
 
-#include <QCoreApplication>
 #include <QPluginLoader>
 #include <QThread>
 
@@ -12,17 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace quib {
 
-namespace {
-
-QString pluginBesideTheProgram()
-{
-    return QCoreApplication::applicationDirPath() + "/quib-eds.so"_L1;
-}
-
-} // namespace
-
 EdsCalendarStore::EdsCalendarStore(const std::shared_ptr<SessionBus>& bus)
-    : EdsCalendarStore(bus, pluginBesideTheProgram())
+    : EdsCalendarStore(bus, companion(u"quib-eds.so"_s))
 {
 }
 

@@ -1,8 +1,8 @@
 #include "platform/linux/picker/pickerprogram.h"
 
+#include "platform/linux/base/companion.h"
 #include "platform/linux/window/linuxpanelhost.h"
 
-#include <QCoreApplication>
 #include <QProcess>
 
 #include <memory>
@@ -16,11 +16,6 @@ namespace {
 
 /// A killed program is gone at once, unless the system itself hangs.
 constexpr int PatienceMs = 200;
-
-QString programBesideOurs()
-{
-    return QCoreApplication::applicationDirPath() + u"/quib-picker"_s;
-}
 
 /// What the panel set for itself is not meant for others.
 QProcessEnvironment environment()
@@ -119,7 +114,7 @@ private:
 
 PickerProgram::PickerProgram(LinuxPanelHost& host, QString program)
     : m_host(host)
-    , m_program(program.isEmpty() ? programBesideOurs() : std::move(program))
+    , m_program(program.isEmpty() ? companion(u"quib-picker"_s) : std::move(program))
 {
 }
 
