@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 
 import Quib.Brand
 import Quib.Controls
@@ -34,7 +35,8 @@ Card {
 
     function focusRow(reason) {
         list.forceLayout(); // A row that is gone may still be current.
-        const button = (list.currentItem ?? add) as PlainButton;
+        // As a PlainButton, of which this file makes none, Qt 6.8 would not know it.
+        const button = (list.currentItem ?? add) as T.AbstractButton;
         button.forceActiveFocus(reason);
         button.focusReason = reason; // The list may have given it the focus without.
     }
