@@ -3,6 +3,7 @@
 #include "desktop/wayland/xpanel.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QStandardPaths>
 #include <QTest>
@@ -45,6 +46,9 @@ WaylandDesk::WaylandDesk(const Options& options)
     }
     if (isUp()) {
         moveTo(FarAway);
+    }
+    if (isUp() && hasLayers()) {
+        lookOnce();
     }
     if (isUp() && hasLayers()) {
         startBackground();
@@ -107,6 +111,18 @@ void WaylandDesk::startHand()
     });
     if (m_hand->readLine() != "ready\n") {
         m_refusal = lastWords(*m_hand);
+    }
+}
+
+/// Without a graphics card later versions of KWin draw in a way of which they take no pictures.
+void WaylandDesk::lookOnce()
+{
+    QElapsedTimer patience;
+    patience.start();
+    while (picture().isNull() && isUp()) {
+        if (patience.hasExpired(3000)) {
+            m_refusal = m_compositor->program().section(u'/', -1) + u" takes no pictures here"_s;
+        }
     }
 }
 

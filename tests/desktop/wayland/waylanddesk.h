@@ -80,6 +80,7 @@ private:
     QString announcer() const;
     void startCompositor();
     void startHand();
+    void lookOnce();
     void startBackground();
     void endLeftovers() const;
     QString tellSway(const QString& order) const;
