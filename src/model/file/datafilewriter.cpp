@@ -4,9 +4,6 @@
 #include "model/texts/uuidtext.h"
 #include "model/time/isodate.h"
 
-#if defined(__SSE2__)
-#define RAPIDJSON_SSE2 // Looks for what needs escaping 16 bytes at a time.
-#endif
 #include <rapidjson/prettywriter.h>
 
 #include <array>

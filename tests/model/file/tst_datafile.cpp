@@ -239,6 +239,10 @@ void DataFileTest::text_isReadBack_data()
         return text;
     }();
     QTest::addRow("line breaks of all kinds") << u"a\nb\r\nc\rd\u2028e\u2029f"_s;
+    for (int control = 0; control < 32; ++control) {
+        QTest::addRow("control character %d within a long text", control)
+            << QString(40, u'a') + QChar(control) + QString(40, u'b');
+    }
     QTest::addRow("a byte order mark in front") << u"\uFEFFtext"_s;
     QTest::addRow("two byte order marks") << u"\uFEFF\uFEFF"_s;
     QTest::addRow("beyond the basic plane")
