@@ -1,0 +1,246 @@
+#include "model/file/datafile.h"
+#include "model/store.h"
+#include "model/texts/nativepath.h"
+#include "support/datafolderfortest.h"
+#include "support/longrun.h"
+
+#include <QDir>
+#include <QMap>
+#include <QProcess>
+#include <QTest>
+
+#include <algorithm>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using quib::nativePath;
+
+// Each system call of a save is found by listening to one, and is then killed, or told of an error,
+// in a save of its own. The program under strace is this test itself, in a life as another program:
+// see main().
+
+namespace {
+
+constexpr auto OldNotes = "old"_L1;
+constexpr auto NewNotes = "new"_L1;
+constexpr auto LaterNotes = "later"_L1;
+constexpr auto SaveTwice = "--save-twice";
+constexpr auto Begin = "/a save begins"; // Looked for, so that the trace shows where.
+constexpr auto End = "/a save has ended";
+
+/// More than one write takes.
+quib::QuibData oldData()
+{
+    return {.clients = {{.name = QString(200'000, u'x')}}, .notes = OldNotes};
+}
+
+/// Of a file, which must be whole; "torn" when it is not.
+QString notesIn(const std::filesystem::path& file)
+{
+    const auto data = quib::loadQuibData(file);
+    return data && data->clients == oldData().clients ? data->notes : u"torn"_s;
+}
+
+/// One save that something happens to, then one that is left in peace. Not 0 where the first one
+/// left something else than the old file or the new one.
+int saveTwice()
+{
+    quib::Store store;
+    store.setNotes(NewNotes);
+    ::access(Begin, F_OK);
+    store.saveNow();
+    ::access(End, F_OK);
+    const auto notes = notesIn(quib::Store::folder() / "data.json");
+    if (notes != OldNotes && notes != NewNotes) {
+        return 1;
+    }
+    store.setNotes(LaterNotes);
+    store.saveNow();
+    return 0;
+}
+
+/// Which call of a name, counted from 1 in the life of the program.
+struct Call {
+    QString name;
+    int number = 0;
+
+    bool operator<(const Call& other) const
+    {
+        return std::tie(name, number) < std::tie(other.name, other.number);
+    }
+};
+
+/// A data folder with a workspace and with what is none of ours, reached by a link or without.
+struct Place {
+    explicit Place(bool isLink)
+        : isLinked(isLink)
+    {
+        const auto bytes = quib::encodeQuibData(oldData()).value();
+        if (isLinked) {
+            writeFile(elsewhere.path() + u"/workspace.json"_s, bytes);
+            QFile::link(elsewhere.path() + u"/workspace.json"_s, folder.file());
+        } else {
+            folder.put(bytes);
+        }
+        writeFile(folder.path() + u"/mine.txt"_s, "mine");
+    }
+
+    /// Lets strace interfere. False when it did not run.
+    bool save(const QString& injection, QString* trace = nullptr) const
+    {
+        QStringList arguments{u"-f"_s, u"-q"_s, u"-o"_s, log()};
+        if (!injection.isEmpty()) {
+            arguments << u"-e"_s << u"inject="_s + injection;
+        }
+        QProcess strace;
+        strace.setStandardErrorFile(
+            QProcess::nullDevice()); // Where a program without memory complains.
+        strace.start(u"strace"_s,
+                     arguments << QCoreApplication::applicationFilePath()
+                               << QString::fromLatin1(SaveTwice));
+        const bool ran = strace.waitForFinished() && QFile::exists(log());
+        QFile file(log());
+        if (trace != nullptr && file.open(QIODevice::ReadOnly)) {
+            *trace = QString::fromUtf8(file.readAll());
+        }
+        return ran;
+    }
+
+    QString notes() const { return notesIn(nativePath(folder.file())); }
+
+    /// Nothing but ours has changed or come.
+    QString harm() const
+    {
+        const auto isLeftover
+            = [](const QString& name) { return name.startsWith(u".korvel-quib-"_s); };
+        auto names = QDir(folder.path()).entryList(QDir::Files | QDir::Hidden);
+        names += QDir(elsewhere.path()).entryList(QDir::Files | QDir::Hidden);
+        names.removeIf(isLeftover);
+        names.sort();
+        const QStringList expected{u"data.json"_s, u"mine.txt"_s, u"trace"_s};
+        const QStringList expectedLinked{u"data.json"_s, u"mine.txt"_s, u"trace"_s,
+                                         u"workspace.json"_s};
+        QFile mine(folder.path() + u"/mine.txt"_s);
+        if (names != (isLinked ? expectedLinked : expected)) {
+            return u"the folder has "_s + names.join(u", "_s);
+        }
+        if (!mine.open(QIODevice::ReadOnly) || mine.readAll() != "mine") {
+            return u"a file that is not ours has changed"_s;
+        }
+        return QFileInfo(folder.file()).isSymLink() == isLinked ? QString() : u"the link is gone"_s;
+    }
+
+    QString log() const { return elsewhere.path() + u"/trace"_s; }
+
+    DataFolderForTest folder;
+    QTemporaryDir elsewhere;
+    bool isLinked;
+};
+
+QList<Call> callsOfASave(const QString& trace)
+{
+    QMap<QString, int> seen;
+    QList<Call> calls;
+    bool isSaving = false;
+    for (const auto& line : trace.split(u'\n')) {
+        const auto process
+            = line.section(u' ', 0, 0); // Each thread's calls are counted by themselves.
+        const auto name = line.section(u' ', 1).trimmed().section(u'(', 0, 0);
+        const int number = ++seen[process + name];
+        if (line.contains(QLatin1StringView(End))) {
+            return calls;
+        }
+        if (isSaving) {
+            calls << Call{name, number};
+        }
+        isSaving = isSaving || line.contains(QLatin1StringView(Begin));
+    }
+    return {};
+}
+
+QStringList injections()
+{
+    QStringList all{u"signal=SIGKILL"_s, u"error=EIO"_s, u"error=ENOSPC"_s};
+    if (rounds(0, 1) > 0) {
+        for (const auto* error :
+             {"EPERM",      "ENOENT",  "EINTR",  "EAGAIN",       "ENOMEM", "EACCES", "EBUSY",
+              "EEXIST",     "ENOTDIR", "EISDIR", "EINVAL",       "ENFILE", "EMFILE", "EFBIG",
+              "EROFS",      "EMLINK",  "EDQUOT", "ENAMETOOLONG", "ELOOP",  "ENOLCK", "ENOSYS",
+              "EOPNOTSUPP", "ESTALE",  "EXDEV",  "EBADF"}) {
+            all << u"error="_s + QLatin1StringView(error);
+        }
+    }
+    return all;
+}
+
+} // namespace
+
+class SaveCallsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void anyCall_leavesAWholeFileAndTheNextSaveWhole_data();
+    void anyCall_leavesAWholeFileAndTheNextSaveWhole();
+};
+
+void SaveCallsTest::initTestCase()
+{
+    QProcess strace;
+    strace.start(u"strace"_s, {u"-o"_s, u"/dev/null"_s, u"true"_s});
+    strace.waitForFinished();
+    QVERIFY2(strace.error() != QProcess::FailedToStart, "strace is not installed");
+    if (strace.exitStatus() != QProcess::NormalExit || strace.exitCode() != 0) {
+        const QByteArray reason = "strace may not trace here: " + strace.readAllStandardError();
+        QSKIP(reason.trimmed().constData()); // As in some containers.
+    }
+}
+
+void SaveCallsTest::anyCall_leavesAWholeFileAndTheNextSaveWhole_data()
+{
+    QTest::addColumn<bool>("isLink");
+    QTest::addColumn<QString>("injection");
+
+    for (const bool isLink : {false, true}) {
+        for (const auto& injection : injections()) {
+            QTest::addRow("%s, %s", isLink ? "a link" : "a file", qPrintable(injection))
+                << isLink << injection;
+        }
+    }
+}
+
+void SaveCallsTest::anyCall_leavesAWholeFileAndTheNextSaveWhole()
+{
+    QFETCH(const bool, isLink);
+    QFETCH(const QString, injection);
+    QString trace;
+    QVERIFY(Place(isLink).save({}, &trace));
+    const auto calls = callsOfASave(trace);
+    QVERIFY(calls.size() > 8);
+
+    for (const auto& call : calls) {
+        const auto what = u"%1:%2:when=%3"_s.arg(call.name, injection).arg(call.number);
+        const Place place(isLink);
+        QVERIFY(place.save(what, &trace));
+
+        QVERIFY2(!trace.contains(u"+++ exited with 1 +++"_s), qPrintable(what));
+        const bool hasEnded = trace.contains(u"+++ exited with 0 +++"_s);
+        const auto notes = place.notes();
+        const bool isKept = hasEnded ? notes == LaterNotes : notes == OldNotes || notes == NewNotes;
+        QVERIFY2(isKept, qPrintable(what + u": "_s + notes));
+        QVERIFY2(place.harm().isEmpty(), qPrintable(what + u": "_s + place.harm()));
+    }
+}
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    if (QCoreApplication::arguments().contains(QLatin1StringView(SaveTwice))) {
+        return saveTwice();
+    }
+    SaveCallsTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_savecalls.moc"
