@@ -1,14 +1,21 @@
 # A package for the Debian system, or its kin, on which it is built.
-file(STRINGS /etc/os-release system REGEX "^(ID|VERSION_ID)=") # None where the system is no such.
-string(REGEX REPLACE "(ID|VERSION_ID)=|[\";]" "" system "${system}")
+set(system unknown)
+if(EXISTS /etc/os-release)
+    file(READ /etc/os-release release)
+    string(REGEX MATCH "\nID=\"?([a-z]+)" found "\n${release}")
+    set(system ${CMAKE_MATCH_1})
+    string(REGEX MATCH "\nVERSION_ID=\"?([0-9.]+)" found "\n${release}")
+    string(APPEND system ${CMAKE_MATCH_1})
+endif()
 
 set(CPACK_PACKAGE_NAME quib)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_CONTACT "Korvel Quib <quib@korvel.org>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "panel for freelancers at the top edge of the screen")
-set(CPACK_PACKAGE_DESCRIPTION "Korvel Quib lives over the camera notch, or an imitation of one. Touch it with the
-pointer and it opens: what is playing, today's meetings, links, clients, tasks,
-a timer with totals and timesheets, a shelf for files, and notes.
+set(CPACK_PACKAGE_DESCRIPTION "Korvel Quib lives over the camera notch, or an imitation of one. Touch it
+with the pointer and it opens: what is playing, today's meetings, links,
+clients, tasks, a timer with totals and timesheets, a shelf for files, and
+notes.
 .
 All data stays in one file on this computer. Nothing is ever sent anywhere.")
 set(CPACK_STRIP_FILES ON)
