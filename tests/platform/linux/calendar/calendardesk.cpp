@@ -17,6 +17,8 @@
 #include <algorithm>
 #include <csignal>
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -82,6 +84,19 @@ void CalendarDesk::makeCalendar(const QString& id, const QByteArray& events,
               "[Data Source]\nDisplayName=" + id.toUtf8()
                   + "\nEnabled=true\nParent=local-stub\n\n[Calendar]\nBackendName=local\nColor="
                   + color + "\nSelected=true\n");
+    writeFile(path(u"data/evolution/calendar/%1/calendar.ics"_s.arg(id)), calendarOf(events));
+}
+
+void CalendarDesk::makeHungCalendar(const QString& id) const
+{
+    makeCalendar(id, {});
+    const auto file = path(u"data/evolution/calendar/%1/calendar.ics"_s.arg(id));
+    QFile::remove(file);
+    QVERIFY(::mkfifo(QFile::encodeName(file).constData(), S_IRUSR | S_IWUSR) == 0);
+}
+
+void CalendarDesk::endHanging(const QString& id, const QByteArray& events) const
+{
     writeFile(path(u"data/evolution/calendar/%1/calendar.ics"_s.arg(id)), calendarOf(events));
 }
 

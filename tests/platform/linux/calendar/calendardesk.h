@@ -26,6 +26,10 @@ public:
     /// A calendar in the user's own files, before the services start.
     void makeCalendar(const QString& id, const QByteArray& events,
                       const QByteArray& color = "#33d17a") const;
+    /// One whose file never answers, nor does what reads it; before the services start.
+    void makeHungCalendar(const QString& id) const;
+    /// Then it answers.
+    void endHanging(const QString& id, const QByteArray& events) const;
     /// The events as a file has them, with the zone "Own Zone", three hours before UTC.
     static QByteArray calendarOf(const QByteArray& events);
 

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void serviceKilledOften_isStartedAgainSoon();
     void serviceKilledWhileItReads_leavesWhatWasRead();
     void hungService_holdsUpNothing();
+    void hungCalendar_holdsUpNoOther();
     void hungRegistry_holdsUpNeitherThePanelNorTheEnd();
     void manyRecurringEvents_canBeQuitFrom();
     void noService_isEmpty();
@@ -105,6 +106,27 @@ void EdsCalendarServiceTest::hungService_holdsUpNothing()
     desk.send({u"read"_s, u"2026-03-02"_s});
     QCOMPARE(desk.answerTo({u"alive"_s}), u"yes"_s);
     QVERIFY(!desk.hasAnswer(u"read"_s));
+    QVERIFY(desk.quit());
+}
+
+void EdsCalendarServiceTest::hungCalendar_holdsUpNoOther()
+{
+    CalendarDesk desk;
+    desk.makeHungCalendar(u"holidays"_s);
+    desk.makeCalendar(u"work"_s, Call);
+    desk.startBus();
+    desk.startGranted();
+
+    QCOMPARE(desk.read(Monday), ShownCall);
+    const auto before = desk.changes();
+    QVERIFY(desk.write({u"work"_s, u"paint"_s, u"#00ff00"_s}));
+    QTRY_VERIFY(desk.changes() > before);
+    QCOMPARE(desk.read(Monday), ShownCall);
+
+    const auto then = desk.changes();
+    desk.endHanging(u"holidays"_s, Call);
+    QTRY_VERIFY(desk.changes() > then);
+    QCOMPARE(desk.read(Monday).size(), 2);
     QVERIFY(desk.quit());
 }
 

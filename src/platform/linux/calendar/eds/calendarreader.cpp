@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <system_error>
 #include <utility>
 
 namespace quib {
@@ -11,6 +12,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto Pause = 50ms; ///< Changes come in bursts.
+constexpr auto Patience = 1s; ///< With a calendar that does not answer, while others have.
+constexpr auto LongestGoodbye = 800ms; ///< To all of them together.
 constexpr int MostDoublings = 10; ///< Of the pause before a service that crashes is tried again.
 
 constexpr std::array RegistrySignals{"source-added", "source-removed", "source-changed",
@@ -29,38 +32,42 @@ GOwned<GDBusConnection> connectToBus(GCancellable* cancellable)
 
 } // namespace
 
-CalendarReader::CalendarReader(GCancellable* cancellable, std::function<void()> changed)
-    : m_cancellable(cancellable)
+CalendarReader::CalendarReader(Post post, GCancellable* cancellable, std::function<void()> changed)
+    : m_post(std::move(post))
+    , m_cancellable(cancellable)
     , m_changed(std::move(changed))
 {
 }
 
 CalendarReader::~CalendarReader()
 {
+    m_isHere.reset();
     close();
 }
 
-QList<CalendarEntry> CalendarReader::read(const Span& span)
+void CalendarReader::read(const Span& span, Answer answer)
 {
+    finish();
     watch(span);
-    if (!open()) {
-        return entriesReadLast();
+    m_answer = std::move(answer);
+    if (open()) {
+        list();
     }
-    QList<CalendarEntry> entries;
-    Calendars kept;
-    auto* const sources
-        = e_source_registry_list_enabled(m_registry.get(), E_SOURCE_EXTENSION_CALENDAR);
-    for (auto* link = sources; link != nullptr; link = link->next) {
-        auto* source = static_cast<ESource*>(link->data);
-        const QByteArray id(e_source_get_uid(source));
-        auto& calendar = m_calendars[id];
-        refresh(calendar, source);
-        entries += calendar.entries;
-        kept.insert(m_calendars.extract(id));
+    m_awaited = 0;
+    for (auto& [id, calendar] : m_calendars) {
+        const bool hangs = calendar.isAsked; // Or it would have answered.
+        ask(id, calendar);
+        calendar.isAwaited = calendar.isAsked && !hangs;
+        m_awaited += calendar.isAwaited ? 1 : 0;
     }
-    g_list_free_full(sources, g_object_unref);
-    m_calendars = std::move(kept);
-    return entries;
+    if (m_awaited == 0) {
+        finish();
+        return;
+    }
+    m_patience = callIn(Patience, [](gpointer reader) -> gboolean {
+        static_cast<CalendarReader*>(reader)->finish();
+        return G_SOURCE_REMOVE;
+    });
 }
 
 bool CalendarReader::open()
@@ -95,8 +102,17 @@ bool CalendarReader::open()
 /// Whoever holds on to a bus that is lost gets no other one.
 void CalendarReader::close()
 {
+    for (const auto& [id, calendar] : m_calendars) {
+        if (calendar.worker) {
+            calendar.worker->end();
+        }
+    }
+    const auto latest = std::chrono::steady_clock::now() + LongestGoodbye;
     for (auto& [id, calendar] : m_calendars) {
-        calendar.client.reset();
+        if (const auto worker = std::exchange(calendar.worker, nullptr)) {
+            worker->leaveBy(latest);
+        }
+        calendar.isAsked = false;
     }
     if (m_registry) {
         g_signal_handlers_disconnect_by_data(m_registry.get(), this);
@@ -105,13 +121,25 @@ void CalendarReader::close()
     m_bus.reset();
 }
 
-QList<CalendarEntry> CalendarReader::entriesReadLast() const
+/// The calendars that there are now. Those that stay keep their threads and what was read of them.
+void CalendarReader::list()
 {
-    QList<CalendarEntry> entries;
-    for (const auto& [id, calendar] : m_calendars) {
-        entries += calendar.entries;
+    Calendars listed;
+    m_order.clear();
+    auto* const sources
+        = e_source_registry_list_enabled(m_registry.get(), E_SOURCE_EXTENSION_CALENDAR);
+    for (auto* link = sources; link != nullptr; link = link->next) {
+        auto* source = static_cast<ESource*>(link->data);
+        const QByteArray id(e_source_get_uid(source));
+        auto& calendar = listed[id];
+        calendar = std::move(m_calendars[id]);
+        if (!calendar.worker) {
+            calendar.worker = makeWorker(source);
+        }
+        m_order.push_back(id);
     }
-    return entries;
+    g_list_free_full(sources, g_object_unref);
+    m_calendars = std::move(listed);
 }
 
 void CalendarReader::watch(const Span& span)
@@ -123,17 +151,95 @@ void CalendarReader::watch(const Span& span)
     }
 }
 
-void CalendarReader::refresh(Calendar& calendar, ESource* source)
+/// One question at a time: a thread that hangs is not to be left with a thousand of them.
+void CalendarReader::ask(const QByteArray& id, Calendar& calendar)
 {
-    auto& client = calendar.client;
-    if (!client || client->isDead()) {
-        client = CalendarClient::connect(
+    if (!calendar.worker) {
+        return;
+    }
+    calendar.isAskedAgain = calendar.isAsked;
+    if (std::exchange(calendar.isAsked, true)) {
+        return;
+    }
+    const std::weak_ptr worker = calendar.worker;
+    calendar.worker->read([post = m_post, here = std::weak_ptr(m_isHere), this, id,
+                           worker](const std::optional<QList<CalendarEntry>>& entries) {
+        post([here, this, id, worker, entries] {
+            if (!here.expired()) {
+                take(id, worker.lock(), entries);
+            }
+        });
+    });
+}
+
+/// The worker may be one that was left meanwhile.
+void CalendarReader::take(const QByteArray& id, const std::shared_ptr<CalendarWorker>& worker,
+                          const std::optional<QList<CalendarEntry>>& entries)
+{
+    const auto found = m_calendars.find(id);
+    if (!worker || found == m_calendars.end() || found->second.worker != worker) {
+        return;
+    }
+    auto& calendar = found->second;
+    const bool isNews = entries && calendar.entries != *entries;
+    calendar.entries = entries.value_or(calendar.entries);
+    calendar.isAsked = false;
+    if (std::exchange(calendar.isAskedAgain, false)) {
+        ask(id, calendar);
+    }
+    if (std::exchange(calendar.isAwaited, false) && --m_awaited == 0) {
+        finish();
+    } else if (isNews && !m_answer) {
+        announceIn(Pause); // Who asked has been answered without it.
+    }
+}
+
+std::shared_ptr<CalendarWorker> CalendarReader::makeWorker(ESource* source)
+{
+    try {
+        return std::make_shared<CalendarWorker>(
             source, m_span, m_cancellable,
-            {.changed = [this] { announceIn(Pause); }, .died = [this] { announceDeath(); }});
+            CalendarClient::Listener{.changed = posting([this] { announceIn(Pause); }),
+                                     .died = posting([this] { announceDeath(); })});
+    } catch (const std::system_error&) {
+        return nullptr;
     }
-    if (auto entries = client ? client->read() : std::nullopt) {
-        calendar.entries = std::move(*entries);
+}
+
+std::function<void()> CalendarReader::posting(std::function<void()> work) const
+{
+    return [post = m_post, here = std::weak_ptr(m_isHere), work = std::move(work)] {
+        post([here, work] {
+            if (!here.expired()) {
+                work();
+            }
+        });
+    };
+}
+
+/// Answers with what there is.
+void CalendarReader::finish()
+{
+    m_patience.reset();
+    QList<CalendarEntry> entries;
+    for (const auto& id : m_order) {
+        auto& calendar = m_calendars[id];
+        calendar.isAwaited = false;
+        entries += calendar.entries;
     }
+    if (const auto answer = std::exchange(m_answer, nullptr)) {
+        answer(entries);
+    }
+}
+
+std::unique_ptr<GSource, GSourceEnded> CalendarReader::callIn(std::chrono::milliseconds delay,
+                                                              GSourceFunc call)
+{
+    std::unique_ptr<GSource, GSourceEnded> source(
+        g_timeout_source_new(static_cast<guint>(delay.count())));
+    g_source_set_callback(source.get(), call, this, nullptr);
+    g_source_attach(source.get(), g_main_context_get_thread_default());
+    return source;
 }
 
 void CalendarReader::announceIn(std::chrono::milliseconds delay)
@@ -143,16 +249,13 @@ void CalendarReader::announceIn(std::chrono::milliseconds delay)
         return;
     }
     m_due = due;
-    m_announcement.reset(g_timeout_source_new(static_cast<guint>(delay.count())));
-    const auto announce = [](gpointer data) -> gboolean {
+    m_announcement = callIn(delay, [](gpointer data) -> gboolean {
         auto* reader = static_cast<CalendarReader*>(data);
         reader->m_announcement.reset();
         reader->m_announcesDeath = false;
         reader->m_changed();
         return G_SOURCE_REMOVE;
-    };
-    g_source_set_callback(m_announcement.get(), announce, this, nullptr);
-    g_source_attach(m_announcement.get(), g_main_context_get_thread_default());
+    });
 }
 
 void CalendarReader::announceDeath()

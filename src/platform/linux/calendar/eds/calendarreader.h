@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/calendar/eds/calendarclient.h"
+#include "platform/linux/calendar/eds/calendarworker.h"
 
 #include <QByteArray>
 #include <QList>
@@ -9,6 +9,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <vector>
 
 namespace quib {
 
@@ -20,45 +21,69 @@ struct GSourceEnded {
     }
 };
 
-/// All of the user's calendars, on a thread with a loop of its own. What can't be reached has the
-/// events that were read last.
+/// All of the user's calendars, each on a thread of its own. What can't be reached, and what does
+/// not answer for a while, has the events that were read last. Lives on a thread with a loop of
+/// GLib's own.
 class CalendarReader {
 public:
-    CalendarReader(GCancellable* cancellable, std::function<void()> changed);
+    using Answer = std::function<void(const QList<CalendarEntry>&)>;
+    /// Has work done on the thread on which this lives. From any thread.
+    using Post = std::function<void(std::function<void()> work)>;
+
+    CalendarReader(Post post, GCancellable* cancellable, std::function<void()> changed);
+    /// What hangs holds it up for a moment.
     ~CalendarReader();
     CalendarReader(const CalendarReader&) = delete;
     CalendarReader& operator=(const CalendarReader&) = delete;
 
-    /// Calendar by calendar. Watches that span from now on.
-    QList<CalendarEntry> read(const Span& span);
+    /// Calendar by calendar. Watches that span from now on. A question before this one is answered
+    /// with what has come.
+    void read(const Span& span, Answer answer);
 
 private:
     struct Calendar {
-        std::unique_ptr<CalendarClient> client; ///< Null where it can't be opened.
+        std::shared_ptr<CalendarWorker> worker; ///< Null where there is no room for a thread.
         QList<CalendarEntry> entries; ///< As read last.
+        bool isAsked = false; ///< And has yet to answer.
+        bool isAskedAgain = false; ///< Meanwhile.
+        bool isAwaited = false; ///< By the question of now.
     };
 
     using Calendars = std::map<QByteArray, Calendar>;
 
     bool open();
     void close();
-    QList<CalendarEntry> entriesReadLast() const;
+    void list();
     void watch(const Span& span);
-    void refresh(Calendar& calendar, ESource* source);
+    void ask(const QByteArray& id, Calendar& calendar);
+    void take(const QByteArray& id, const std::shared_ptr<CalendarWorker>& worker,
+              const std::optional<QList<CalendarEntry>>& entries);
+    void finish();
+    std::shared_ptr<CalendarWorker> makeWorker(ESource* source);
+    /// Posts the work; it is not done once this has gone. The result is called on any thread.
+    std::function<void()> posting(std::function<void()> work) const;
+    std::unique_ptr<GSource, GSourceEnded> callIn(std::chrono::milliseconds delay,
+                                                  GSourceFunc call);
     /// Unless that happens sooner anyway.
     void announceIn(std::chrono::milliseconds delay);
     void announceDeath();
 
+    Post m_post;
     GCancellable* m_cancellable;
     std::function<void()> m_changed;
     GOwned<GDBusConnection> m_bus; ///< Null unless open.
     GOwned<ESourceRegistry> m_registry;
     Span m_span;
     Calendars m_calendars; ///< By id.
+    std::vector<QByteArray> m_order; ///< Of the ids, as the registry has them.
+    Answer m_answer; ///< To the question of now; empty when there is none.
+    int m_awaited = 0; ///< Calendars that have yet to answer it.
+    std::unique_ptr<GSource, GSourceEnded> m_patience; ///< With them.
     std::unique_ptr<GSource, GSourceEnded> m_announcement; ///< Null when none is due.
     std::chrono::steady_clock::time_point m_due; ///< Of the announcement.
     bool m_announcesDeath = false; ///< Of which every calendar tells.
     int m_deaths = 0; ///< Of the service, since another span is watched.
+    std::shared_ptr<bool> m_isHere = std::make_shared<bool>(true); ///< Goes with this.
 };
 
 } // namespace quib

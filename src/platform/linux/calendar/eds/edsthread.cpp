@@ -3,8 +3,6 @@
 #include "platform/linux/base/gowned.h"
 #include "platform/linux/calendar/eds/calendarreader.h"
 
-#include <chrono>
-#include <future>
 #include <mutex>
 #include <utility>
 
@@ -17,42 +15,30 @@ using namespace std::chrono_literals;
 /// What expands many recurring events hears of its end later than others.
 constexpr auto LongestGoodbye = 1s;
 
-struct GContextReleased {
-    void operator()(GMainContext* context) const { g_main_context_unref(context); }
-};
-
-struct GLoopReleased {
-    void operator()(GMainLoop* loop) const { g_main_loop_unref(loop); }
-};
-
 } // namespace
 
-class EdsThread::Loop {
+/// What both sides know: the thread may outlive the other one.
+class EdsThread::Shared {
 public:
-    explicit Loop(std::function<void()> changed)
+    explicit Shared(std::function<void()> changed)
         : m_changed(std::move(changed))
     {
     }
 
-    /// The thread itself.
-    void run()
+    /// On the thread, as the next two.
+    void begin(CalendarReader::Post post)
     {
-        g_main_context_push_thread_default(m_context.get());
-        m_reader.emplace(m_cancellable.get(), [this] { tell(m_changed); });
-        g_main_loop_run(m_loop.get());
-        m_reader.reset();
-        while (g_main_context_iteration(m_context.get(), FALSE)) { }
-        g_main_context_pop_thread_default(m_context.get());
-        m_ended.set_value();
+        m_reader.emplace(std::move(post), m_cancellable.get(), [this] { tell(m_changed); });
     }
 
     void read(const Span& span, const Answer& answer)
     {
-        post([this, span, answer] {
-            const auto entries = m_reader->read(span);
+        m_reader->read(span, [this, answer](const QList<CalendarEntry>& entries) {
             tell([&answer, &entries] { answer(entries); });
         });
     }
+
+    void close() { m_reader.reset(); }
 
     /// From now on nobody is told anything.
     void end()
@@ -62,35 +48,10 @@ public:
             m_hasEnded = true;
         }
         g_cancellable_cancel(m_cancellable.get());
-        post([this] { g_main_loop_quit(m_loop.get()); });
-    }
-
-    /// Waits for a moment.
-    bool hasEnded()
-    {
-        return m_ended.get_future().wait_for(LongestGoodbye) == std::future_status::ready;
     }
 
 private:
-    using Work = std::function<void()>;
-
-    void post(Work work)
-    {
-        auto* source = g_idle_source_new();
-        g_source_set_priority(source, G_PRIORITY_DEFAULT);
-        g_source_set_callback(
-            source,
-            [](gpointer data) -> gboolean {
-                (*static_cast<Work*>(data))();
-                return G_SOURCE_REMOVE;
-            },
-            std::make_unique<Work>(std::move(work)).release(),
-            [](gpointer data) { const std::unique_ptr<Work> released(static_cast<Work*>(data)); });
-        g_source_attach(source, m_context.get());
-        g_source_unref(source);
-    }
-
-    void tell(const Work& news)
+    void tell(const std::function<void()>& news)
     {
         const std::lock_guard lock(m_telling);
         if (!m_hasEnded) {
@@ -98,44 +59,41 @@ private:
         }
     }
 
-    Work m_changed;
-    std::unique_ptr<GMainContext, GContextReleased> m_context{g_main_context_new()};
-    std::unique_ptr<GMainLoop, GLoopReleased> m_loop{g_main_loop_new(m_context.get(), FALSE)};
+    std::function<void()> m_changed;
     GOwned<GCancellable> m_cancellable{g_cancellable_new()};
     std::optional<CalendarReader> m_reader; ///< Of the thread alone.
     std::mutex m_telling;
     bool m_hasEnded = false;
-    std::promise<void> m_ended;
 };
 
 EdsThread::EdsThread(std::function<void()> changed)
-    : m_loop(std::make_shared<Loop>(std::move(changed)))
-    , m_thread([loop = m_loop] { loop->run(); })
+    : m_shared(std::make_shared<Shared>(std::move(changed)))
+    , m_thread(std::make_shared<LoopThread>([shared = m_shared] { shared->close(); }))
 {
+    const auto post = [thread = std::weak_ptr(m_thread)](LoopThread::Work work) {
+        if (const auto here = thread.lock()) {
+            here->post(std::move(work));
+        }
+    };
+    m_thread->post([shared = m_shared, post] { shared->begin(post); });
 }
 
 EdsThread::~EdsThread()
 {
-    if (!m_thread.joinable()) {
-        return;
-    }
-    m_loop->end();
-    if (m_loop->hasEnded()) {
-        m_thread.join();
-    } else {
-        m_thread.detach();
-    }
+    m_shared->end();
+    m_thread->leaveBy(std::chrono::steady_clock::now() + LongestGoodbye);
 }
 
 void EdsThread::read(const QDateTime& from, const QDateTime& to, Answer answer)
 {
-    m_loop->read({.from = from, .to = to}, answer);
+    m_thread->post([shared = m_shared, span = Span{.from = from, .to = to},
+                    answer = std::move(answer)] { shared->read(span, answer); });
 }
 
 void EdsThread::leave()
 {
-    m_loop->end();
-    m_thread.detach();
+    m_shared->end();
+    m_thread->leave();
 }
 
 } // namespace quib

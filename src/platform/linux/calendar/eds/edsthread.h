@@ -1,12 +1,11 @@
 #pragma once
 
+#include "platform/linux/calendar/eds/loopthread.h"
 #include "platform/linux/calendar/edscalendars.h"
-
-#include <thread>
 
 namespace quib {
 
-/// A thread with a loop of GLib's own, on which the calendars are read and watched.
+/// A thread on which the calendars are listed, and asked each on its own.
 class EdsThread final : public EdsCalendars {
 public:
     explicit EdsThread(std::function<void()> changed);
@@ -18,10 +17,10 @@ public:
     void leave() override;
 
 private:
-    class Loop;
+    class Shared;
 
-    std::shared_ptr<Loop> m_loop; ///< The thread's too, for as long as it may run.
-    std::thread m_thread;
+    std::shared_ptr<Shared> m_shared; ///< The thread's too, for as long as it may run.
+    std::shared_ptr<LoopThread> m_thread;
 };
 
 } // namespace quib
