@@ -18,6 +18,9 @@ endif()
 if(QUIB_SANITIZE)
     target_compile_options(quib_options INTERFACE -fsanitize=${QUIB_SANITIZE} -fno-omit-frame-pointer)
     target_link_options(quib_options INTERFACE -fsanitize=${QUIB_SANITIZE})
+    set(sanitizers ${CMAKE_CURRENT_LIST_DIR}/sanitizers)
+    target_sources(quib_options INTERFACE ${sanitizers}/options.cpp)
+    target_compile_definitions(quib_options INTERFACE SUPPRESSIONS="${sanitizers}")
 endif()
 
 # quib_library(model SOURCES store.cpp ... LINKS Qt6::Core): one static library per folder.

@@ -1,0 +1,28 @@
+// What the sanitizers are told in every program of a build that has them, however clean its
+// environment is: to end the program at the first finding, and what is others' to mend.
+
+extern "C" {
+
+// NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming): the sanitizers call them
+// so
+const char* __asan_default_options()
+{
+    return "abort_on_error=0:detect_stack_use_after_return=1:strict_string_checks=1";
+}
+
+const char* __ubsan_default_options()
+{
+    return "halt_on_error=1:print_stacktrace=1:suppressions=" SUPPRESSIONS "/undefined.txt";
+}
+
+const char* __lsan_default_options()
+{
+    return "print_suppressions=0:suppressions=" SUPPRESSIONS "/leaks.txt";
+}
+
+const char* __tsan_default_options()
+{
+    return "halt_on_error=1:second_deadlock_stack=1:suppressions=" SUPPRESSIONS "/threads.txt";
+}
+// NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)
+}
