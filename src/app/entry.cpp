@@ -117,6 +117,7 @@ QStringList argumentsOf(int argc, char** argv)
 int runQuib(int argc, char** argv)
 {
     prepareMemory();
+    prepareLimits();
     const auto line = parseArguments(argumentsOf(argc, argv));
     switch (line.action) {
     case CommandLine::Action::Snapshot: return runSnapshot(argv, line.folder);

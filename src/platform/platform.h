@@ -51,6 +51,10 @@ struct Platform {
 /// Settles how the process gets its memory. To be called before there is a second thread.
 void prepareMemory();
 
+/// A file that is to become larger than the system lets it is an error of its write then, as a full
+/// disk is, and not the end of the process.
+void prepareLimits();
+
 /// By which of Qt's platforms a panel can be shown on a desktop, or why by none.
 struct WindowSystem {
     QByteArray qtPlatform; ///< As Qt takes it; empty where there is none.

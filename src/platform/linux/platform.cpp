@@ -31,6 +31,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 
+#include <csignal>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -106,6 +107,11 @@ void showOnWayland(Platform& platform)
 void prepareMemory()
 {
     useOneHeap();
+}
+
+void prepareLimits()
+{
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 WindowSystem chooseWindowSystem()

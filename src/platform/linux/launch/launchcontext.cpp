@@ -62,6 +62,7 @@ void standAlone(gpointer /*nothing*/)
     sigset_t none{};
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);
+    std::signal(SIGXFSZ, SIG_DFL); // Which we ignore.
 }
 
 } // namespace quib
