@@ -60,6 +60,14 @@ function(quib_library name)
     endif()
 endfunction()
 
+# quib_chance(tst_killrounds): that test tries chance, and `ctest -C Long` lets it try more often.
+function(quib_chance name)
+    get_test_property(${name} ENVIRONMENT environment)
+    add_test(NAME ${name}_long COMMAND ${name} CONFIGURATIONS Long)
+    set_tests_properties(${name}_long PROPERTIES LABELS chance TIMEOUT 7200 ENVIRONMENT
+        "${environment};QUIB_TEST_LONG=1")
+endfunction()
+
 # quib_test(model/tst_store.cpp LINKS Quib::model): one executable and one CTest entry per file.
 # BUS gives the test a session bus of its own, DISPLAY an X server of its own.
 function(quib_test file)
