@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <tuple>
 
 #include <unistd.h>
 
@@ -48,9 +49,9 @@ int saveTwice()
 {
     quib::Store store;
     store.setNotes(NewNotes);
-    ::access(Begin, F_OK);
+    std::ignore = ::access(Begin, F_OK);
     store.saveNow();
-    ::access(End, F_OK);
+    std::ignore = ::access(End, F_OK);
     const auto notes = notesIn(quib::Store::folder() / "data.json");
     if (notes != OldNotes && notes != NewNotes) {
         return 1;

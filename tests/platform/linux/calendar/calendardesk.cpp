@@ -209,7 +209,7 @@ QString CalendarDesk::awaited(const QString& word)
     }
     const auto answer = std::ranges::find_if(
         m_answers, [&word](const QString& line) { return line.startsWith(word + u' '); });
-    const auto text = answer->mid(word.size() + 1);
+    auto text = answer->mid(word.size() + 1);
     m_answers.erase(answer);
     return text;
 }
