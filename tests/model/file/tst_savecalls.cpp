@@ -152,7 +152,8 @@ QList<Call> callsOfASave(const QString& trace)
         if (line.contains(QLatin1StringView(End))) {
             return calls;
         }
-        if (isSaving) {
+        if (isSaving
+            && name != u"pipe2"_s) { // Which only the sanitizers' own look at memory takes.
             calls << Call{name, number};
         }
         isSaving = isSaving || line.contains(QLatin1StringView(Begin));
