@@ -8,7 +8,8 @@ extern "C" {
 const char* __asan_default_options()
 {
     // libfaketime comes first where the clock is turned.
-    return "detect_stack_use_after_return=1:verify_asan_link_order=0";
+    return "detect_stack_use_after_return=1:verify_asan_link_order=0:suppressions=" SUPPRESSIONS
+           "/address.txt";
 }
 
 const char* __ubsan_default_options()
