@@ -1,69 +1,17 @@
 #include "model/texts/nativepath.h"
 #include "platform/linux/instance/instancename.h"
-#include "support/sendsignal.h"
+#include "platform/linux/instance/start.h"
 
-#include <QDBusConnection>
-#include <QDBusConnectionInterface>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <csignal>
-
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace quib;
-
-namespace {
-
-/// One start of a program that keeps to one instance.
-class Start {
-public:
-    Start(const QString& folder, const QProcessEnvironment& environment)
-    {
-        m_process.setProcessEnvironment(environment);
-        m_process.start(QStringLiteral(INSTANCE_PROGRAM), {folder});
-        m_process.waitForReadyRead(5000);
-        m_answer = QString::fromUtf8(m_process.readLine()).trimmed();
-    }
-
-    ~Start() { crash(); }
-    Start(const Start&) = delete;
-    Start& operator=(const Start&) = delete;
-
-    QString answer() const { return m_answer; }
-
-    qsizetype activations() { return count("activated"); }
-
-    qsizetype count(const QByteArray& word)
-    {
-        m_told += m_process.readAllStandardOutput();
-        return m_told.count(word);
-    }
-
-    void hang() const { sendSignal(m_process.processId(), SIGSTOP); }
-
-    void crash()
-    {
-        m_process.kill();
-        m_process.waitForFinished();
-    }
-
-private:
-    QProcess m_process;
-    QString m_answer;
-    QByteArray m_told;
-};
-
-bool isOnBus(const QString& name)
-{
-    return QDBusConnection::sessionBus().interface()->isServiceRegistered(name);
-}
-
-} // namespace
 
 class LinuxInstanceTest : public QObject {
     Q_OBJECT
@@ -85,8 +33,6 @@ private Q_SLOTS:
     void claim_noRuntimeFolder_activatesTheFirst();
     void claim_folderOfOthersInTheWay_isAlone();
     void claim_otherFolderForLocks_isSuperseded();
-    void bus_activatesAsDesktopsDo();
-    void startedByBus_answersToTheDesktopsName();
 
 private:
     static void withAndWithoutBus();
@@ -267,41 +213,6 @@ void LinuxInstanceTest::claim_otherFolderForLocks_isSuperseded()
     QTRY_COMPARE(second.count("superseded"), 1);
     QTRY_COMPARE(first.activations(), 1);
     QCOMPARE(first.count("superseded"), 0);
-}
-
-void LinuxInstanceTest::bus_activatesAsDesktopsDo()
-{
-    Start first(folder(u"data/KorvelQuib"_s), m_withBus);
-    const auto call = [](const QString& method, const QStringList& arguments) {
-        return QProcess::execute(u"gdbus"_s,
-                                 QStringList{u"call"_s, u"--session"_s, u"--dest"_s,
-                                             u"org.korvel.Quib"_s, u"--object-path"_s,
-                                             u"/org/korvel/Quib"_s, u"--method"_s,
-                                             u"org.freedesktop.Application."_s + method}
-                                     + arguments);
-    };
-
-    QTRY_VERIFY(isOnBus(u"org.korvel.Quib"_s));
-    QCOMPARE(call(u"Activate"_s, {u"{}"_s}), 0);
-    QTRY_COMPARE(first.activations(), 1);
-    QCOMPARE(call(u"Open"_s, {u"['file:///tmp']"_s, u"{}"_s}), 0);
-    QTRY_COMPARE(first.activations(), 2);
-    QCOMPARE(call(u"ActivateAction"_s, {u"open"_s, u"[]"_s, u"{}"_s}), 0);
-    QTRY_COMPARE(first.activations(), 3);
-    QCOMPARE(call(u"ActivateAction"_s, {u"Pin"_s, u"[]"_s, u"{}"_s}), 0);
-    QTRY_COMPARE(first.count("pin asked"), 1);
-    QCOMPARE(first.activations(), 3);
-}
-
-void LinuxInstanceTest::startedByBus_answersToTheDesktopsName()
-{
-    auto environment = m_withBus;
-    environment.insert(u"DBUS_STARTER_BUS_TYPE"_s, u"session"_s);
-
-    const Start first(folder(u"work"_s), environment);
-
-    QTRY_VERIFY(isOnBus(lockName(nativePath(folder(u"work"_s)))));
-    QTRY_VERIFY(isOnBus(u"org.korvel.Quib"_s));
 }
 
 QTEST_GUILESS_MAIN(LinuxInstanceTest)
