@@ -3,6 +3,7 @@
 #include "model/texts/nativepath.h"
 #include "support/datafolderfortest.h"
 #include "support/longrun.h"
+#include "support/strace.h"
 
 #include <QDir>
 #include <QMap>
@@ -189,13 +190,8 @@ private Q_SLOTS:
 
 void SaveCallsTest::initTestCase()
 {
-    QProcess strace;
-    strace.start(u"strace"_s, {u"-o"_s, u"/dev/null"_s, u"true"_s});
-    strace.waitForFinished();
-    QVERIFY2(strace.error() != QProcess::FailedToStart, "strace is not installed");
-    if (strace.exitStatus() != QProcess::NormalExit || strace.exitCode() != 0) {
-        const QByteArray reason = "strace may not trace here: " + strace.readAllStandardError();
-        QSKIP(reason.trimmed().constData()); // As in some containers.
+    if (const auto hindrance = hindranceOfStrace(); !hindrance.isEmpty()) {
+        QSKIP(hindrance.constData());
     }
 }
 

@@ -2,19 +2,20 @@
 #include "model/store.h"
 #include "support/datafolderfortest.h"
 #include "support/modeof.h"
+#include "support/strace.h"
 #include "support/umask.h"
 
 #include <QDir>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QTest>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
-// A save is killed, or told of an error, at each of its system calls. The program under strace is
-// this test itself, in a life as another program: see main().
+// A save is killed, or told of an error, at some of its system calls; at all of them in
+// tst_savecalls. The program under strace is this test itself, in a life as another program: see
+// main().
 
 namespace {
 
@@ -95,8 +96,6 @@ private Q_SLOTS:
     void initTestCase();
     void undisturbed_isSaved();
     void bytes_areSyncedAfterTheyAreWritten();
-    void killedAnywhere_neverTearsTheFile_data();
-    void killedAnywhere_neverTearsTheFile();
     void failingCall_leavesTheOldFile_data();
     void failingCall_leavesTheOldFile();
     void leftover_isTheUsersAlone_data();
@@ -106,13 +105,8 @@ private Q_SLOTS:
 
 void SaveKilledTest::initTestCase()
 {
-    QVERIFY2(!QStandardPaths::findExecutable(u"strace"_s).isEmpty(), "strace is not installed");
-    QProcess strace;
-    strace.start(u"strace"_s, {u"-o"_s, u"/dev/null"_s, u"true"_s});
-    strace.waitForFinished();
-    if (strace.exitStatus() != QProcess::NormalExit || strace.exitCode() != 0) {
-        const QByteArray reason = "strace may not trace here: " + strace.readAllStandardError();
-        QSKIP(reason.trimmed().constData()); // As in some containers.
+    if (const auto hindrance = hindranceOfStrace(); !hindrance.isEmpty()) {
+        QSKIP(hindrance.constData());
     }
 }
 
@@ -140,32 +134,6 @@ void SaveKilledTest::bytes_areSyncedAfterTheyAreWritten()
     const auto synced = log.indexOf("fsync(");
     const auto renamed = log.indexOf("rename(");
     QVERIFY(written >= 0 && written < synced && synced < renamed);
-}
-
-void SaveKilledTest::killedAnywhere_neverTearsTheFile_data()
-{
-    QTest::addColumn<QString>("call");
-    QTest::addColumn<int>("number");
-
-    for (const auto* call : {"write", "fsync", "flock", "rename", "fchmod"}) {
-        for (int number = 1; number <= 3; ++number) {
-            QTest::addRow("%s %d", call, number) << QString::fromLatin1(call) << number;
-        }
-    }
-}
-
-void SaveKilledTest::killedAnywhere_neverTearsTheFile()
-{
-    QFETCH(const QString, call);
-    QFETCH(const int, number);
-    const auto kill = injectionInSave(call, number, u"signal=SIGKILL"_s);
-    const DataFolderForTest folder;
-    folder.put(quib::encodeQuibData(oldData()).value());
-
-    QVERIFY(saveUnderStrace(kill, folder.path() + u"/log"_s));
-
-    const auto notes = notesIn(folder);
-    QVERIFY2(notes == OldNotes || notes == NewNotes, qPrintable(notes));
 }
 
 void SaveKilledTest::failingCall_leavesTheOldFile_data()
