@@ -39,16 +39,6 @@ QStringList remaining(const Desk& desk, const QStringList& names)
     return found;
 }
 
-void addTask(const Desk& desk, const QString& title)
-{
-    desk.openWithPointer();
-    desk.showTab(3);
-    desk.click(Desk::TaskField);
-    desk.type(title);
-    desk.key(u"Return"_s);
-    QTRY_COMPARE(desk.savedTasks().value(0), title);
-}
-
 /// Starts it with that umask.
 Program startWithUmask(Desk& desk, const QString& umask)
 {
@@ -143,7 +133,8 @@ void BesideTheDataTest::whatIsThere_keepsItsMode()
                                       | QFile::ReadGroup | QFile::ExeGroup));
     const auto quib = startWithUmask(desk, u"077"_s);
 
-    addTask(desk, u"Shared"_s);
+    desk.addTask(u"Shared"_s);
+    QTRY_COMPARE(desk.savedTasks().value(0), u"Shared"_s);
 
     QCOMPARE(modeOf(file), "0640"_ba);
     QCOMPARE(modeOf(desk.dataFolder()), "0750"_ba);

@@ -31,15 +31,6 @@ void limit(const QProcess& process, const QStringList& limits)
         0);
 }
 
-void addTask(const Desk& desk, const QString& title)
-{
-    desk.openWithPointer();
-    desk.showTab(3);
-    desk.click(Desk::TaskField);
-    desk.type(title);
-    desk.key(u"Return"_s);
-}
-
 /// The file is whole, and has these tasks in front.
 bool hasSaved(const Desk& desk, const QStringList& tasks)
 {
@@ -65,11 +56,11 @@ void ExhaustionTest::limit_leavesWhatWasSavedAndIsSurvived()
     QFETCH(const QStringList, lifted);
     Desk desk;
     const auto quib = desk.startQuib();
-    addTask(desk, u"Before"_s);
+    desk.addTask(u"Before"_s);
     QTRY_VERIFY(hasSaved(desk, {u"Before"_s}));
 
     limit(*quib, limits);
-    addTask(desk, QString(SomethingTyped, u'x'));
+    desk.addTask(QString(SomethingTyped, u'x'));
     for (int tab = 0; tab < 7; ++tab) {
         desk.showTab(tab);
     }
@@ -79,7 +70,7 @@ void ExhaustionTest::limit_leavesWhatWasSavedAndIsSurvived()
     QCOMPARE(quib->state(), QProcess::Running);
 
     limit(*quib, lifted);
-    addTask(desk, u"After"_s);
+    desk.addTask(u"After"_s);
     QTRY_VERIFY(hasSaved(desk, {u"After"_s, QString(SomethingTyped, u'x'), u"Before"_s}));
     quib->terminate();
     QVERIFY(quib->waitForFinished());
@@ -91,7 +82,7 @@ void ExhaustionTest::noMemory_leavesWhatWasSaved()
 {
     Desk desk;
     const auto quib = desk.startQuib();
-    addTask(desk, u"Before"_s);
+    desk.addTask(u"Before"_s);
     QTRY_VERIFY(hasSaved(desk, {u"Before"_s}));
 
     limit(*quib, {u"--as=1000000:"_s});
@@ -109,7 +100,7 @@ void ExhaustionTest::stormOfSignals_leavesWhatWasTyped()
 {
     Desk desk;
     const auto quib = desk.startQuib();
-    addTask(desk, u"Just now"_s);
+    desk.addTask(u"Just now"_s);
     desk.showTab(0); // It has been added then.
 
     for (int i = 0; i < 500 && quib->state() == QProcess::Running; ++i) {

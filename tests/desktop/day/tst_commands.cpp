@@ -43,7 +43,6 @@ private Q_SLOTS:
 
 private:
     static void chooseInMenu(const Desk& desk, int line);
-    static void addTask(const Desk& desk, const QString& title);
 };
 
 void CommandsTest::chooseInMenu(const Desk& desk, int line)
@@ -53,20 +52,11 @@ void CommandsTest::chooseInMenu(const Desk& desk, int line)
     desk.click({MenuCorner.x() + 100, line});
 }
 
-void CommandsTest::addTask(const Desk& desk, const QString& title)
-{
-    desk.openWithPointer();
-    desk.showTab(3);
-    desk.click(Desk::TaskField);
-    desk.type(title);
-    desk.key(u"Return"_s);
-}
-
 void CommandsTest::quitFromTheMenu_savesEverything()
 {
     Desk desk;
     const auto quib = desk.startQuib();
-    addTask(desk, u"Last thing"_s);
+    desk.addTask(u"Last thing"_s);
 
     chooseInMenu(desk, QuitLine);
 
@@ -80,7 +70,7 @@ void CommandsTest::quitKey_quitsWhileThePanelHasTheKeyboard()
 {
     Desk desk;
     const auto quib = desk.startQuib();
-    addTask(desk, u"Last thing"_s);
+    desk.addTask(u"Last thing"_s);
 
     desk.key(u"ctrl+q"_s);
 

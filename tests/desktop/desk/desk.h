@@ -43,6 +43,8 @@ public:
     void hold(const QString& key) const;
     void showTab(int number) const;
     void openWithPointer() const;
+    /// Opens the panel with the pointer and types a task; does not wait for it.
+    void addTask(const QString& title) const;
 
     QColor pixel(QPoint point) const;
     QImage picture() const;

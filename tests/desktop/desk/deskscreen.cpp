@@ -85,6 +85,15 @@ void Desk::openWithPointer() const
     moveTo(InTheCard);
 }
 
+void Desk::addTask(const QString& title) const
+{
+    openWithPointer();
+    showTab(3);
+    click(places::TaskField);
+    type(title);
+    key(u"Return"_s);
+}
+
 QColor Desk::pixel(QPoint point) const
 {
     const auto image = m_connection->image({point * m_options.scale, QSize(1, 1)});

@@ -11,7 +11,6 @@ const auto OwnName = u"org.korvel.Quib"_s;
 const auto Player = u"org.mpris.MediaPlayer2.mpv"_s;
 constexpr QPoint MiddleOfPause = places::PlayPause;
 constexpr QPoint LeftBarOfPause = places::LeftInPlayPause;
-constexpr int TasksTab = 3;
 
 Program startPlayer(Desk& desk)
 {
@@ -29,13 +28,9 @@ bool offersToPause(const Desk& desk)
 }
 
 /// Opens the panel, types a task, and waits until it is on disk.
-void addTask(const Desk& desk, const QString& title)
+void addAndSave(const Desk& desk, const QString& title)
 {
-    desk.openWithPointer();
-    desk.showTab(TasksTab);
-    desk.click(Desk::TaskField);
-    desk.type(title);
-    desk.key(u"Return"_s);
+    desk.addTask(title);
     QTRY_COMPARE_WITH_TIMEOUT(desk.savedTasks().value(0), title, 10'000);
     desk.moveTo(Desk::FarAway);
     QVERIFY(desk.waitForExpanded(false));
@@ -64,7 +59,7 @@ void BusTest::killed_thePanelWorks()
 
     desk.killBus();
 
-    addTask(desk, u"Without a bus"_s);
+    addAndSave(desk, u"Without a bus"_s);
     QCOMPARE(desk.runQuib(), 0); // The lock tells the second start.
     QVERIFY(desk.waitForExpanded(true));
     QCOMPARE(quib->state(), QProcess::Running);
@@ -114,7 +109,7 @@ void BusTest::hung_thePanelWorksAndQuits()
 
     desk.hangBus();
 
-    addTask(desk, u"On a bus that hangs"_s);
+    addAndSave(desk, u"On a bus that hangs"_s);
     quib->terminate();
     QVERIFY(quib->waitForFinished(10'000));
     QCOMPARE(quib->exitStatus(), QProcess::NormalExit);
@@ -144,7 +139,7 @@ void BusTest::hungAtTheStart_thePanelOpensAndWorks()
 
     const auto quib = desk.startQuib();
 
-    addTask(desk, u"Started on a bus that hangs"_s);
+    addAndSave(desk, u"Started on a bus that hangs"_s);
     QCOMPARE(desk.runQuib(), 0);
     QVERIFY(desk.waitForExpanded(true));
     desk.resumeBus();
@@ -162,7 +157,7 @@ void BusTest::backHung_thePanelWorks()
     desk.startBus();
     desk.hangBus();
 
-    addTask(desk, u"Back, but hung"_s);
+    addAndSave(desk, u"Back, but hung"_s);
     desk.resumeBus();
     QTRY_VERIFY_WITH_TIMEOUT(desk.isOnBus(OwnName), 10'000);
     desk.hangBus();
