@@ -1,3 +1,5 @@
+#include "support/bytesof.h"
+
 #include <QDirIterator>
 #include <QFile>
 #include <QHash>
@@ -27,8 +29,7 @@ const QStringList OfTheBuild{u"layering"_s, u"compiledviews"_s, u"qmllint"_s};
 
 QString textOf(const QString& path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(bytesOf(path));
 }
 
 /// What stands between backticks.

@@ -1,4 +1,5 @@
 #include "model/billing/timesheet.h"
+#include "support/bytesof.h"
 #include "support/storefixture.h"
 #include "support/writefile.h"
 
@@ -26,12 +27,6 @@ public:
 private:
     QTemporaryDir m_home;
 };
-
-QByteArray bytesOf(const QUrl& url)
-{
-    QFile file(url.toLocalFile());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 } // namespace
 
@@ -64,7 +59,7 @@ void StoreExportTest::exportTimesheet_writesToTheDownloads()
     QCOMPARE(url,
              std::optional(
                  QUrl::fromLocalFile(downloads.filePath(u"Korvel-timesheet-2569-03-02.csv"_s))));
-    QCOMPARE(bytesOf(*url), quib::timesheetCsv(store.data(), hands.now));
+    QCOMPARE(bytesOf(url->toLocalFile()), quib::timesheetCsv(store.data(), hands.now));
 }
 
 void StoreExportTest::exportTimesheet_twiceADay_replacesTheFirst()
@@ -79,7 +74,7 @@ void StoreExportTest::exportTimesheet_twiceADay_replacesTheFirst()
     const auto second = f.store.exportTimesheet();
 
     QCOMPARE(second, first);
-    QCOMPARE(bytesOf(*second), quib::timesheetCsv({}, f.hands.now));
+    QCOMPARE(bytesOf(second->toLocalFile()), quib::timesheetCsv({}, f.hands.now));
     QCOMPARE(QDir(downloads.path()).entryList(QDir::Files).size(), 1);
 }
 

@@ -38,9 +38,3 @@ QString sourceFile(const QString& name)
 {
     return QStringLiteral(SOURCE_FOLDER "/") + name;
 }
-
-QByteArray bytesOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}

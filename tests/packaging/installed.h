@@ -27,4 +27,3 @@ QByteArray complaintOf(const QString& tool, const QStringList& arguments);
 
 /// A file of the checkout.
 QString sourceFile(const QString& name);
-QByteArray bytesOf(const QString& path);

@@ -1,5 +1,6 @@
 #include "packaging/installed.h"
 #include "shortcuts/shortcutconfig.h"
+#include "support/bytesof.h"
 
 #include <QProcess>
 #include <QRegularExpression>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/bytesof.h"
 #include "support/writefile.h"
 
 #include <QTemporaryDir>
@@ -14,11 +15,7 @@ public:
     QString path() const { return m_dir.path(); }
     QString file() const { return m_dir.filePath(QStringLiteral("data.json")); }
 
-    QByteArray bytes() const
-    {
-        QFile in(file());
-        return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
-    }
+    QByteArray bytes() const { return bytesOf(file()); }
 
     void put(const QByteArray& bytes) const { writeFile(file(), bytes); }
 

@@ -1,5 +1,7 @@
 #include "desktop/desk/desk.h"
+#include "support/bytesof.h"
 #include "support/sendsignal.h"
+#include "support/strace.h"
 #include "support/writefile.h"
 
 #include <QJsonArray>
@@ -61,23 +63,12 @@ QByteArray luringShortcuts()
         {"name": "c", "icon": "http://192.0.2.1/c.svg", "url": "//192.0.2.1/d.app"}]}]})";
 }
 
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 void NoNetworkTest::initTestCase()
 {
-    QProcess strace;
-    strace.start(u"strace"_s, {u"-o"_s, u"/dev/null"_s, u"true"_s});
-    strace.waitForFinished();
-    QVERIFY2(strace.error() != QProcess::FailedToStart, "strace is not installed");
-    if (strace.exitStatus() != QProcess::NormalExit || strace.exitCode() != 0) {
-        const QByteArray reason = "strace may not trace here: " + strace.readAllStandardError();
-        QSKIP(reason.trimmed().constData()); // As in some containers.
+    if (const auto hindrance = hindranceOfStrace(); !hindrance.isEmpty()) {
+        QSKIP(hindrance.constData());
     }
 }
 
@@ -101,11 +92,11 @@ void NoNetworkTest::allTabs_connectToNothingButThisMachine()
     desk.moveTo(Desk::FarAway);
     QVERIFY(desk.waitForExpanded(false));
     const auto strace = quib->processId(); // Which keeps signals to itself.
-    const auto children = contentOf(u"/proc/%1/task/%1/children"_s.arg(strace)).trimmed();
+    const auto children = bytesOf(u"/proc/%1/task/%1/children"_s.arg(strace)).trimmed();
     sendSignal(children.toLongLong(), SIGTERM);
     QVERIFY(quib->waitForFinished());
 
-    const auto told = contentOf(trace);
+    const auto told = bytesOf(trace);
     QVERIFY(told.count("connect(") > 1); // To the X server and the bus.
     for (const auto& line : told.split('\n')) {
         QVERIFY2(!line.contains("AF_INET"), line.constData());

@@ -1,4 +1,5 @@
 #include "desktop/desk/desk.h"
+#include "support/bytesof.h"
 #include "support/writefile.h"
 
 #include <QDir>
@@ -83,8 +84,7 @@ void WithoutDisplayTest::run(const QStringList& arguments)
 
 QByteArray WithoutDisplayTest::picture(const QString& folder, const QString& name) const
 {
-    QFile file(m_home->filePath(folder + u'/' + name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return bytesOf(m_home->filePath(folder + u'/' + name));
 }
 
 QString WithoutDisplayTest::put(const QString& name, const QByteArray& bytes) const

@@ -1,6 +1,7 @@
 #include "desktop/desk/day.h"
 
 #include "desktop/desk/carrying.h"
+#include "support/bytesof.h"
 #include "support/sendsignal.h"
 
 #include <QFile>
@@ -63,8 +64,7 @@ void Day::clickWhenThere(QPoint point) const
 
 QByteArray Day::bytes() const
 {
-    QFile file(dataFolder() + u"/data.json"_s);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return bytesOf(dataFolder() + u"/data.json"_s);
 }
 
 void Day::dropFiles(const QStringList& paths)

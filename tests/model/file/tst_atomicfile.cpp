@@ -1,5 +1,6 @@
 #include "model/file/atomicfile.h"
 #include "model/texts/nativepath.h"
+#include "support/bytesof.h"
 #include "support/modeof.h"
 #include "support/othergroup.h"
 #include "support/umask.h"
@@ -32,11 +33,7 @@ public:
 
     void put(const QString& name, const QByteArray& bytes) const { writeFile(path(name), bytes); }
 
-    QByteArray bytes(const QString& name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray bytes(const QString& name) const { return bytesOf(path(name)); }
 
     QStringList names() const
     {

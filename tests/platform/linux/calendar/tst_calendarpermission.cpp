@@ -1,5 +1,6 @@
 #include "platform/linux/calendar/consentfile.h"
 #include "platform/linux/calendar/permissiondesk.h"
+#include "support/bytesof.h"
 #include "support/modeof.h"
 #include "support/umask.h"
 
@@ -155,11 +156,7 @@ void CalendarPermissionTest::ask_noStore_isKeptInAFile()
 
     QCOMPARE(session.ask(), response == 0);
 
-    const auto written = [] {
-        QFile file(consentFile());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    };
-    QTRY_COMPARE(written(), word);
+    QTRY_COMPARE(bytesOf(consentFile()), word);
     session.startAgain();
     QCOMPARE(session.read(), kept);
 }
