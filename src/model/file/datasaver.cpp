@@ -24,9 +24,8 @@ bool write(const QuibData& data)
 
 DataSaver::DataSaver(Scheduler schedule, std::function<void()> enterBackground)
     : m_schedule(std::move(schedule))
-    , m_enterBackground(std::move(enterBackground))
+    , m_writing(std::move(enterBackground))
 {
-    m_queue.setMaxThreadCount(1);
 }
 
 void DataSaver::scheduleSave(const QuibData& data)
@@ -38,7 +37,7 @@ void DataSaver::scheduleSave(const QuibData& data)
 void DataSaver::saveNow(const QuibData& data)
 {
     m_pending.reset();
-    finishWriting();
+    m_writing.finish();
     if (m_saved != m_wanted && write(data)) {
         m_saved = m_wanted;
     }
@@ -46,20 +45,12 @@ void DataSaver::saveNow(const QuibData& data)
 
 void DataSaver::startWriting(const QuibData& data)
 {
-    m_queue.clear(); // What still waits is older.
-    m_queue.start([this, data, revision = m_wanted] {
-        m_enterBackground(); // Each time: a thread that rests for long is replaced by a new one.
+    m_writing.start([this, data, revision = m_wanted] {
         if (write(data)) {
             m_saved = revision;
         }
     });
     m_pending.reset(); // Lets go of the copy, which would make the next change of a list slow.
-}
-
-void DataSaver::finishWriting()
-{
-    m_queue.clear();
-    m_queue.waitForDone();
 }
 
 } // namespace quib

@@ -1,9 +1,8 @@
 #pragma once
 
+#include "model/file/newesttask.h"
 #include "model/records/quibdata.h"
 #include "model/time/scheduler.h"
-
-#include <QThreadPool>
 
 #include <atomic>
 #include <functional>
@@ -28,15 +27,12 @@ private:
     using Revision = quint64;
 
     void startWriting(const QuibData& data);
-    void finishWriting(); ///< A write in progress ends; one that waits for it never starts.
 
     Scheduler m_schedule;
-    std::function<void()> m_enterBackground;
     std::unique_ptr<QObject> m_pending;
     Revision m_wanted = 0;
     std::atomic<Revision> m_saved = 0; ///< Set by whichever thread has written.
-    QThreadPool
-        m_queue; ///< One thread, so that writes follow one another. Last: waits when it goes.
+    NewestTask m_writing; ///< Last: waits when it goes.
 };
 
 } // namespace quib

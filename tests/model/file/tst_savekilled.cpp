@@ -1,5 +1,6 @@
 #include "model/file/datafile.h"
 #include "model/store.h"
+#include "support/bytesof.h"
 #include "support/datafolderfortest.h"
 #include "support/modeof.h"
 #include "support/strace.h"
@@ -21,7 +22,8 @@ namespace {
 
 constexpr auto OldNotes = "old"_L1;
 constexpr auto NewNotes = "new"_L1;
-constexpr auto SaveOnce = "--save-once";
+constexpr auto SaveOnce = "--save-once"_L1;
+constexpr auto SaveInTheBackground = "--save-in-the-background"_L1;
 constexpr auto Undisturbed = "rename:error=EIO:when=1000"_L1; // There is none so late.
 
 /// Starts on the data folder in the environment, changes the notes and saves.
@@ -31,6 +33,21 @@ int saveOnce()
     store.setNotes(NewNotes);
     store.saveNow();
     return 0;
+}
+
+/// As well, but in the background as soon as they have changed; tells whether they were on disk
+/// before the end.
+int saveInTheBackground()
+{
+    quib::Store store({.schedule = [](auto, const std::function<void()>& save) {
+        save();
+        return std::make_unique<QObject>();
+    }});
+    store.setNotes(NewNotes);
+    const bool wasSaved = bytesOf(qEnvironmentVariable("QUIB_DATA_DIR") + u"/data.json"_s)
+                              .contains(NewNotes.data());
+    store.saveNow();
+    return wasSaved ? 0 : 1;
 }
 
 /// Notes large enough to need more than one write.
@@ -52,14 +69,20 @@ QStringList leftoversIn(const DataFolderForTest& folder)
     return QDir(folder.path()).entryList({u".korvel-quib-*"_s}, QDir::Files | QDir::Hidden);
 }
 
-/// Lets strace interfere; false when it cannot trace here.
-bool saveUnderStrace(const QString& injection, const QString& log)
+/// Lets strace interfere; the life's answer, -1 when it does not end.
+int underStrace(const QString& injection, const QString& log, QLatin1StringView life)
 {
     QProcess strace;
     strace.start(u"strace"_s,
                  {u"-f"_s, u"-qq"_s, u"-o"_s, log, u"-e"_s, u"inject=%1"_s.arg(injection),
-                  QCoreApplication::applicationFilePath(), QString::fromLatin1(SaveOnce)});
-    return strace.waitForFinished() && QFile::exists(log);
+                  QCoreApplication::applicationFilePath(), life});
+    return strace.waitForFinished() ? strace.exitCode() : -1;
+}
+
+/// False when strace cannot trace here.
+bool saveUnderStrace(const QString& injection, const QString& log)
+{
+    return underStrace(injection, log, SaveOnce) >= 0 && QFile::exists(log);
 }
 
 QStringList linesOf(const QString& log)
@@ -98,6 +121,7 @@ private Q_SLOTS:
     void bytes_areSyncedAfterTheyAreWritten();
     void failingCall_leavesTheOldFile_data();
     void failingCall_leavesTheOldFile();
+    void noThread_isSavedWithoutOne();
     void leftover_isTheUsersAlone_data();
     void leftover_isTheUsersAlone();
     void nextStart_removesWhatAKilledSaveLeft();
@@ -157,6 +181,18 @@ void SaveKilledTest::failingCall_leavesTheOldFile()
     QCOMPARE(notesIn(folder), OldNotes);
 }
 
+void SaveKilledTest::noThread_isSavedWithoutOne()
+{
+    const DataFolderForTest folder;
+    folder.put(quib::encodeQuibData(oldData()).value());
+
+    const auto answer = underStrace(u"clone,clone3:error=EAGAIN"_s, folder.path() + u"/log"_s,
+                                    SaveInTheBackground);
+
+    QCOMPARE(answer, 0);
+    QCOMPARE(notesIn(folder), NewNotes);
+}
+
 void SaveKilledTest::leftover_isTheUsersAlone_data()
 {
     QTest::addColumn<QString>("call");
@@ -197,8 +233,11 @@ void SaveKilledTest::nextStart_removesWhatAKilledSaveLeft()
 int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
-    if (QCoreApplication::arguments().contains(QLatin1StringView(SaveOnce))) {
+    if (QCoreApplication::arguments().contains(SaveOnce)) {
         return saveOnce();
+    }
+    if (QCoreApplication::arguments().contains(SaveInTheBackground)) {
+        return saveInTheBackground();
     }
     SaveKilledTest test;
     return QTest::qExec(&test, argc, argv);
