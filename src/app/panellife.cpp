@@ -20,7 +20,7 @@ PanelLife::PanelLife(const Platform& platform, NotchModel& model, const Store& s
     , m_model(model)
     , m_store(store)
     , m_schedule(std::move(schedule))
-    , m_poll(*m_platform.pointer, m_schedule)
+    , m_poll(m_platform.pointer.get(), m_schedule)
 {
 }
 

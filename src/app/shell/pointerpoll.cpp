@@ -17,7 +17,7 @@ constexpr int TicksToAnnounce = 3;
 
 } // namespace
 
-PointerPoll::PointerPoll(PointerSource& pointer, Scheduler schedule)
+PointerPoll::PointerPoll(PointerSource* pointer, Scheduler schedule)
     : m_pointer(pointer)
     , m_schedule(std::move(schedule))
 {
@@ -25,7 +25,7 @@ PointerPoll::PointerPoll(PointerSource& pointer, Scheduler schedule)
 
 PointerState PointerPoll::look()
 {
-    const auto now = m_pointer.state();
+    const auto now = m_pointer->state();
     if (std::exchange(m_last, now) != now || now.leftHeld) {
         m_quietTicks = 0;
     }
@@ -34,8 +34,8 @@ PointerState PointerPoll::look()
 
 void PointerPoll::begin()
 {
-    connect(&m_pointer, &PointerSource::changed, this, &PointerPoll::wake);
-    if (m_pointer.needsPolling()) {
+    connect(m_pointer, &PointerSource::changed, this, &PointerPoll::wake);
+    if (m_pointer->needsPolling()) {
         m_next = m_schedule(FastTick, [this] { tick(); });
     }
 }
@@ -53,7 +53,7 @@ void PointerPoll::tick()
     if (m_isKeptAwake) {
         m_quietTicks = 0;
     }
-    if (m_pointer.needsPolling()) {
+    if (m_pointer->needsPolling()) {
         m_next = m_schedule(pause(), [this] { tick(); });
     }
 }
@@ -61,7 +61,7 @@ void PointerPoll::tick()
 /// What moves before the announcement counts is seen by the ticks between it and the sleep.
 std::chrono::milliseconds PointerPoll::pause() const
 {
-    const bool isAnnounced = m_quietTicks >= TicksToAnnounce && m_pointer.announceNextChange();
+    const bool isAnnounced = m_quietTicks >= TicksToAnnounce && m_pointer->announceNextChange();
     return isAnnounced && m_quietTicks >= TicksToSleep ? SlowTick : FastTick;
 }
 

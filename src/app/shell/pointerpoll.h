@@ -13,8 +13,9 @@ class PointerPoll final : public QObject {
     Q_OBJECT
 
 public:
-    /// The source is borrowed.
-    PointerPoll(PointerSource& pointer, Scheduler schedule);
+    /// The source is borrowed. Without one, as where nothing is shown, there is nothing to call
+    /// here.
+    PointerPoll(PointerSource* pointer, Scheduler schedule);
 
     /// Asks the source on behalf of whoever decides. What it says sets the pace.
     PointerState look();
@@ -32,7 +33,7 @@ private:
     void tick();
     std::chrono::milliseconds pause() const;
 
-    PointerSource& m_pointer;
+    PointerSource* m_pointer;
     Scheduler m_schedule;
     PointerState m_last;
     bool m_isKeptAwake = false;

@@ -17,7 +17,7 @@ constexpr int TicksInTenSeconds = 10s / Tick;
 struct Polled {
     HandClock hands;
     FakePointerSource pointer;
-    PointerPoll poll{pointer, hands.scheduler()};
+    PointerPoll poll{&pointer, hands.scheduler()};
 
     explicit Polled(bool announces = true)
     {
@@ -179,7 +179,7 @@ void PointerPollTest::sourceThatTells_isLookedAtWhenItDoes()
 {
     HandClock hands;
     FakePointerSource pointer;
-    PointerPoll poll(pointer, hands.scheduler());
+    PointerPoll poll(&pointer, hands.scheduler());
     const QSignalSpy looks(&poll, &PointerPoll::due);
     poll.begin();
     hands.advance(10s);
