@@ -65,7 +65,8 @@ QByteArray setOutputsOfKWin(const QList<int>& numbers)
 {
     static constexpr wl_registry_listener Listener{announce, withdraw};
     Offers offers;
-    auto* display = wl_display_connect(nullptr);
+    static auto* display
+        = wl_display_connect(nullptr); // Until the process ends, with all it knows.
     if (!display) {
         return "there is no compositor";
     }
@@ -75,6 +76,5 @@ QByteArray setOutputsOfKWin(const QList<int>& numbers)
         return "the compositor lets nobody change its outputs";
     }
     const auto answer = apply(display, offers, numbers);
-    wl_display_disconnect(display);
     return answer == Answer::Applied ? QByteArray() : "the compositor refuses such outputs";
 }

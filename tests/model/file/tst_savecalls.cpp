@@ -37,6 +37,14 @@ quib::QuibData oldData()
     return {.clients = {{.name = QString(200'000, u'x')}}, .notes = OldNotes};
 }
 
+/// To ask the system whether memory is there, as only sanitizers do: a pipe, a write, two closes.
+constexpr int CallsOfALook = 4;
+#ifdef __SANITIZE_ADDRESS__
+constexpr auto OfTheSanitizer = "mmap"_L1; ///< It ends a program that gets no memory.
+#else
+constexpr auto OfTheSanitizer = ""_L1;
+#endif
+
 /// Of a file, which must be whole; "torn" when it is not.
 QString notesIn(const std::filesystem::path& file)
 {
@@ -145,6 +153,7 @@ QList<Call> callsOfASave(const QString& trace)
     QMap<QString, int> seen;
     QList<Call> calls;
     bool isSaving = false;
+    int others = 0;
     for (const auto& line : trace.split(u'\n')) {
         const auto process
             = line.section(u' ', 0, 0); // Each thread's calls are counted by themselves.
@@ -153,10 +162,13 @@ QList<Call> callsOfASave(const QString& trace)
         if (line.contains(QLatin1StringView(End))) {
             return calls;
         }
-        if (isSaving
-            && name != u"pipe2"_s) { // Which only the sanitizers' own look at memory takes.
+        if (name == u"pipe2"_s) {
+            others = CallsOfALook;
+        }
+        if (isSaving && others == 0 && name != OfTheSanitizer) {
             calls << Call{name, number};
         }
+        others = std::max(0, others - 1);
         isSaving = isSaving || line.contains(QLatin1StringView(Begin));
     }
     return {};
