@@ -12,57 +12,61 @@ NewestTask::NewestTask(std::function<void()> enterThread)
 
 NewestTask::~NewestTask()
 {
-    join();
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_isEnding = true;
+    }
+    m_changed.notify_all();
+    if (m_thread.joinable()) {
+        m_thread.join();
+    }
 }
 
 void NewestTask::start(std::function<void()> task)
 {
-    {
-        const std::scoped_lock lock(m_mutex);
-        m_waiting.swap(task); // What waited goes when the lock has.
-        if (std::exchange(m_isRunning, true)) {
-            return;
-        }
+    std::unique_lock lock(m_mutex);
+    m_waiting.swap(task); // What waited goes when the lock has.
+    if (m_thread.joinable()) {
+        m_changed.notify_all();
+        return;
     }
-    join(); // The last thread has nothing more to do.
     try {
-        m_thread = std::thread([this] {
-            m_enterThread();
-            runAll();
-        });
+        m_thread = std::thread(&NewestTask::run, this);
     } catch (const std::system_error&) {
-        runAll();
+        runNext(lock);
     }
 }
 
 void NewestTask::finish()
 {
-    {
-        const std::scoped_lock lock(m_mutex);
-        m_waiting = nullptr;
-    }
-    join();
+    std::unique_lock lock(m_mutex);
+    m_waiting = nullptr;
+    m_changed.wait(lock, [this] { return !m_isRunning; });
 }
 
-void NewestTask::runAll()
+void NewestTask::run()
 {
-    while (const auto task = take()) {
-        task();
+    m_enterThread();
+    std::unique_lock lock(m_mutex);
+    while (true) {
+        m_changed.wait(lock, [this] { return m_waiting || m_isEnding; });
+        if (!m_waiting) {
+            return;
+        }
+        runNext(lock);
     }
 }
 
-std::function<void()> NewestTask::take()
+void NewestTask::runNext(std::unique_lock<std::mutex>& lock)
 {
-    const std::scoped_lock lock(m_mutex);
-    m_isRunning = m_waiting != nullptr;
-    return std::exchange(m_waiting, nullptr);
-}
-
-void NewestTask::join()
-{
-    if (m_thread.joinable()) {
-        m_thread.join();
-    }
+    auto task = std::exchange(m_waiting, nullptr);
+    m_isRunning = true;
+    lock.unlock();
+    task();
+    task = nullptr; // Lets go of all it has, which may be much.
+    lock.lock();
+    m_isRunning = false;
+    m_changed.notify_all();
 }
 
 } // namespace quib

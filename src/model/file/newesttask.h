@@ -1,12 +1,13 @@
 #pragma once
 
+#include <condition_variable>
 #include <functional>
 #include <mutex>
 #include <thread>
 
 namespace quib {
 
-/// Runs one task after another on a thread of its own, which is there while there is a task; of
+/// Runs one task after another on a thread of its own, which is there from the first of them; of
 /// those that wait only the newest is kept. Belongs to one thread.
 class NewestTask {
 public:
@@ -24,14 +25,15 @@ public:
     void finish();
 
 private:
-    void runAll();
-    std::function<void()> take(); ///< Empty when the thread is to end.
-    void join();
+    void run();
+    void runNext(std::unique_lock<std::mutex>& lock); ///< Locked again when it has run.
 
     std::function<void()> m_enterThread;
-    std::mutex m_mutex; ///< Of the next two.
+    std::mutex m_mutex; ///< Of the next three.
     std::function<void()> m_waiting;
     bool m_isRunning = false;
+    bool m_isEnding = false;
+    std::condition_variable m_changed; ///< One of them.
     std::thread m_thread;
 };
 

@@ -176,7 +176,7 @@ void SavingTest::writingInTheBackground_yieldsToTheOthers()
     addTask(desk, u"Saved"_s);
     QTRY_COMPARE(desk.savedTasks().value(0), u"Saved"_s);
 
-    auto after = nicenessOfThreads(*quib).values(); // The one that wrote rests for a while.
+    auto after = nicenessOfThreads(*quib).values(); // The one that wrote rests.
     std::ranges::sort(after);
     QCOMPARE(after.count(usual), after.size() - 1);
     QVERIFY(after.last() > usual);
