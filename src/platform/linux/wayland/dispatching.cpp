@@ -8,13 +8,9 @@
 
 #include <wayland-client-core.h>
 
-using namespace std::chrono_literals;
-
 namespace quib {
 
 namespace {
-
-constexpr auto Patience = 1s; // Compositors answer in a millisecond.
 
 /// Whether there is something to read before the deadline.
 bool hasAnswer(wl_display* display, const QDeadlineTimer& deadline)
@@ -29,9 +25,10 @@ bool hasAnswer(wl_display* display, const QDeadlineTimer& deadline)
 
 } // namespace
 
-bool dispatchUntil(wl_display* display, wl_event_queue* queue, const std::function<bool()>& isSo)
+bool dispatchUntil(wl_display* display, wl_event_queue* queue, std::chrono::milliseconds patience,
+                   const std::function<bool()>& isSo)
 {
-    const QDeadlineTimer deadline(Patience);
+    const QDeadlineTimer deadline(patience);
     while (wl_display_dispatch_queue_pending(display, queue) >= 0 && !isSo()) {
         if (wl_display_prepare_read_queue(display, queue) != 0) {
             continue; // Something has come meanwhile.

@@ -10,11 +10,16 @@
 #include <layer-shell-client.h>
 #include <wayland-client.h>
 
+using namespace std::chrono_literals;
+
 namespace quib {
 
 namespace {
 
 constexpr uint32_t KnownVersion = 4;
+/// Compositors answer in a millisecond, but KWin, which first reads the whole program that asks: in
+/// a tenth of a second, and more where the disk has much to do, as when a session starts.
+constexpr auto Patience = 5s;
 
 struct Disconnected {
     void operator()(wl_display* display) const { wl_display_disconnect(display); }
@@ -67,7 +72,7 @@ LayerShell::LayerShell(wl_display* display)
     bool isAnswered = false;
     auto* answer = wl_display_sync(own.wrapper);
     wl_callback_add_listener(answer, &Listening::Answer, &isAnswered);
-    dispatchUntil(display, m_queue, [&] { return isAnswered; });
+    dispatchUntil(display, m_queue, Patience, [&] { return isAnswered; });
     wl_callback_destroy(answer);
 }
 

@@ -6,6 +6,8 @@
 #include <layer-shell-client.h>
 #include <wayland-client.h>
 
+using namespace std::chrono_literals;
+
 namespace quib {
 
 namespace {
@@ -14,6 +16,7 @@ constexpr uint32_t TopEdge = 1;
 constexpr int32_t OverAllReserved = -1;
 constexpr auto Scope = "korvel-quib"; // Compositors may have rules for it.
 constexpr uint32_t KnowsOnDemand = 4; // As the version of the layer shell.
+constexpr auto Patience = 1s; // The compositor knows us by now, and answers in a millisecond.
 
 } // namespace
 
@@ -45,7 +48,8 @@ LayerSurface::LayerSurface(const LayerShell& shell, wl_surface* surface, wl_outp
     zwlr_layer_surface_v1_set_anchor(m_role, TopEdge);
     zwlr_layer_surface_v1_set_exclusive_zone(m_role, OverAllReserved);
     setKeyboard(Keyboard::Never);
-    dispatchUntil(shell.display(), shell.queue(), [this] { return m_isReady || m_isClosed; });
+    dispatchUntil(shell.display(), shell.queue(), Patience,
+                  [this] { return m_isReady || m_isClosed; });
     // From now on Qt hears for us.
     wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(m_role), nullptr);
 }
