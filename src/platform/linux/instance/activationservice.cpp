@@ -17,6 +17,8 @@ constexpr auto ApplicationInterface = "org.freedesktop.Application"_L1;
 constexpr auto PinAction = "Pin"_L1; // As the desktop entry names it; its other action opens.
 constexpr int PatienceMs = 2000;
 
+constexpr uint AllowReplacement = 1;
+constexpr uint ReplaceExisting = 2;
 constexpr uint DoNotQueue = 4;
 constexpr uint PrimaryOwner = 1;
 constexpr uint AlreadyOwner = 4;
@@ -35,12 +37,15 @@ QVariantMap platformData()
     return data;
 }
 
-QDBusMessage requestName(const QString& name)
+constexpr uint AsItsOwner = ReplaceExisting | DoNotQueue;
+constexpr uint ForTheMoment = AllowReplacement | DoNotQueue;
+
+QDBusMessage requestName(const QString& name, uint manner)
 {
     auto message
         = QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
                                          u"org.freedesktop.DBus"_s, u"RequestName"_s);
-    message << name << DoNotQueue;
+    message << name << manner;
     return message;
 }
 
@@ -57,15 +62,17 @@ ActivationService::Answer ActivationService::claim(const QString& busName)
         return Answer::NoBus;
     }
     offerObject(busName);
-    return takeAnswer(busName,
-                      m_bus.connection().call(requestName(busName), QDBus::Block, PatienceMs));
+    return takeAnswer(
+        busName,
+        m_bus.connection().call(requestName(busName, AsItsOwner), QDBus::Block, PatienceMs));
 }
 
 void ActivationService::startClaim(const QString& busName)
 {
     offerObject(busName);
-    whenAnswered(m_bus.connection().asyncCall(requestName(busName)), this, instanceLog(),
-                 "the claim of the name", [this, busName](const QDBusPendingCall& reply) {
+    whenAnswered(m_bus.connection().asyncCall(requestName(busName, AsItsOwner)), this,
+                 instanceLog(), "the claim of the name",
+                 [this, busName](const QDBusPendingCall& reply) {
                      const auto answer = takeAnswer(busName, reply.reply());
                      if (answer != Answer::NoBus) {
                          Q_EMIT claimed(answer);
@@ -76,7 +83,7 @@ void ActivationService::startClaim(const QString& busName)
 void ActivationService::answerTo(const QString& busName)
 {
     offerObject(busName);
-    m_bus.connection().asyncCall(requestName(busName));
+    m_bus.connection().asyncCall(requestName(busName, ForTheMoment));
 }
 
 /// Before the name is: whoever finds that may call at once.

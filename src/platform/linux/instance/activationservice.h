@@ -26,7 +26,7 @@ public:
     Answer claim(const QString& busName);
     /// The same without waiting: `claimed` tells.
     void startClaim(const QString& busName);
-    /// Also takes calls to this name, if nobody has it.
+    /// Also takes calls to this name, if nobody has it, and until somebody claims it.
     void answerTo(const QString& busName);
     /// To the process that has the name. Waits for its answer, but not for ever.
     void activateOther(const QString& busName) const;

@@ -103,12 +103,12 @@ bool InstanceLock::claim()
     return true;
 }
 
-void InstanceLock::knock() const
+void InstanceLock::knock(Knock knock) const
 {
     const auto address = addressOf(path(".socket"));
     const auto sender = openSocket();
     if (address) {
-        sendto(sender, "", 1, 0, general(*address), sizeof *address);
+        sendto(sender, &knock, sizeof knock, 0, general(*address), sizeof *address);
     }
     closeIfOpen(sender);
 }
@@ -131,9 +131,10 @@ void InstanceLock::listen()
 
 void InstanceLock::readKnocks()
 {
-    char knock = 0;
-    while (recv(m_socket, &knock, 1, 0) >= 0) { }
-    Q_EMIT knocked();
+    auto knock = Knock::Open;
+    while (recv(m_socket, &knock, sizeof knock, 0) >= 0) {
+        Q_EMIT knocked(knock);
+    }
 }
 
 QByteArray InstanceLock::path(const char* suffix) const

@@ -22,11 +22,17 @@ public:
     bool claim();
     /// False also where no folder can hold a lock.
     bool isHeld() const { return m_isHeld; }
+    enum class Knock : char {
+        Open, ///< A later start wants the panel.
+        Desktop, ///< The bus has started a program, and delivers a call once somebody answers to
+                 ///< the desktop's name.
+    };
+
     /// To the process that has the lock; never waits.
-    void knock() const;
+    void knock(Knock knock) const;
 
 Q_SIGNALS:
-    void knocked();
+    void knocked(quib::InstanceLock::Knock knock);
 
 private:
     void listen();

@@ -36,13 +36,13 @@ bool LinuxInstance::claim(const std::filesystem::path& dataFolder)
     m_lock = std::make_unique<InstanceLock>(lockName(dataFolder));
     if (!m_lock->claim()) {
         qCDebug(instanceLog) << "another one holds the lock";
-        m_lock->knock();
+        m_lock->knock(wasStartedByBus() ? InstanceLock::Knock::Desktop : InstanceLock::Knock::Open);
         return false;
     }
     if (!m_lock->isHeld() && !claimByNameAlone()) {
         return false;
     }
-    connect(m_lock.get(), &InstanceLock::knocked, this, &LinuxInstance::activated);
+    connect(m_lock.get(), &InstanceLock::knocked, this, &LinuxInstance::takeKnock);
     connect(m_bus.get(), &SessionBus::connected, this, &LinuxInstance::takeName);
     if (m_bus->isConnected()) {
         takeName();
@@ -65,6 +65,16 @@ void LinuxInstance::takeName()
     m_service.startClaim(m_name);
     if (wasStartedByBus() && m_name != ApplicationName) {
         m_service.answerTo(ApplicationName);
+    }
+}
+
+void LinuxInstance::takeKnock(InstanceLock::Knock knock)
+{
+    if (knock == InstanceLock::Knock::Desktop && m_name != ApplicationName
+        && m_bus->isConnected()) {
+        m_service.answerTo(ApplicationName); // The bus tells what is wanted.
+    } else {
+        Q_EMIT activated();
     }
 }
 

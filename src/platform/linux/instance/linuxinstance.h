@@ -20,6 +20,7 @@ public:
 private:
     bool claimByNameAlone();
     void takeName();
+    void takeKnock(InstanceLock::Knock knock);
     void takeAnswer(ActivationService::Answer answer);
 
     std::shared_ptr<SessionBus> m_bus;

@@ -31,8 +31,11 @@ private Q_SLOTS:
     void init();
     void call_activatesAsDesktopsDo();
     void startedByBus_answersToTheDesktopsName();
+    void bus_startsASecond_theFirstAnswersToTheDesktopsName();
+    void usersOwnFolder_hasTheDesktopsNameFromThenOn();
 
 private:
+    static QProcessEnvironment startedByBus(QProcessEnvironment environment);
     QString folder(const QString& name) const { return m_folder->filePath(name); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -63,14 +66,47 @@ void BusActivationTest::call_activatesAsDesktopsDo()
     QCOMPARE(first.activations(), 3);
 }
 
+QProcessEnvironment BusActivationTest::startedByBus(QProcessEnvironment environment)
+{
+    environment.insert(u"DBUS_STARTER_BUS_TYPE"_s, u"session"_s);
+    return environment;
+}
+
 void BusActivationTest::startedByBus_answersToTheDesktopsName()
 {
-    m_environment.insert(u"DBUS_STARTER_BUS_TYPE"_s, u"session"_s);
-
-    const Start first(folder(u"work"_s), m_environment);
+    const Start first(folder(u"work"_s), startedByBus(m_environment));
 
     QTRY_VERIFY(isOnBus(lockName(nativePath(folder(u"work"_s)))));
     QTRY_VERIFY(isOnBus(DesktopsName));
+}
+
+/// Or whoever called would wait in vain: the second one leaves.
+void BusActivationTest::bus_startsASecond_theFirstAnswersToTheDesktopsName()
+{
+    Start first(folder(u"work"_s), m_environment);
+    QTRY_VERIFY(isOnBus(lockName(nativePath(folder(u"work"_s)))));
+    QVERIFY(!isOnBus(DesktopsName));
+
+    const Start second(folder(u"work"_s), startedByBus(m_environment));
+
+    QCOMPARE(second.answer(), u"refused"_s);
+    QTRY_VERIFY(isOnBus(DesktopsName));
+    QVERIFY(call(u"ActivateAction"_s, {u"Pin"_s, u"[]"_s, u"{}"_s}));
+    QTRY_COMPARE(first.count("pin asked"), 1);
+    QCOMPARE(first.activations(), 0);
+}
+
+void BusActivationTest::usersOwnFolder_hasTheDesktopsNameFromThenOn()
+{
+    Start other(folder(u"work"_s), startedByBus(m_environment));
+    QTRY_VERIFY(isOnBus(DesktopsName));
+
+    Start own(folder(u"data/KorvelQuib"_s), m_environment);
+
+    const auto isOwnersTurn
+        = [&] { return call(u"Activate"_s, {u"{}"_s}) && own.activations() > 0; };
+    QTRY_VERIFY(isOwnersTurn());
+    QCOMPARE(own.count("superseded"), 0);
 }
 
 QTEST_GUILESS_MAIN(BusActivationTest)
