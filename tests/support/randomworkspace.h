@@ -5,6 +5,7 @@
 
 #include <QRandomGenerator>
 
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -63,12 +64,14 @@ private:
     /// Of all scripts and of none: controls, separators, NUL, what looks like markup or like JSON.
     QString text()
     {
-        static const QString alphabet
-            = QStringLiteral("abc "
-                             "019/"
-                             "\\\"'<>&{}[]:,"
-                             "\n\r\t\u00e9\u05d0\u0639\u3042\u200f\u202e\u2028\u2029\ufeff\uffff"
-                             "\U0001f600\U0001f468\u200d");
+        static constexpr std::array<QStringView, 38> Pieces{
+            u"a",      u"b",          u"c",          u" ",      u"0",      u"1",      u"9",
+            u"/",      u"\\",         u"\"",         u"'",      u"<",      u">",      u"&",
+            u"{",      u"}",          u"[",          u"]",      u":",      u",",      u"\n",
+            u"\r",     u"\t",         u"\u00e9",     u"\u05d0", u"\u0639", u"\u3042", u"\u200d",
+            u"\u200f", u"\u202e",     u"\u2028",     u"\u2029", u"\ue000", u"\ufeff", u"\ufffd",
+            u"\uffff", u"\U0001f600", u"\U0001f468",
+        };
         QString text;
         const int length = below(12) == 0 ? below(2000) : below(20);
         while (text.size() < length) {
@@ -78,7 +81,7 @@ private:
                 text += QString::fromUcs4(std::array{char32_t(0x10000 + below(0xfffff))}.data(), 1);
                 break;
             case 2: text += QChar(0x80 + below(0xd800 - 0x80)); break;
-            default: text += alphabet.at(below(30)); break; // Before the pairs.
+            default: text += Pieces.at(std::size_t(below(int(Pieces.size())))); break;
             }
         }
         return text;

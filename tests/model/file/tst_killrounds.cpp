@@ -37,14 +37,26 @@ quint32 revisionOf(const quib::QuibData& data)
     return data.notes.section(u' ', 0, 0).toUInt();
 }
 
+/// On this thread, or on the one in the background; has been done when it returns.
+void save(const quib::QuibData& data, bool isInBackground)
+{
+    const auto later = [](auto, auto) { return std::make_unique<QObject>(); };
+    const auto atOnce = [](auto, const std::function<void()>& write) {
+        write();
+        return std::make_unique<QObject>();
+    };
+    quib::DataSaver saver(isInBackground ? quib::Scheduler(atOnce) : later, [] {});
+    saver.scheduleSave(data);
+    if (!isInBackground) {
+        saver.saveNow(data);
+    }
+}
+
 /// Saves one revision after the other, and says which have been saved.
 int saveOnAndOn(quint32 first)
 {
-    quib::DataSaver saver([](auto, auto) { return std::make_unique<QObject>(); }, [] {});
     for (auto revision = first;; ++revision) {
-        const auto data = workspaceOf(revision);
-        saver.scheduleSave(data);
-        saver.saveNow(data);
+        save(workspaceOf(revision), revision % 2 == 0);
         const auto told = QByteArray::number(revision) + '\n';
         if (::write(STDOUT_FILENO, told.constData(), std::size_t(told.size())) != told.size()) {
             return 1;
