@@ -1,3 +1,4 @@
+#include "model/file/callsofasave.h"
 #include "model/file/datafile.h"
 #include "model/store.h"
 #include "model/texts/nativepath.h"
@@ -6,11 +7,9 @@
 #include "support/strace.h"
 
 #include <QDir>
-#include <QMap>
 #include <QProcess>
 #include <QTest>
 
-#include <algorithm>
 #include <tuple>
 
 #include <unistd.h>
@@ -28,22 +27,12 @@ constexpr auto OldNotes = "old"_L1;
 constexpr auto NewNotes = "new"_L1;
 constexpr auto LaterNotes = "later"_L1;
 constexpr auto SaveTwice = "--save-twice";
-constexpr auto Begin = "/a save begins"; // Looked for, so that the trace shows where.
-constexpr auto End = "/a save has ended";
 
 /// More than one write takes.
 quib::QuibData oldData()
 {
     return {.clients = {{.name = QString(200'000, u'x')}}, .notes = OldNotes};
 }
-
-/// To ask the system whether memory is there, as only sanitizers do: a pipe, a write, two closes.
-constexpr int CallsOfALook = 4;
-#ifdef __SANITIZE_ADDRESS__
-constexpr auto OfTheSanitizer = "mmap"_L1; ///< It ends a program that gets no memory.
-#else
-constexpr auto OfTheSanitizer = ""_L1;
-#endif
 
 /// Of a file, which must be whole; "torn" when it is not.
 QString notesIn(const std::filesystem::path& file)
@@ -58,9 +47,9 @@ int saveTwice()
 {
     quib::Store store;
     store.setNotes(NewNotes);
-    std::ignore = ::access(Begin, F_OK);
+    std::ignore = ::access(SaveBegins, F_OK);
     store.saveNow();
-    std::ignore = ::access(End, F_OK);
+    std::ignore = ::access(SaveHasEnded, F_OK);
     const auto notes = notesIn(quib::Store::folder() / "data.json");
     if (notes != OldNotes && notes != NewNotes) {
         return 1;
@@ -69,17 +58,6 @@ int saveTwice()
     store.saveNow();
     return 0;
 }
-
-/// Which call of a name, counted from 1 in the life of the program.
-struct Call {
-    QString name;
-    int number = 0;
-
-    bool operator<(const Call& other) const
-    {
-        return std::tie(name, number) < std::tie(other.name, other.number);
-    }
-};
 
 /// A data folder with a workspace and with what is none of ours, reached by a link or without.
 struct Place {
@@ -148,32 +126,6 @@ struct Place {
     bool isLinked;
 };
 
-QList<Call> callsOfASave(const QString& trace)
-{
-    QMap<QString, int> seen;
-    QList<Call> calls;
-    bool isSaving = false;
-    int others = 0;
-    for (const auto& line : trace.split(u'\n')) {
-        const auto process
-            = line.section(u' ', 0, 0); // Each thread's calls are counted by themselves.
-        const auto name = line.section(u' ', 1).trimmed().section(u'(', 0, 0);
-        const int number = ++seen[process + name];
-        if (line.contains(QLatin1StringView(End))) {
-            return calls;
-        }
-        if (name == u"pipe2"_s) {
-            others = CallsOfALook;
-        }
-        if (isSaving && others == 0 && name != OfTheSanitizer) {
-            calls << Call{name, number};
-        }
-        others = std::max(0, others - 1);
-        isSaving = isSaving || line.contains(QLatin1StringView(Begin));
-    }
-    return {};
-}
-
 QStringList injections()
 {
     QStringList all{u"signal=SIGKILL"_s, u"error=EIO"_s, u"error=ENOSPC"_s};
@@ -230,14 +182,19 @@ void SaveCallsTest::anyCall_leavesAWholeFileAndTheNextSaveWhole()
     QVERIFY(calls.size() > 8);
 
     for (const auto& call : calls) {
+        const bool isKill = injection.startsWith(u"signal"_s);
+        if (!isKill && call.name == u"brk"_s) {
+            continue; // It knows no errors, and the C library is not ready for one.
+        }
         const auto what = u"%1:%2:when=%3"_s.arg(call.name, injection).arg(call.number);
         const Place place(isLink);
         QVERIFY(place.save(what, &trace));
 
-        QVERIFY2(!trace.contains(u"+++ exited with 1 +++"_s), qPrintable(what));
-        const bool hasEnded = trace.contains(u"+++ exited with 0 +++"_s);
+        QVERIFY2(trace.contains(isKill ? u"killed by SIGKILL"_s : u"(INJECTED)"_s),
+                 qPrintable(what));
+        QVERIFY2(isKill || trace.contains(u"+++ exited with 0 +++"_s), qPrintable(what));
         const auto notes = place.notes();
-        const bool isKept = hasEnded ? notes == LaterNotes : notes == OldNotes || notes == NewNotes;
+        const bool isKept = isKill ? notes == OldNotes || notes == NewNotes : notes == LaterNotes;
         QVERIFY2(isKept, qPrintable(what + u": "_s + notes));
         QVERIFY2(place.harm().isEmpty(), qPrintable(what + u": "_s + place.harm()));
     }
