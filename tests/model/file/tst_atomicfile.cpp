@@ -3,12 +3,12 @@
 #include "support/bytesof.h"
 #include "support/modeof.h"
 #include "support/othergroup.h"
+#include "support/smalldisk.h"
 #include "support/umask.h"
 #include "support/writefile.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -43,36 +43,6 @@ public:
 
 private:
     QTemporaryDir m_dir;
-};
-
-/// A file system of its own with little room, for as long as this lives.
-class SmallDisk {
-public:
-    SmallDisk()
-    {
-        QProcess mount;
-        mount.start(u"mount"_s,
-                    {u"-t"_s, u"tmpfs"_s, u"-o"_s, u"size=256k"_s, u"quib-test"_s, m_dir.path()});
-        mount.waitForFinished();
-        m_mounted = mount.exitStatus() == QProcess::NormalExit && mount.exitCode() == 0;
-        m_hindrance = mount.readAllStandardError().trimmed();
-    }
-    ~SmallDisk()
-    {
-        if (m_mounted) {
-            QProcess::execute(u"umount"_s, {m_dir.path()});
-        }
-    }
-    Q_DISABLE_COPY_MOVE(SmallDisk)
-
-    bool isMounted() const { return m_mounted; }
-    QByteArray hindrance() const { return "no file system can be mounted here: " + m_hindrance; }
-    QString path(const QString& name) const { return m_dir.filePath(name); }
-
-private:
-    QTemporaryDir m_dir;
-    bool m_mounted = false;
-    QByteArray m_hindrance;
 };
 
 } // namespace
