@@ -19,9 +19,12 @@ private Q_SLOTS:
     void version_isTheNewestOfTheChanges();
     void tools_areContent_data();
     void tools_areContent();
+    void manual_isContentAndNamesWhatIsInstalled();
     void busStarts_theInstalledProgram();
-    void completions_giveOptionsAndFolders_data();
-    void completions_giveOptionsAndFolders();
+    void completionsOfBash_giveOptionsAndFolders_data();
+    void completionsOfBash_giveOptionsAndFolders();
+    void completionsOfFish_giveOptions();
+    void completionsOfZsh_areFound();
     void schema_isContentWith_data();
     void schema_isContentWith();
 
@@ -105,6 +108,21 @@ void InstalledTest::tools_areContent()
     QCOMPARE(complaintOf(tool, options + QStringList{m_tree.path(file)}), ""_ba);
 }
 
+void InstalledTest::manual_isContentAndNamesWhatIsInstalled()
+{
+    const auto page = m_tree.path(u"share/man/man1/quib.1"_s);
+    QProcess man;
+
+    man.start(u"man"_s, {u"--warnings"_s, u"-l"_s, page});
+
+    QVERIFY(man.waitForFinished());
+    QCOMPARE(man.exitCode(), 0);
+    QCOMPARE(man.readAllStandardError(), ""_ba);
+    QVERIFY(man.readAllStandardOutput().contains("QUIB(1)"));
+    const auto schema = m_tree.path(u"share/quib/shortcuts.schema.json"_s).toUtf8();
+    QVERIFY(bytesOf(page).contains("\n.I " + schema + '\n'));
+}
+
 void InstalledTest::busStarts_theInstalledProgram()
 {
     const auto service = bytesOf(m_tree.path(u"share/dbus-1/services/org.korvel.Quib.service"_s));
@@ -113,7 +131,7 @@ void InstalledTest::busStarts_theInstalledProgram()
     QVERIFY(service.contains("\nName=org.korvel.Quib\n"));
 }
 
-void InstalledTest::completions_giveOptionsAndFolders_data()
+void InstalledTest::completionsOfBash_giveOptionsAndFolders_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QByteArray>("completed");
@@ -123,7 +141,7 @@ void InstalledTest::completions_giveOptionsAndFolders_data()
     QTest::addRow("folders") << u"--snapshot bi"_s << "bin \n"_ba;
 }
 
-void InstalledTest::completions_giveOptionsAndFolders()
+void InstalledTest::completionsOfBash_giveOptionsAndFolders()
 {
     QFETCH(const QString, typed);
     const auto script = uR"(cd "$0"
@@ -141,6 +159,37 @@ printf '%s ' "${COMPREPLY[@]}"; echo)"_s.arg(typed);
     QTEST(bash.readAll(), "completed");
 }
 
+void InstalledTest::completionsOfFish_giveOptions()
+{
+    QProcess fish;
+
+    fish.start(u"fish"_s,
+               {u"-c"_s,
+                u"source '%1'; complete -C'quib --'"_s.arg(
+                    m_tree.path(u"share/fish/vendor_completions.d/quib.fish"_s))});
+
+    QVERIFY(fish.waitForFinished());
+    QByteArrayList options;
+    for (const auto& line : fish.readAllStandardOutput().trimmed().split('\n')) {
+        options << line.split('\t').first();
+    }
+    QCOMPARE(options, (QByteArrayList{"--help", "--snapshot", "--version"}));
+}
+
+void InstalledTest::completionsOfZsh_areFound()
+{
+    QProcess zsh;
+
+    zsh.start(
+        u"zsh"_s,
+        {u"-f"_s, u"-c"_s,
+         u"fpath=('%1' $fpath); autoload -U compinit; compinit -u -D; print $_comps[quib]"_s.arg(
+             m_tree.path(u"share/zsh/site-functions"_s))});
+
+    QVERIFY(zsh.waitForFinished());
+    QCOMPARE(zsh.readAllStandardOutput(), "_quib\n"_ba);
+}
+
 void InstalledTest::schema_isContentWith_data()
 {
     QTest::addColumn<QByteArray>("json");
@@ -149,6 +198,7 @@ void InstalledTest::schema_isContentWith_data()
     QTest::addRow("a whole file")
         << R"({"$schema":"x","help":"y","groups":[{"title":"a","color":"gold","buttons":[{"name":"b","icon":"c","url":"d"}]}]})"_ba
         << true;
+    QTest::addRow("of an odd schema") << R"({"$schema":1,"groups":[]})"_ba << true;
     QTest::addRow("nothing optional")
         << R"({"groups":[{"title":"a","buttons":[{"name":"b","url":"d"}]}]})"_ba << true;
     QTest::addRow("null for what is optional")
