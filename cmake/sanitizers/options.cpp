@@ -24,7 +24,9 @@ const char* __lsan_default_options()
 
 const char* __tsan_default_options()
 {
-    return "halt_on_error=1:second_deadlock_stack=1:suppressions=" SUPPRESSIONS "/threads.txt";
+    // How libraries that were built without it take turns, it does not see.
+    return "halt_on_error=1:second_deadlock_stack=1:ignore_noninstrumented_modules=1:"
+           "suppressions=" SUPPRESSIONS "/threads.txt";
 }
 // NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)
 }

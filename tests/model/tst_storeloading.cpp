@@ -210,7 +210,7 @@ void StoreLoadingTest::fileOfATerabyte_isUnreadable()
 
 void StoreLoadingTest::tooLittleMemory_isNoReasonToFail()
 {
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     QSKIP("the sanitizer ends what finds no memory");
 #endif
     const DataFolderForTest folder;

@@ -35,7 +35,7 @@ private Q_SLOTS:
 
 void StoreMemoryTest::manyEntries_leaveNoMemoryBehind()
 {
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     QSKIP("the sanitizer keeps what is freed");
 #endif
     const DownloadsForTest downloads;

@@ -34,7 +34,7 @@ private Q_SLOTS:
 
 void MemoryTest::initTestCase()
 {
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     QSKIP("the sanitizer has a heap of its own");
 #endif
     quib::useOneHeap();
