@@ -34,6 +34,7 @@ private Q_SLOTS:
     void serviceKilledWhileItReads_leavesWhatWasRead();
     void hungService_holdsUpNothing();
     void hungCalendar_holdsUpNoOther();
+    void hungCalendar_holdsUpNotTheEnd();
     void hungRegistry_holdsUpNeitherThePanelNorTheEnd();
     void manyRecurringEvents_canBeQuitFrom();
     void noService_isEmpty();
@@ -128,6 +129,20 @@ void EdsCalendarServiceTest::hungCalendar_holdsUpNoOther()
     QTRY_VERIFY(desk.changes() > then);
     QCOMPARE(desk.read(Monday).size(), 2);
     QVERIFY(desk.quit());
+}
+
+void EdsCalendarServiceTest::hungCalendar_holdsUpNotTheEnd()
+{
+    CalendarDesk desk;
+    desk.makeHungCalendar(u"holidays"_s);
+    desk.makeCalendar(u"work"_s, Call);
+    desk.startBus();
+    desk.startGranted();
+    QCOMPARE(desk.read(Monday), ShownCall);
+
+    QVERIFY(desk.quit()); // It would hang for ever.
+
+    desk.endHanging(u"holidays"_s, Call);
 }
 
 void EdsCalendarServiceTest::hungRegistry_holdsUpNeitherThePanelNorTheEnd()
