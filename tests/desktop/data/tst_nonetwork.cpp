@@ -1,4 +1,5 @@
 #include "desktop/desk/desk.h"
+#include "platform/linux/media/fakeplayer.h"
 #include "support/bytesof.h"
 #include "support/sendsignal.h"
 #include "support/strace.h"
@@ -63,6 +64,14 @@ QByteArray luringShortcuts()
         {"name": "c", "icon": "http://192.0.2.1/c.svg", "url": "//192.0.2.1/d.app"}]}]})";
 }
 
+QVariantMap luringTrack()
+{
+    return {{u"xesam:title"_s, u"<img src='http://192.0.2.1/t.png'>"_s},
+            {u"xesam:artist"_s, QStringList{u"http://192.0.2.1/"_s}},
+            {u"xesam:url"_s, u"http://192.0.2.1/song.mp3"_s},
+            {u"mpris:artUrl"_s, u"http://192.0.2.1/art.png"_s}};
+}
+
 } // namespace
 
 void NoNetworkTest::initTestCase()
@@ -77,12 +86,17 @@ void NoNetworkTest::allTabs_connectToNothingButThisMachine()
     Desk desk;
     desk.writeData(luringWorkspace());
     writeFile(desk.dataFolder() + u"/shortcuts.json"_s, luringShortcuts());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", desk.busAddress().toUtf8());
+    FakePlayer player(u"spotify"_s);
+    player.properties[u"Metadata"_s] = luringTrack();
+    QVERIFY(player.start());
     const auto trace = desk.folder(u"trace"_s);
 
     const auto quib
         = desk.startQuib({u"strace"_s, u"-f"_s, u"-e"_s,
                           u"trace=connect,socket,sendto,sendmsg,sendmmsg"_s, u"-o"_s, trace});
     desk.openWithPointer();
+    QTRY_VERIFY(player.calls.contains(u"GetAll"_s));
     for (int tab = 0; tab < 7; ++tab) {
         desk.showTab(tab);
         desk.moveTo(Desk::InTheCard);

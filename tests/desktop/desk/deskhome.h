@@ -53,6 +53,10 @@ public:
     void resumeBus() const;
     void killBus();
     /// Somebody whose name starts so.
+    QString busAddress() const
+    {
+        return m_environment.value(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
+    }
     bool isOnBus(const QString& beginning) const;
 
 protected:

@@ -1,6 +1,5 @@
 #include "platform/linux/calendar/eds/calendarreader.h"
 
-#include <algorithm>
 #include <array>
 #include <system_error>
 #include <utility>
@@ -11,10 +10,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto Pause = 50ms; ///< Changes come in bursts.
 constexpr auto Patience = 1s; ///< With a calendar that does not answer, while others have.
 constexpr auto LongestGoodbye = 800ms; ///< To all of them together.
-constexpr int MostDoublings = 10; ///< Of the pause before a service that crashes is tried again.
 
 constexpr std::array RegistrySignals{"source-added", "source-removed", "source-changed",
                                      "source-enabled", "source-disabled"};
@@ -35,7 +32,7 @@ GOwned<GDBusConnection> connectToBus(GCancellable* cancellable)
 CalendarReader::CalendarReader(Post post, GCancellable* cancellable, std::function<void()> changed)
     : m_post(std::move(post))
     , m_cancellable(cancellable)
-    , m_changed(std::move(changed))
+    , m_announcements(std::move(changed))
 {
 }
 
@@ -64,10 +61,7 @@ void CalendarReader::read(const Span& span, Answer answer)
         finish();
         return;
     }
-    m_patience = callIn(Patience, [](gpointer reader) -> gboolean {
-        static_cast<CalendarReader*>(reader)->finish();
-        return G_SOURCE_REMOVE;
-    });
+    m_patience.start(Patience, [this] { finish(); });
 }
 
 bool CalendarReader::open()
@@ -82,7 +76,7 @@ bool CalendarReader::open()
     }
     if (g_dbus_connection_is_closed(m_bus.get()) != FALSE) {
         m_bus.reset(); // The library's threads take a moment to let go of the one that is lost.
-        announceDeath();
+        m_announcements.tellOfDeath();
         return false;
     }
     m_registry.reset(e_source_registry_new_sync(m_cancellable, nullptr));
@@ -91,7 +85,7 @@ bool CalendarReader::open()
     }
     // Of any source, not only calendars: an account is none, and switches off those in it.
     const auto changed = [](ESourceRegistry*, ESource*, gpointer reader) {
-        static_cast<CalendarReader*>(reader)->announceIn(Pause);
+        static_cast<CalendarReader*>(reader)->m_announcements.tellOfChange();
     };
     for (const auto* signal : RegistrySignals) {
         g_signal_connect(m_registry.get(), signal, G_CALLBACK(+changed), this);
@@ -147,7 +141,7 @@ void CalendarReader::watch(const Span& span)
     if (m_span != span) {
         m_calendars.clear();
         m_span = span;
-        m_deaths = 0;
+        m_announcements.forgetDeaths();
     }
 }
 
@@ -190,7 +184,7 @@ void CalendarReader::take(const QByteArray& id, const std::shared_ptr<CalendarWo
     if (std::exchange(calendar.isAwaited, false) && --m_awaited == 0) {
         finish();
     } else if (isNews && !m_answer) {
-        announceIn(Pause); // Who asked has been answered without it.
+        m_announcements.tellOfChange(); // Who asked has been answered without it.
     }
 }
 
@@ -199,8 +193,8 @@ std::shared_ptr<CalendarWorker> CalendarReader::makeWorker(ESource* source)
     try {
         return std::make_shared<CalendarWorker>(
             source, m_span, m_cancellable,
-            CalendarClient::Listener{.changed = posting([this] { announceIn(Pause); }),
-                                     .died = posting([this] { announceDeath(); })});
+            CalendarClient::Listener{.changed = posting([this] { m_announcements.tellOfChange(); }),
+                                     .died = posting([this] { m_announcements.tellOfDeath(); })});
     } catch (const std::system_error&) {
         return nullptr;
     }
@@ -220,7 +214,7 @@ std::function<void()> CalendarReader::posting(std::function<void()> work) const
 /// Answers with what there is.
 void CalendarReader::finish()
 {
-    m_patience.reset();
+    m_patience.stop();
     QList<CalendarEntry> entries;
     for (const auto& id : m_order) {
         auto& calendar = m_calendars[id];
@@ -229,39 +223,6 @@ void CalendarReader::finish()
     }
     if (const auto answer = std::exchange(m_answer, nullptr)) {
         answer(entries);
-    }
-}
-
-std::unique_ptr<GSource, GSourceEnded> CalendarReader::callIn(std::chrono::milliseconds delay,
-                                                              GSourceFunc call)
-{
-    std::unique_ptr<GSource, GSourceEnded> source(
-        g_timeout_source_new(static_cast<guint>(delay.count())));
-    g_source_set_callback(source.get(), call, this, nullptr);
-    g_source_attach(source.get(), g_main_context_get_thread_default());
-    return source;
-}
-
-void CalendarReader::announceIn(std::chrono::milliseconds delay)
-{
-    const auto due = std::chrono::steady_clock::now() + delay;
-    if (m_announcement && m_due <= due) {
-        return;
-    }
-    m_due = due;
-    m_announcement = callIn(delay, [](gpointer data) -> gboolean {
-        auto* reader = static_cast<CalendarReader*>(data);
-        reader->m_announcement.reset();
-        reader->m_announcesDeath = false;
-        reader->m_changed();
-        return G_SOURCE_REMOVE;
-    });
-}
-
-void CalendarReader::announceDeath()
-{
-    if (!std::exchange(m_announcesDeath, true)) {
-        announceIn(Pause * (1 << std::min(m_deaths++, MostDoublings)));
     }
 }
 

@@ -1,25 +1,18 @@
 #pragma once
 
+#include "platform/linux/calendar/eds/announcements.h"
 #include "platform/linux/calendar/eds/calendarworker.h"
+#include "platform/linux/calendar/eds/delayedcall.h"
 
 #include <QByteArray>
 #include <QList>
 
-#include <chrono>
 #include <functional>
 #include <map>
 #include <memory>
 #include <vector>
 
 namespace quib {
-
-struct GSourceEnded {
-    void operator()(GSource* source) const
-    {
-        g_source_destroy(source);
-        g_source_unref(source);
-    }
-};
 
 /// All of the user's calendars, each on a thread of its own. What can't be reached, and what does
 /// not answer for a while, has the events that were read last. Lives on a thread with a loop of
@@ -62,15 +55,9 @@ private:
     std::shared_ptr<CalendarWorker> makeWorker(ESource* source);
     /// Posts the work; it is not done once this has gone. The result is called on any thread.
     std::function<void()> posting(std::function<void()> work) const;
-    std::unique_ptr<GSource, GSourceEnded> callIn(std::chrono::milliseconds delay,
-                                                  GSourceFunc call);
-    /// Unless that happens sooner anyway.
-    void announceIn(std::chrono::milliseconds delay);
-    void announceDeath();
 
     Post m_post;
     GCancellable* m_cancellable;
-    std::function<void()> m_changed;
     GOwned<GDBusConnection> m_bus; ///< Null unless open.
     GOwned<ESourceRegistry> m_registry;
     Span m_span;
@@ -78,11 +65,8 @@ private:
     std::vector<QByteArray> m_order; ///< Of the ids, as the registry has them.
     Answer m_answer; ///< To the question of now; empty when there is none.
     int m_awaited = 0; ///< Calendars that have yet to answer it.
-    std::unique_ptr<GSource, GSourceEnded> m_patience; ///< With them.
-    std::unique_ptr<GSource, GSourceEnded> m_announcement; ///< Null when none is due.
-    std::chrono::steady_clock::time_point m_due; ///< Of the announcement.
-    bool m_announcesDeath = false; ///< Of which every calendar tells.
-    int m_deaths = 0; ///< Of the service, since another span is watched.
+    DelayedCall m_patience; ///< With them.
+    Announcements m_announcements;
     std::shared_ptr<bool> m_isHere = std::make_shared<bool>(true); ///< Goes with this.
 };
 
