@@ -21,7 +21,7 @@ class SanitizersCalls {
 public:
     bool has(const QString& name)
     {
-#ifdef __SANITIZE_ADDRESS__
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
         constexpr int CallsOfALook = 4; // At whether memory is there: a pipe, a write, two closes.
         m_left = name == QLatin1StringView("pipe2") ? CallsOfALook : std::max(0, m_left - 1);
         return m_left > 0
