@@ -2,11 +2,15 @@
 
 #include "model/file/privatefolder.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 
+#include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <optional>
+#include <thread>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -16,10 +20,14 @@
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace quib {
 
 namespace {
+
+constexpr auto PatienceWithABeginner = 500ms; // It takes the lock, and listens a moment later.
+constexpr auto PauseBetweenKnocks = 5ms;
 
 /// In a folder that others can write to, only a folder of the user's own that nobody else enters.
 bool isPrivate(const QByteArray& folder)
@@ -59,6 +67,12 @@ const sockaddr* general(const sockaddr_un& address)
 int openSocket()
 {
     return socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+}
+
+/// Nobody is there yet, or only what a crash has left.
+bool isNotListening(int error)
+{
+    return error == ENOENT || error == ECONNREFUSED;
 }
 
 void closeIfOpen(int descriptor)
@@ -107,8 +121,11 @@ void InstanceLock::knock(Knock knock) const
 {
     const auto address = addressOf(path(".socket"));
     const auto sender = openSocket();
-    if (address) {
-        sendto(sender, &knock, sizeof knock, 0, general(*address), sizeof *address);
+    const QDeadlineTimer latest(PatienceWithABeginner);
+    while (address
+           && sendto(sender, &knock, sizeof knock, 0, general(*address), sizeof *address) < 0
+           && isNotListening(errno) && !latest.hasExpired()) {
+        std::this_thread::sleep_for(PauseBetweenKnocks);
     }
     closeIfOpen(sender);
 }

@@ -28,7 +28,8 @@ public:
                  ///< the desktop's name.
     };
 
-    /// To the process that has the lock; never waits.
+    /// To the process that has the lock. Waits a moment for one that has only just taken it, never
+    /// for one that hangs.
     void knock(Knock knock) const;
 
 Q_SIGNALS:

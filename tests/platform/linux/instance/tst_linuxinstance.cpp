@@ -7,7 +7,13 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
+#include <thread>
+
+#include <sys/file.h>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -33,6 +39,7 @@ private Q_SLOTS:
     void claim_noRuntimeFolder_activatesTheFirst();
     void claim_folderOfOthersInTheWay_isAlone();
     void claim_otherFolderForLocks_isSuperseded();
+    void claim_firstHasOnlyJustBegun_isHeardByIt();
 
 private:
     static void withAndWithoutBus();
@@ -213,6 +220,36 @@ void LinuxInstanceTest::claim_otherFolderForLocks_isSuperseded()
     QTRY_COMPARE(second.count("superseded"), 1);
     QTRY_COMPARE(first.activations(), 1);
     QCOMPARE(first.count("superseded"), 0);
+}
+
+/// The lock is taken before anybody listens.
+void LinuxInstanceTest::claim_firstHasOnlyJustBegun_isHeardByIt()
+{
+    const auto name = folder(lockName(nativePath(folder(u"work"_s))));
+    QFile lock(name + u".lock"_s);
+    QVERIFY(lock.open(QIODevice::ReadWrite));
+    QCOMPARE(::flock(lock.handle(), LOCK_EX | LOCK_NB), 0);
+    int heard = -1;
+    std::thread listener([&] {
+        QThread::msleep(50); // Whoever comes later than this is heard at once.
+        const int socket = ::socket(AF_UNIX, SOCK_DGRAM, 0);
+        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+        qstrncpy(address.sun_path, QFile::encodeName(name + u".socket"_s).constData(),
+                 sizeof address.sun_path);
+        const timeval patience{.tv_sec = 5, .tv_usec = 0};
+        ::setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
+        char knock = 0;
+        if (::bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0) {
+            heard = int(::recv(socket, &knock, 1, 0));
+        }
+        ::close(socket);
+    });
+
+    const Start second(folder(u"work"_s), m_withoutBus);
+    listener.join();
+
+    QCOMPARE(second.answer(), u"refused"_s);
+    QCOMPARE(heard, 1);
 }
 
 QTEST_GUILESS_MAIN(LinuxInstanceTest)
