@@ -25,8 +25,9 @@ const char* __lsan_default_options()
 const char* __tsan_default_options()
 {
     // How libraries that were built without it take turns, it does not see.
+    // Qt and the tests start programs beside threads.
     return "halt_on_error=1:second_deadlock_stack=1:ignore_noninstrumented_modules=1:"
-           "suppressions=" SUPPRESSIONS "/threads.txt";
+           "die_after_fork=0:suppressions=" SUPPRESSIONS "/threads.txt";
 }
 // NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)
 }
