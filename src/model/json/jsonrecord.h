@@ -36,9 +36,9 @@ struct AskedMember {
     }
     static constexpr bool mayBeMissing()
     {
-        return requires(T value)
+        return requires(T given)
         {
-            value.has_value();
+            given.has_value();
         };
     }
 };
