@@ -259,6 +259,13 @@ int CalendarDesk::connections() const
     }));
 }
 
+int CalendarDesk::threads() const
+{
+    return int(QDir(u"/proc/%1/task"_s.arg(m_program.processId()))
+                   .entryList(QDir::Dirs | QDir::NoDotAndDotDot)
+                   .size());
+}
+
 bool CalendarDesk::quit()
 {
     send({u"quit"_s});

@@ -63,6 +63,7 @@ public:
     bool quit();
     bool hasLoaded(const QString& library) const;
     int connections() const; ///< Of the program to the bus.
+    int threads() const; ///< Of the program.
     QByteArray complaints() { return m_program.readAllStandardError(); }
 
     /// Changes calendars as another program does.

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void serviceKilledWhileItReads_leavesWhatWasRead();
     void hungService_holdsUpNothing();
     void hungCalendar_holdsUpNoOther();
+    void hungCalendar_keepsNoThreadOfDaysThatAreOver();
     void hungCalendar_holdsUpNotTheEnd();
     void hungRegistry_holdsUpNeitherThePanelNorTheEnd();
     void manyRecurringEvents_canBeQuitFrom();
@@ -129,6 +130,26 @@ void EdsCalendarServiceTest::hungCalendar_holdsUpNoOther()
     QTRY_VERIFY(desk.changes() > then);
     QCOMPARE(desk.read(Monday).size(), 2);
     QVERIFY(desk.quit());
+}
+
+void EdsCalendarServiceTest::hungCalendar_keepsNoThreadOfDaysThatAreOver()
+{
+    constexpr int Days = 4;
+    constexpr int ComeAndGo = 2; // Of the libraries.
+    CalendarDesk desk;
+    desk.makeHungCalendar(u"holidays"_s);
+    desk.makeCalendar(u"work"_s, Call);
+    desk.startBus();
+    desk.startGranted();
+    QCOMPARE(desk.read(Monday), ShownCall);
+    const auto before = desk.threads();
+
+    for (int day = 1; day <= Days; ++day) {
+        QCOMPARE(desk.read(Monday.addDays(day)), QStringList());
+    }
+
+    QTRY_VERIFY(desk.threads() <= before + ComeAndGo);
+    desk.endHanging(u"holidays"_s, Call);
 }
 
 void EdsCalendarServiceTest::hungCalendar_holdsUpNotTheEnd()

@@ -10,7 +10,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto Patience = 1s; ///< With a calendar that does not answer, while others have.
+constexpr auto Patience = 1s; ///< With calendars that do not answer, once one has.
+constexpr auto LongestPatience = 5s; ///< Before any has: their service may have to start.
 constexpr auto LongestGoodbye = 800ms; ///< To all of them together.
 
 constexpr std::array RegistrySignals{"source-added", "source-removed", "source-changed",
@@ -61,7 +62,8 @@ void CalendarReader::read(const Span& span, Answer answer)
         finish();
         return;
     }
-    m_patience.start(Patience, [this] { finish(); });
+    m_isFirstAwaited = true;
+    m_patience.start(LongestPatience, [this] { finish(); });
 }
 
 bool CalendarReader::open()
@@ -181,10 +183,20 @@ void CalendarReader::take(const QByteArray& id, const std::shared_ptr<CalendarWo
     if (std::exchange(calendar.isAskedAgain, false)) {
         ask(id, calendar);
     }
-    if (std::exchange(calendar.isAwaited, false) && --m_awaited == 0) {
-        finish();
+    if (std::exchange(calendar.isAwaited, false)) {
+        countAnswer(entries.has_value());
     } else if (isNews && !m_answer) {
         m_announcements.tellOfChange(); // Who asked has been answered without it.
+    }
+}
+
+/// To the question of now.
+void CalendarReader::countAnswer(bool isRead)
+{
+    if (--m_awaited == 0) {
+        finish();
+    } else if (isRead && std::exchange(m_isFirstAwaited, false)) {
+        m_patience.start(Patience, [this] { finish(); });
     }
 }
 
@@ -192,7 +204,7 @@ std::shared_ptr<CalendarWorker> CalendarReader::makeWorker(ESource* source)
 {
     try {
         return std::make_shared<CalendarWorker>(
-            source, m_span, m_cancellable,
+            source, m_span,
             CalendarClient::Listener{.changed = posting([this] { m_announcements.tellOfChange(); }),
                                      .died = posting([this] { m_announcements.tellOfDeath(); })});
     } catch (const std::system_error&) {

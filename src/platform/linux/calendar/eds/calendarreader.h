@@ -51,6 +51,7 @@ private:
     void ask(const QByteArray& id, Calendar& calendar);
     void take(const QByteArray& id, const std::shared_ptr<CalendarWorker>& worker,
               const std::optional<QList<CalendarEntry>>& entries);
+    void countAnswer(bool isRead);
     void finish();
     std::shared_ptr<CalendarWorker> makeWorker(ESource* source);
     /// Posts the work; it is not done once this has gone. The result is called on any thread.
@@ -65,6 +66,7 @@ private:
     std::vector<QByteArray> m_order; ///< Of the ids, as the registry has them.
     Answer m_answer; ///< To the question of now; empty when there is none.
     int m_awaited = 0; ///< Calendars that have yet to answer it.
+    bool m_isFirstAwaited = false; ///< None of them has been read yet.
     DelayedCall m_patience; ///< With them.
     Announcements m_announcements;
     std::shared_ptr<bool> m_isHere = std::make_shared<bool>(true); ///< Goes with this.

@@ -7,9 +7,9 @@ namespace quib {
 struct CalendarWorker::State {
     GOwned<ESource> source;
     Span span;
-    GOwned<GCancellable> cancellable;
     CalendarClient::Listener listener;
-    std::unique_ptr<CalendarClient> client; ///< Null where it can't be opened.
+    GOwned<GCancellable> cancellable{g_cancellable_new()};
+    std::unique_ptr<CalendarClient> client{}; ///< Null where it can't be opened.
 
     std::optional<QList<CalendarEntry>> read()
     {
@@ -20,14 +20,11 @@ struct CalendarWorker::State {
     }
 };
 
-CalendarWorker::CalendarWorker(ESource* source, Span span, GCancellable* cancellable,
-                               CalendarClient::Listener listener)
-    : CalendarWorker(std::make_shared<State>(
-        State{.source = GOwned<ESource>(E_SOURCE(g_object_ref(source))),
-              .span = std::move(span),
-              .cancellable = GOwned<GCancellable>(G_CANCELLABLE(g_object_ref(cancellable))),
-              .listener = std::move(listener),
-              .client = nullptr}))
+CalendarWorker::CalendarWorker(ESource* source, Span span, CalendarClient::Listener listener)
+    : CalendarWorker(
+        std::make_shared<State>(State{.source = GOwned<ESource>(E_SOURCE(g_object_ref(source))),
+                                      .span = std::move(span),
+                                      .listener = std::move(listener)}))
 {
 }
 
@@ -35,6 +32,17 @@ CalendarWorker::CalendarWorker(const std::shared_ptr<State>& state)
     : m_state(state)
     , m_thread([state] { state->client.reset(); })
 {
+}
+
+CalendarWorker::~CalendarWorker()
+{
+    end();
+}
+
+void CalendarWorker::end() const
+{
+    g_cancellable_cancel(m_state->cancellable.get());
+    m_thread.end();
 }
 
 void CalendarWorker::read(Answer answer) const

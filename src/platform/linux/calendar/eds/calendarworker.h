@@ -13,21 +13,25 @@ public:
 
     /// The listener is called on the other thread. Throws std::system_error where there is no room
     /// for a thread.
-    CalendarWorker(ESource* source, Span span, GCancellable* cancellable,
-                   CalendarClient::Listener listener);
+    CalendarWorker(ESource* source, Span span, CalendarClient::Listener listener);
+    /// As end().
+    ~CalendarWorker();
+    CalendarWorker(const CalendarWorker&) = delete;
+    CalendarWorker& operator=(const CalendarWorker&) = delete;
 
     /// Connects first, where it has not or where the service has crashed. The answer is given on
     /// the other thread.
     void read(Answer answer) const;
+    /// What it waits for is given up.
+    void end() const;
     void leaveBy(std::chrono::steady_clock::time_point latest) { m_thread.leaveBy(latest); }
-    void end() const { m_thread.end(); }
 
 private:
     struct State;
 
     CalendarWorker(const std::shared_ptr<State>& state);
 
-    std::shared_ptr<State> m_state; ///< The thread's too. Of the thread alone.
+    std::shared_ptr<State> m_state; ///< The thread's too.
     LoopThread m_thread;
 };
 

@@ -1,6 +1,8 @@
 #include "platform/linux/calendar/eds/loopthread.h"
 
+#include <deque>
 #include <future>
+#include <mutex>
 #include <utility>
 
 namespace quib {
@@ -36,23 +38,16 @@ public:
         m_ended.set_value();
     }
 
+    /// GLib's loop only wakes: what passes between the threads does so under a lock of ours.
     void post(Work work)
     {
-        const auto unlessOver = [this, work = std::move(work)] {
-            if (!m_isOver) {
-                work();
-            }
-        };
+        {
+            const std::lock_guard lock(m_posting);
+            m_posted.push_back(std::move(work));
+        }
         auto* source = g_idle_source_new();
         g_source_set_priority(source, G_PRIORITY_DEFAULT);
-        g_source_set_callback(
-            source,
-            [](gpointer data) -> gboolean {
-                (*static_cast<Work*>(data))();
-                return G_SOURCE_REMOVE;
-            },
-            std::make_unique<Work>(unlessOver).release(),
-            [](gpointer data) { const std::unique_ptr<Work> released(static_cast<Work*>(data)); });
+        g_source_set_callback(source, doNext, this, nullptr);
         g_source_attach(source, m_context.get());
         g_source_unref(source);
     }
@@ -68,8 +63,28 @@ public:
     }
 
 private:
+    static gboolean doNext(gpointer loop)
+    {
+        auto* self = static_cast<Loop*>(loop);
+        const auto work = self->takeNext();
+        if (!self->m_isOver) {
+            work();
+        }
+        return G_SOURCE_REMOVE;
+    }
+
+    Work takeNext()
+    {
+        const std::lock_guard lock(m_posting);
+        auto work = std::move(m_posted.front());
+        m_posted.pop_front();
+        return work;
+    }
+
     Work m_atTheEnd;
     bool m_isOver = false; ///< Of the thread alone.
+    std::mutex m_posting;
+    std::deque<Work> m_posted; ///< As many as there are sources that wake for them.
     std::unique_ptr<GMainContext, GContextReleased> m_context{g_main_context_new()};
     std::unique_ptr<GMainLoop, GLoopReleased> m_loop{g_main_loop_new(m_context.get(), FALSE)};
     std::promise<void> m_ended;
