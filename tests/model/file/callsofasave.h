@@ -24,8 +24,8 @@ public:
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
         constexpr int CallsOfALook = 4; // At whether memory is there: a pipe, a write, two closes.
         m_left = name == QLatin1StringView("pipe2") ? CallsOfALook : std::max(0, m_left - 1);
-        return m_left > 0
-            || name == QLatin1StringView("mmap"); // Without memory it ends the program.
+        return m_left > 0 || name == QLatin1StringView("mmap")
+            || name == QLatin1StringView("munmap"); // Its own memory's: it ends the program.
 #else
         return name.isEmpty();
 #endif
