@@ -52,11 +52,11 @@ public:
     void hangBus() const;
     void resumeBus() const;
     void killBus();
-    /// Somebody whose name starts so.
     QString busAddress() const
     {
         return m_environment.value(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
     }
+    /// Somebody whose name starts so.
     bool isOnBus(const QString& beginning) const;
 
 protected:

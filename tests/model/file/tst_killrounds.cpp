@@ -76,7 +76,9 @@ private Q_SLOTS:
 void KillRoundsTest::killedAtAnyMoment_theFileIsWholeAndNoOlderThanTheLastSave()
 {
     const DataFolderForTest folder;
-    QRandomGenerator random(QRandomGenerator::global()->generate());
+    const auto seed = QRandomGenerator::global()->generate();
+    QRandomGenerator random(seed);
+    qInfo("instants of the seed %u", seed);
     quint32 last = 0;
     int between = 0; // Kills of a save that was under way.
 
